@@ -1,0 +1,31 @@
+# What every target of this project has in common: warnings, the Windows version it is written for, sanitizers.
+option(KZ_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+function(kz_common target)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  target_compile_options(${target} PRIVATE
+    $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror>)
+  if(WIN32)
+    target_compile_definitions(${target} PRIVATE UNICODE _UNICODE WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0700)
+  endif()
+  if(KZ_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PUBLIC -fsanitize=address,undefined)
+  endif()
+endfunction()
+
+# A Windows DLL: NAME.dll, its symbols stripped in a release build, no "lib" before the name.
+function(kz_dll target)
+  add_library(${target} SHARED ${ARGN})
+  set_target_properties(${target} PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
+  kz_common(${target})
+  target_link_options(${target} PRIVATE $<$<CONFIG:Release>:-s>)
+endfunction()
+
+# Resource scripts are UTF-8; includes are searched in the given folders.
+function(kz_resources target)
+  foreach(folder ${ARGN})
+    set_property(TARGET ${target} APPEND PROPERTY INCLUDE_DIRECTORIES ${folder})
+  endforeach()
+  target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:RC>:--codepage=65001>)
+endfunction()

@@ -1,0 +1,11 @@
+# pugixml in its wide-character build, from the Debian source package that the set-up step fetched.
+set(KZ_PUGIXML_SOURCE ${CMAKE_SOURCE_DIR}/build/deps/pugixml/src CACHE PATH "Folder that holds pugixml.cpp")
+if(NOT EXISTS ${KZ_PUGIXML_SOURCE}/pugixml.cpp)
+  message(FATAL_ERROR "pugixml's source is not in ${KZ_PUGIXML_SOURCE}: run ./dev build, which fetches it")
+endif()
+add_library(kz_pugixml STATIC ${KZ_PUGIXML_SOURCE}/pugixml.cpp)
+target_include_directories(kz_pugixml SYSTEM PUBLIC ${KZ_PUGIXML_SOURCE})
+target_compile_definitions(kz_pugixml PUBLIC PUGIXML_WCHAR_MODE)
+if(KZ_SANITIZE)
+  target_compile_options(kz_pugixml PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all)
+endif()

@@ -1,0 +1,27 @@
+// A push button that shows a picture beside its text, drawn by the system's own button.
+#pragma once
+
+#include <afxwin.h>
+
+#include "KZBasicString.h"
+
+class KZ_API CImageButton : public CButton {
+public:
+    CImageButton();
+    ~CImageButton() override;
+
+    // Shows the picture of a PNG file; a name without a folder is looked up in the host's image folder.
+    //   transparent   the colour that counts as transparent; 0xFFFFFFFF takes the file's own transparency
+    //   imageOnTop    true: the picture above the text; false: to the left of it
+    // A file that is missing or cannot be read leaves the button with its text alone and returns false.
+    bool SetImage(const KZBasicString& path, COLORREF transparent, bool imageOnTop);
+
+    // Loads a PNG file as a bitmap for image lists. Pixels that the file leaves transparent get one colour, which
+    // transparentColour (may be null) receives.
+    // Returns false, leaving the bitmap empty, when the file is missing or cannot be read.
+    static bool GetBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* transparentColour);
+
+private:
+    struct State;
+    State* m_state;
+};

@@ -1,0 +1,95 @@
+// The host's configuration documents: an element tree whose named values are child elements with text.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "KZBasicString.h"
+
+// How a document operation ended: empty message on success, otherwise one line that names the file, the reason and,
+// for a text that is not well-formed, the line and column.
+struct KZDocumentResult {
+    bool ok = true;
+    KZBasicString message;
+
+    explicit operator bool() const noexcept { return ok; }
+};
+
+class KZ_API XmlDocument {
+public:
+    class KZ_API XmlNode {
+    public:
+        // The element's name.
+        [[nodiscard]] const wchar_t* Name() const noexcept;
+
+        // The text at a path of named values below this element ("information/mode"), or the default when there is no
+        // such element. The pointer is valid until that value or the document changes.
+        [[nodiscard]] const wchar_t* Value(const wchar_t* path, const wchar_t* defaultText) const noexcept;
+
+        // The first element that a query path names, or null. Steps are separated by "/"; a step "name?value=text?"
+        // takes the first child "name" whose named value equals the text exactly. The text runs to the last "?" of its
+        // step and may hold any other character, "/" included.
+        [[nodiscard]] XmlNode* Node(const wchar_t* path) const;
+
+        // The same with the path formatted as printf does (%s is const wchar_t*, %d int). What an argument holds never
+        // counts as path syntax, except "?" followed by "/" or the end inside a text.
+        [[nodiscard]] XmlNode* NodeV(const wchar_t* format, ...) const;
+
+        // Creates a child element: before the given child, or as the last one when before is null.
+        XmlNode* NewChild(const wchar_t* name, XmlNode* before);
+
+        // Sets the text of the named value (a direct child), creating the child when there is none.
+        void SetValue(const wchar_t* name, const wchar_t* text);
+        void SetValue(const wchar_t* name, int value);
+
+        // First child and next sibling with the given element name, or null.
+        [[nodiscard]] XmlNode* FirstChild(const wchar_t* name) const;
+        [[nodiscard]] XmlNode* NextSibling(const wchar_t* name) const;
+
+        XmlNode(const XmlNode&) = delete;
+        XmlNode& operator=(const XmlNode&) = delete;
+        ~XmlNode();
+
+    private:
+        friend class XmlDocument;
+        struct Handle;
+        explicit XmlNode(const Handle& handle) noexcept;
+        XmlDocument* m_document;
+        void* m_element;
+    };
+
+    // An empty document with one root element of the given name.
+    explicit XmlDocument(const wchar_t* rootName);
+    virtual ~XmlDocument();
+    XmlDocument(const XmlDocument&) = delete;
+    XmlDocument& operator=(const XmlDocument&) = delete;
+
+    // Replaces the content by that of a UTF-8 text or file whose root element must have this document's root name.
+    // On failure the content stays as it was. Elements, attributes, comments and their order are all kept.
+    // Every XmlNode of the old content is invalid afterwards.
+    KZDocumentResult Parse(std::string_view utf8);
+    KZDocumentResult Load(const std::filesystem::path& file);
+
+    // Writes the document as UTF-8 beside the file, flushes it and moves it over the file in one step; the document is
+    // then clean. On failure the old file stands untouched and the document stays dirty.
+    KZDocumentResult Save(const std::filesystem::path& file);
+    [[nodiscard]] std::string Serialize() const;
+
+    // The root element; never null, valid until the next Parse or Load.
+    [[nodiscard]] XmlNode* Root() const noexcept;
+
+    // The same as Root()->Node(path).
+    [[nodiscard]] XmlNode* Node(const wchar_t* path) const;
+
+    // Whether the content differs from the file. A document is dirty when somebody says so, not on every change: a
+    // dialog may set values and the owner still decide that nothing is to be saved.
+    void SetDirty(bool dirty) noexcept;
+    [[nodiscard]] bool IsDirty() const noexcept;
+
+private:
+    friend class XmlNode;
+    struct State;
+    std::unique_ptr<State> m_state;
+};
