@@ -1,0 +1,56 @@
+# One call per test program:
+#
+#   kz_test(NAME source... [LIBS library...] [DPI] [SPANISH] [TIMEOUT seconds])
+#
+# NAME.exe goes to build/<preset>/tests, away from the product. It gets the project's warnings, GoogleTest, GoogleMock, on
+# Windows the helpers of tests/support, and a main function unless one of its sources or libraries has its own. Each test
+# case is one ctest entry, listed when ctest starts: natively "native.Suite.Case", under Wine "wine.Suite.Case". TIMEOUT is
+# for one case, 60 s unless told. DPI adds one entry for the whole program at 120 and one at 144 dots per inch,
+# SPANISH one for the whole program with a Spanish user locale (both Windows only).
+include(GoogleTest)
+
+if(WIN32)
+  set(KZ_TEST_PLATFORM wine)
+  set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_SOURCE_DIR}/tools/run-wine.sh)
+else()
+  set(KZ_TEST_PLATFORM native)
+endif()
+
+function(kz_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "DPI;SPANISH" "TIMEOUT" "LIBS")
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 60)
+  endif()
+  add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
+  kz_common(${name})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  # gtest_main stands last: the linker takes its main only when nothing before it has one.
+  target_link_libraries(${name} PRIVATE
+    $<TARGET_NAME_IF_EXISTS:kz_test_support> ${arg_LIBS} gmock gtest gtest_main)
+  if(TARGET kz_runtime)
+    add_dependencies(${name} kz_runtime)
+  endif()
+
+  # Programs under Wine share one desktop, its focus and its foreground window, so they run one at a time.
+  set(properties TIMEOUT ${arg_TIMEOUT} LABELS ${KZ_TEST_PLATFORM})
+  if(WIN32)
+    # The launcher ends the program itself; ctest would only end the launcher.
+    math(EXPR limit "${arg_TIMEOUT} + 20")
+    set(properties TIMEOUT ${limit} LABELS wine ENVIRONMENT KZ_TEST_TIMEOUT=${arg_TIMEOUT} RESOURCE_LOCK wine)
+  endif()
+  gtest_discover_tests(${name} TEST_PREFIX ${KZ_TEST_PLATFORM}. DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
+    PROPERTIES ${properties})
+
+  if(WIN32 AND arg_DPI)
+    foreach(dpi 120 144)
+      add_test(NAME wine.${name}_dpi${dpi} COMMAND ${name})
+      set_tests_properties(wine.${name}_dpi${dpi} PROPERTIES
+        ENVIRONMENT KZ_TEST_DPI=${dpi} TIMEOUT 300 LABELS "wine;dpi" RESOURCE_LOCK wine_dpi${dpi})
+    endforeach()
+  endif()
+  if(WIN32 AND arg_SPANISH)
+    add_test(NAME wine.${name}_es COMMAND ${name})
+    set_tests_properties(wine.${name}_es PROPERTIES
+      ENVIRONMENT KZ_TEST_LOCALE=es_ES TIMEOUT 300 LABELS "wine;locale" RESOURCE_LOCK wine)
+  endif()
+endfunction()

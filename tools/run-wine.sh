@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Runs a Windows program of the build under Wine, without a display: run-wine.sh PROGRAM.exe [ARGUMENT...]
+# KZ_TEST_DPI chooses a resolution (96 unless set), KZ_TEST_LOCALE a user locale such as es_ES. A program in tests/ finds
+# the product's DLLs in bin/ beside it.
+set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/wine-env.sh"
+program=$(realpath "$1")
+shift
+wine_use "${KZ_TEST_DPI:-96}"
+if [ -n "${KZ_TEST_LOCALE:-}" ]; then wine_locale "$KZ_TEST_LOCALE"; fi
+bin=$(dirname "$(dirname "$program")")/bin
+WINEPATH=$(wine_path "$bin")
+export WINEPATH
+unset DISPLAY WAYLAND_DISPLAY
+wine_serve
+# The processes that Wine starts beside the program inherit its output and outlive it, so whoever reads that output through a
+# pipe would wait for them: a file lies between.
+output=$(mktemp)
+trap 'rm -f "$output"' EXIT
+status=0
+timeout --kill-after=5 "${KZ_TEST_TIMEOUT:-600}" "${wine_pin[@]}" wine "$program" "$@" < /dev/null > "$output" 2>&1 || status=$?
+cat "$output"
+if [ "$status" = 124 ]; then echo "run-wine.sh: $program ran longer than ${KZ_TEST_TIMEOUT:-600} s" >&2; fi
+exit "$status"
