@@ -1,27 +1,61 @@
 #!/usr/bin/env bash
-# Fetches pugixml's source from Debian's own source package into DIR: the packaged library is the narrow-character
-# build, and the documents here are wide. A private source list, derived from the machine's own binary lists, leaves the
-# machine's apt configuration as it was.
+# fetch-pugixml.sh DIR: puts pugixml's source into DIR, from Debian's own source package. The packaged library is the
+# narrow-character build, and the documents here are wide. The source lists used are private and derived from the
+# machine's own, so its apt configuration stays as it was; apt verifies the signed index and dpkg-source the checksums.
 set -euo pipefail
 dir=${1:?usage: fetch-pugixml.sh DIR}
 [ -f "$dir/src/pugixml.cpp" ] && exit 0
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-mkdir -p "$work/parts" "$work/lists/partial"
-# Only Debian's own lists: other vendors' lists rarely have a source section, and one that fails would end the update.
-for list in /etc/apt/sources.list /etc/apt/sources.list.d/*; do
-  [ -f "$list" ] || continue
-  grep -q debian-archive-keyring "$list" || grep -qE '^deb .*(bookworm|stable).* main' "$list" || continue
-  case $list in
-    *.sources) sed 's/^Types:.*/Types: deb-src/' "$list" > "$work/parts/$(basename "$list")" ;;
-    *) sed -nE 's|^deb((  *\[[^]]*\])?  *[^ ]+  *(bookworm|stable)(-[a-z]+)?(/updates)?  *main.*)|deb-src\1|p' "$list" > "$work/parts/$(basename "${list%.list}").list" ;;
-  esac
-done
-find "$work/parts" -size 0 -delete
-options=(-o Dir::Etc::sourcelist=/dev/null -o Dir::Etc::sourceparts="$work/parts" -o Dir::State::lists="$work/lists")
-apt-get "${options[@]}" -qq update
-(cd "$work" && apt-get "${options[@]}" -qq --download-only source pugixml && dpkg-source --no-check -x pugixml_*.dsc tree > /dev/null)
-mkdir -p "$(dirname "$dir")"
-rm -rf "$dir"
-mv "$work/tree" "$dir"
+: > "$work/log"
+
+# known OPTION...: "URI RELEASE" of each main component that apt has an index of; the release itself before its updates
+known() {
+  local release
+  release=$(. /etc/os-release && echo "${VERSION_CODENAME:-stable}")
+  apt-get "$@" indextargets --format '$(COMPONENT) $(REPO_URI) $(RELEASE)' 'Created-By: Packages' |
+    awk -v release="$release" '$1 == "main" { print ($3 == release ? 0 : 1), $2, $3 }' | sort -u | cut -d' ' -f2-
+}
+
+# A machine that has thrown its indexes away gets private ones; a vendor's list that fails does not matter here.
+repositories() {
+  local lists=$work/machine-lists found
+  found=$(known)
+  if [ -z "$found" ]; then
+    mkdir -p "$lists/partial"
+    apt-get -qq -o Dir::State::Lists="$lists" -o APT::Sandbox::User=root update >> "$work/log" 2>&1 || true
+    found=$(known -o Dir::State::Lists="$lists")
+  fi
+  if [ -n "$found" ]; then echo "$found"; fi
+}
+
+# fetch URI RELEASE: only what Debian itself has signed counts
+fetch() {
+  local options=(-qq -o Dir::Etc::SourceList=/dev/null -o Dir::Etc::SourceParts="$work/parts" -o Dir::State::Lists="$work/lists"
+    -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache= -o APT::Sandbox::User=root)
+  rm -rf "$work"/{parts,lists,package}
+  mkdir -p "$work/parts" "$work/lists/partial" "$work/package"
+  cat > "$work/parts/debian.sources" <<END
+Types: deb-src
+URIs: $1
+Suites: $2
+Components: main
+Signed-By: /usr/share/keyrings/debian-archive-keyring.gpg
+END
+  apt-get "${options[@]}" update && cd "$work/package" &&
+    apt-get "${options[@]}" --download-only source pugixml && dpkg-source -x pugixml_*.dsc tree
+}
+
+while read -r uri release; do
+  if (fetch "$uri" "$release") >> "$work/log" 2>&1; then
+    mkdir -p "$(dirname "$dir")"
+    rm -rf "$dir"
+    mv "$work/package/tree" "$dir"
+    exit 0
+  fi
+done < <(repositories)
+
+cat "$work/log" >&2
+echo "fetch-pugixml.sh: no Debian source list of this machine gave pugixml; is there a network?" >&2
+exit 1

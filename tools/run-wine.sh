@@ -11,7 +11,6 @@ if [ -n "${KZ_TEST_LOCALE:-}" ]; then wine_locale "$KZ_TEST_LOCALE"; fi
 bin=$(dirname "$(dirname "$program")")/bin
 WINEPATH=$(wine_path "$bin")
 export WINEPATH
-unset DISPLAY WAYLAND_DISPLAY
 wine_serve
 # The processes that Wine starts beside the program inherit its output and outlive it, so whoever reads that output through a
 # pipe would wait for them: a file lies between.

@@ -1,16 +1,34 @@
-# To be sourced. Wine for this project: prefixes of its own under build/, never the user's; no debugger on a crash; no
-# display. Functions start with wine_; their results are environment variables for the programs started afterwards.
+# To be sourced. Wine for this project: prefixes of its own under build/, never the user's; no debugger on a crash.
+# Functions start with wine_; their results are environment variables for the programs started afterwards.
 
 wine_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+wine_base=${KZ_WINE_PREFIX:-$wine_root/build/wine}
 
-# wine_use [DPI]: chooses the prefix; each resolution has its own, since Wine reads it once per session.
+# Windows programs and the server they start belong on one processor: they hand control to each other at every message, and
+# that is several times slower across two. The sessions take turns over the processors that there are.
+wine_pin_session() {
+  local ranges range cpus=() index=0
+  IFS=, read -ra ranges < <(sed -n 's/^Cpus_allowed_list:[[:space:]]*//p' /proc/self/status)
+  for range in "${ranges[@]}"; do mapfile -t -O ${#cpus[@]} cpus < <(seq "${range%-*}" "${range#*-}"); done
+  if [ "$wine_session" != 96 ]; then index=1; fi
+  wine_pin=(taskset -c "${cpus[index % ${#cpus[@]}]}")
+}
+
+# wine_use SESSION: 96, 120 or 144 are sessions without a display at that many dots per inch (Wine reads the resolution once
+# per session, so each has a prefix of its own); desktop draws on DISPLAY, in one window of 1280 x 1024.
 wine_use() {
-  local dpi=${1:-96}
-  export WINEPREFIX=${KZ_WINE_PREFIX:-$wine_root/build/wine}
-  [ "$dpi" = 96 ] || WINEPREFIX=$WINEPREFIX-$dpi
+  wine_session=$1
+  export WINEPREFIX=$wine_base-$wine_session
   export WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
-  wine_dpi=$dpi
+  wine_pin_session
+  if [ "$wine_session" != desktop ]; then unset DISPLAY WAYLAND_DISPLAY; fi
   if [ ! -f "$WINEPREFIX/.ready" ]; then wine_boot; fi
+}
+
+# wine_ready SESSION...: makes the prefixes ready ahead of their first use
+wine_ready() {
+  local session
+  for session in "$@"; do (wine_use "$session"); done
 }
 
 # wine_reg KEY NAME TYPE DATA
@@ -24,24 +42,36 @@ wine_boot() {
     [ -f "$WINEPREFIX/.ready" ] && exit 0
     unset DISPLAY WAYLAND_DISPLAY
     rm -rf "$WINEPREFIX"
-    "${wine_pin[@]}" wineboot --init > /dev/null 2>&1
-    wine_reg 'HKCU\Software\Wine\Drivers' Graphics REG_SZ null
+    "${wine_pin[@]}" wineboot --init < /dev/null > /dev/null 2>&1
     wine_reg 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' Auto REG_SZ 0
     wine_reg 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' Debugger REG_SZ ''
-    wine_reg 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD "$wine_dpi"
+    if [ "$wine_session" = desktop ]; then
+      wine_reg 'HKCU\Software\Wine\Explorer' Desktop REG_SZ kz
+      wine_reg 'HKCU\Software\Wine\Explorer\Desktops' kz REG_SZ 1280x1024
+    else
+      wine_reg 'HKCU\Software\Wine\Drivers' Graphics REG_SZ null
+      wine_reg 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD "$wine_session"
+    fi
     # The settings count from the next session on, and the registry is on disk only when the server has ended.
-    wineserver -k
-    wineserver -w
+    wine_stop
     touch "$WINEPREFIX/.ready"
   ) 9> "$WINEPREFIX.lock" || { echo "wine: cannot make the prefix $WINEPREFIX" >&2; return 1; }
 }
 
-# Windows programs and the server they start belong on one processor: they hand control to each other at every message, and
-# that is several times slower across two.
-wine_pin=(taskset -c "${KZ_WINE_CPU:-0}")
-
 # A server that stays for a minute makes the next start forty times quicker.
 wine_serve() { "${wine_pin[@]}" wineserver -p60 < /dev/null > /dev/null 2>&1 || true; }
+
+wine_stop() {
+  wineserver -k 2> /dev/null || true
+  wineserver -w
+}
+
+wine_stop_all() {
+  local folder
+  for folder in "$wine_base"-*/; do
+    if [ -d "$folder" ]; then (export WINEPREFIX=${folder%/}; wine_stop); fi
+  done
+}
 
 # wine_path FOLDER: FOLDER as Windows programs see it
 wine_path() { local path=${1//\//\\}; echo "Z:$path"; }

@@ -1,0 +1,55 @@
+# To be sourced. Installs the Debian packages that a verb needs; a second run finds them all and calls no installer.
+
+packages_build=(
+  cmake ninja-build g++                              # native build
+  g++-mingw-w64-x86-64-posix                         # cross build
+  googletest libcli11-dev librsvg2-bin dpkg-dev      # sources, headers, the pictures' renderer, the unpacker of pugixml
+)
+packages_wine=(
+  wine wine64 fonts-wine locales
+  libxcursor1 libxrandr2 libxi6 libxcomposite1 libxrender1 libxinerama1 libxfixes3 libxxf86vm1
+)
+packages_display=(xvfb xdotool imagemagick)
+packages_check=(python3)
+packages_format=(clang-format)
+packages_bench=(libbenchmark-dev)
+packages_package=(zip)
+
+say() { echo "== $*"; }
+fail() { echo "dev: $*" >&2; exit 1; }
+
+# set_up GROUP...
+set_up() {
+  local group missing=()
+  for group in "$@"; do
+    local -n packages=packages_$group
+    local package
+    for package in "${packages[@]}"; do
+      [ "$(dpkg-query -W -f '${Status}' "$package" 2> /dev/null)" = 'install ok installed' ] || missing+=("$package")
+    done
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+
+  command -v apt-get > /dev/null || fail "install these packages first: ${missing[*]} (this script installs them on Debian only)"
+  local as_root=(env DEBIAN_FRONTEND=noninteractive)
+  if [ "$(id -u)" != 0 ]; then
+    command -v sudo > /dev/null || fail "not root and no sudo: install these packages first: ${missing[*]}"
+    as_root=(sudo "${as_root[@]}")
+  fi
+  say "Installing ${missing[*]}"
+  local log
+  log=$(mktemp)
+  # An update that fails for another vendor's list is no reason to stop: the install tells whether Debian's were enough.
+  "${as_root[@]}" apt-get -qq update < /dev/null > "$log" 2>&1 || true
+  "${as_root[@]}" apt-get -qq install -y --no-install-recommends "${missing[@]}" < /dev/null >> "$log" 2>&1 || {
+    tail -30 "$log" >&2
+    fail "apt-get could not install ${missing[*]}; its whole output is in $log"
+  }
+  rm -f "$log"
+}
+
+set_up_pugixml() {
+  [ -f "$root/build/deps/pugixml/src/pugixml.cpp" ] && return
+  say "Fetching pugixml's source"
+  "$root/tools/fetch-pugixml.sh" "$root/build/deps/pugixml" || fail "could not fetch pugixml's source"
+}
