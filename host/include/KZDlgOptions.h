@@ -1,4 +1,8 @@
 // The driver options hub: a row of section buttons, each of which calls a hook that a driver's dialog overrides.
+//
+// Modal: construct, DoModal; OK closes with IDOK, Cancel with IDCANCEL; what a section has committed stays committed.
+// Child: construct, SetChild, SetBackgroundColor, Create; Enter and Escape then do nothing. The caller owns the object
+// and deletes it after or before the window is gone.
 #pragma once
 
 #include <afxwin.h>
@@ -21,6 +25,11 @@ enum KZOptionsSection : int {
 };
 inline constexpr int KZSectionButtonBase = 1200;
 
+// Sent to the hub's parent (the owner, when the hub is modal) after a section has changed something, so that it can
+// show the new state. WPARAM: the KZOptionsSection; LPARAM: 0; the answer is ignored. The receiver must not destroy the
+// hub.
+inline constexpr UINT WM_KZ_OPTIONS_CHANGED = WM_APP + 0x120;
+
 class KZ_API KZDlgOptions : public CDialog {
     DECLARE_DYNAMIC(KZDlgOptions)
 
@@ -32,7 +41,9 @@ public:
     void SetChild() noexcept;
     // The background of a child; to be called before Create.
     void SetBackgroundColor(COLORREF colour);
-    // Creates the window of a child dialog. Returns non-zero on success.
+    // Creates the window of a child dialog, visible, in the parent's client area; the parent moves it where it wants
+    // it. Returns non-zero on success, 0 when the parent has no window or the dialog could not be made: the object then
+    // has no window and can be deleted.
     int Create(CWnd* parent);
 
     // The driver given at construction; not owned.
@@ -76,6 +87,17 @@ private:
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
 
+    void SetTexts();
+    void SetPictures();
+    void AdaptToChild();
+    void AdaptToFrame();
+    bool LayOut(int columns, bool evenIfTooNarrow);
+    void TellOwner(KZOptionsSection section, bool changed);
+    bool NothingToSetUp(KZOptionsSection section);
+    [[nodiscard]] KZBasicString ModelName() const;
+    [[nodiscard]] XmlDocument::XmlNode* DeviceNode() const;
+    [[nodiscard]] XmlDocument::XmlNode* FindRecord(const wchar_t* query) const;
+
     KZDriver* m_pDriver;
     CImageButton m_btnOK;
     CImageButton m_btnCancel;
@@ -83,4 +105,5 @@ private:
     bool m_bChild = false;
     COLORREF m_clrBackground = CLR_INVALID;
     CBrush m_brBackground;
+    CFont m_fontHeading;
 };

@@ -1,0 +1,51 @@
+#include "KZDialogSetup.h"
+
+#include "KZLoadString.h"
+#include "KZQuorvelantaSetup.h"
+
+namespace {
+
+constexpr unsigned TextOk = 311;
+constexpr unsigned TextCancel = 312;
+
+void SetUpButton(CImageButton& button, unsigned text, const wchar_t* picture)
+{
+    button.SetWindowTextW(KZLoadString(text).c_str());
+    button.SetImage(KZQuorvelantaSetup::Get()->getImageFilePath() + picture, CLR_INVALID, false);
+}
+
+}  // namespace
+
+void KZSetUpOkCancel(CImageButton& ok, CImageButton& cancel)
+{
+    SetUpButton(ok, TextOk, L"OK-16.png");
+    SetUpButton(cancel, TextCancel, L"CANCEL-16.png");
+}
+
+HICON KZLoadProgramIcon() noexcept
+{
+    const unsigned id = KZQuorvelantaSetup::Get()->ProgramIDResource();
+    if (id == 0)
+        return nullptr;
+    const wchar_t* name = MAKEINTRESOURCEW(id);
+    const HINSTANCE module = AfxFindResourceHandle(name, reinterpret_cast<LPCWSTR>(RT_GROUP_ICON));
+    return LoadIconW(module, name);
+}
+
+void KZSetBigIcon(CWnd& dialog, HICON icon) noexcept
+{
+    dialog.SendMessage(WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
+}
+
+void KZSetBigIcon(CWnd& dialog) noexcept
+{
+    KZSetBigIcon(dialog, KZLoadProgramIcon());
+}
+
+void KZShowMessageAndFocus(const KZBasicString& text, CEdit& field)
+{
+    AfxMessageBox(text.c_str(), MB_OK);
+    field.SetFocus();
+    field.SendMessage(EM_SETSEL, 0, -1);
+    field.SendMessage(EM_SCROLLCARET);
+}

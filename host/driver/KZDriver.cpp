@@ -1,0 +1,3 @@
+#include "KZDriver.h"
+
+IMPLEMENT_DYNAMIC(KZDriver, CObject)

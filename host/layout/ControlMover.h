@@ -1,0 +1,22 @@
+// Collects the places that a layout gives to controls and moves those that are not there yet, all at once.
+#pragma once
+
+#include <afxwin.h>
+
+#include <vector>
+
+#include "DialogMetrics.h"
+
+class ControlMover {
+public:
+    void Add(const DialogMetrics& dialog, HWND window, ControlKind kind, const RECT& place);
+    void Apply() noexcept;
+
+private:
+    struct Move {
+        HWND parent;
+        HWND window;
+        RECT place;
+    };
+    std::vector<Move> m_moves;
+};
