@@ -1,14 +1,14 @@
 // Looks at the windows of other programs, so that a script with a mouse and a keyboard knows where to click and when to
 // go on.
 //
-//   WindowProbe windows                       one line per visible top-level window: x y width height, state, title
-//   WindowProbe wait TITLE                    until a window whose title contains TITLE is shown and takes input
-//   WindowProbe gone TITLE                    until no such window is shown
-//   WindowProbe point TITLE ID [ITEM]         the middle of a control, or of its tab or row ITEM, in screen coordinates
-//   WindowProbe text TITLE ID                 the control's text
-//   WindowProbe until TITLE ID STATE          until the control is checked, unchecked, enabled, disabled, focused, or
+//   WindowProbe windows                  one line per visible top-level window: x y width height, state, title
+//   WindowProbe wait TITLE               until a window whose title contains TITLE is shown and takes input
+//   WindowProbe gone TITLE               until no such window is shown
+//   WindowProbe point TITLE ID [ITEM]    the middle of a control, or of its tab or row ITEM, in screen coordinates
+//   WindowProbe text TITLE ID            the control's text
+//   WindowProbe until TITLE ID STATE     until the control is checked, unchecked, enabled, disabled or focused, or
 //   until
-//                                             it holds ITEMS=n rows, or its text contains TEXT=…
+//                                        it holds ITEMS=n rows (list view, list box) or its text contains TEXT=…
 //
 // TITLE "" is the window that takes input now. Of several controls with the id, the one that is shown counts. Every
 // wait ends after LimitMs with exit status 1 and the list of windows on standard error.
@@ -120,6 +120,13 @@ bool HasFocus(HWND control)
     return GetGUIThreadInfo(GetWindowThreadProcessId(control, nullptr), &info) && info.hwndFocus == control;
 }
 
+LRESULT ItemCount(HWND list)
+{
+    wchar_t name[64] = {};
+    GetClassNameW(list, name, static_cast<int>(std::size(name)));
+    return SendMessageW(list, std::wstring_view(name) == WC_LISTVIEWW ? LVM_GETITEMCOUNT : LB_GETCOUNT, 0, 0);
+}
+
 // Throws std::invalid_argument for a state that it does not know, at once rather than when the time is over.
 std::function<bool(HWND)> StateTest(const std::wstring& state)
 {
@@ -132,9 +139,7 @@ std::function<bool(HWND)> StateTest(const std::wstring& state)
     if (state == L"focused")
         return HasFocus;
     if (state.starts_with(L"ITEMS="))
-        return [wanted = std::stoi(state.substr(6))](HWND control) {
-            return SendMessageW(control, LVM_GETITEMCOUNT, 0, 0) == wanted;
-        };
+        return [wanted = std::stoi(state.substr(6))](HWND control) { return ItemCount(control) == wanted; };
     if (state.starts_with(L"TEXT="))
         return [wanted = state.substr(5)](HWND control) { return TextOf(control).find(wanted) != std::wstring::npos; };
     throw std::invalid_argument("unknown state " + Utf8(state));
