@@ -1,0 +1,111 @@
+#include "InformationRecord.h"
+
+#include <string>
+
+#include "KZStringIds.h"
+#include "KZWideChar.h"
+
+namespace zep {
+namespace {
+
+constexpr const wchar_t* RecordName = L"information";
+
+constexpr std::size_t Index(InformationField field) noexcept
+{
+    return static_cast<std::size_t>(field);
+}
+
+constexpr bool TableFollowsTheFields() noexcept
+{
+    for (std::size_t i = 0; i < InformationFieldCount; ++i)
+        if (Index(InformationFields[i].field) != i)
+            return false;
+    return true;
+}
+static_assert(TableFollowsTheFields());
+
+// The element's own name: the path without "information/".
+constexpr const wchar_t* NameOf(const InformationFieldInfo& info) noexcept
+{
+    return info.path + std::char_traits<wchar_t>::length(RecordName) + 1;
+}
+
+// The bounds that an entry must keep. A lower bound that only the message names is not enforced.
+struct EntryRule {
+    InformationField field;
+    const KZBasicString InformationEntries::*text;
+    std::optional<InformationBounds> bounds;
+    bool lowestEnforced;
+};
+
+// The ratio cannot be edited, so it has no range; it must still be there. A negative minimum current passes.
+constexpr std::array<EntryRule, 3> EntryRules{{
+    {InformationField::TransformerRatio, &InformationEntries::transformerRatio, std::nullopt, false},
+    {InformationField::MinimumCurrent, &InformationEntries::minimumCurrent, InformationBounds{0, 200}, false},
+    {InformationField::UnitCount, &InformationEntries::unitCount, InformationBounds{1, 8}, true},
+}};
+
+bool IsWithin(int value, const EntryRule& rule) noexcept
+{
+    if (!rule.bounds)
+        return true;
+    return value <= rule.bounds->highest && (!rule.lowestEnforced || value >= rule.bounds->lowest);
+}
+
+}  // namespace
+
+InformationRecord::InformationRecord(const XmlDocument::XmlNode& root)
+{
+    for (const auto& info : InformationFields) {
+        m_texts[Index(info.field)] = root.Value(info.path, info.defaultText);
+        if (info.setting)
+            m_settings.*info.setting = Number(info.field) & info.mask;
+    }
+}
+
+const KZBasicString& InformationRecord::Text(InformationField field) const noexcept
+{
+    return m_texts[Index(field)];
+}
+
+int InformationRecord::Number(InformationField field) const noexcept
+{
+    return KZWideChar::ToInteger(Text(field).c_str());
+}
+
+int InformationRecord::Choice(InformationField field, int count) const noexcept
+{
+    if (Text(field).IsEmpty())
+        return -1;
+    const int value = Number(field);
+    return value >= 0 && value < count ? value : -1;
+}
+
+std::optional<InformationFailure> CheckInformation(const InformationEntries& entries,
+                                                   InformationSettings& settings) noexcept
+{
+    for (const auto& rule : EntryRules) {
+        const auto& text = entries.*rule.text;
+        if (text.IsEmpty())
+            return InformationFailure{rule.field, KZS_FIELD_EMPTY, std::nullopt};
+        const int value = KZWideChar::ToInteger(text.c_str());
+        if (!IsWithin(value, rule))
+            return InformationFailure{rule.field, KZS_OUT_OF_RANGE, rule.bounds};
+        settings.*InformationFields[Index(rule.field)].setting = value;
+    }
+    settings.modes = entries.modes & ModeMask;
+    settings.filters = entries.filters & FilterMask;
+    return std::nullopt;
+}
+
+void WriteInformation(XmlDocument::XmlNode& root, const InformationSettings& settings)
+{
+    XmlDocument::XmlNode* information = root.Node(RecordName);
+    if (!information)
+        information = root.NewChild(RecordName, nullptr);
+    for (const auto& info : InformationFields)
+        if (info.written)
+            information->SetValue(NameOf(info), settings.*info.setting);
+}
+
+}  // namespace zep

@@ -1,0 +1,134 @@
+// The device's "information" record: what the dialog shows, which entries it accepts, what it writes back.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+
+#include "KZBasicString.h"
+#include "KZXmlDocument.h"
+
+namespace zep {
+
+// The record's children, in the order of the table.
+enum class InformationField {
+    Version,
+    SerialNumber,
+    Gamma,
+    Mode,
+    Filters,
+    TransformerRatio,
+    MinimumCurrent,
+    Algorithm,
+    UnitCount,
+    Status,
+};
+
+inline constexpr int ModeCount = 4;
+inline constexpr int FilterCount = 12;
+inline constexpr int AlgorithmCount = 3;
+inline constexpr int StatusCount = 2;
+
+// Bit 0 filters the 3rd harmonic, bit 11 the 25th.
+[[nodiscard]] constexpr int FilteredOrder(int filter) noexcept
+{
+    return 2 * filter + 3;
+}
+
+// The settings as numbers: what a change is measured against and what is written.
+struct InformationSettings {
+    int modes = 0;    // bits 0 to 3
+    int filters = 0;  // bits 0 to 11
+    int transformerRatio = 0;
+    int minimumCurrent = 0;  // amperes
+    int unitCount = 0;
+
+    friend bool operator==(const InformationSettings&, const InformationSettings&) noexcept = default;
+};
+
+struct InformationFieldInfo {
+    InformationField field;
+    const wchar_t* path;                // from the document's root
+    const wchar_t* defaultText;         // read when the child is missing
+    int InformationSettings::*setting;  // null for what is only shown
+    int mask;                           // the bits of the number that count
+    bool written;                       // the others keep whatever the document holds
+};
+
+inline constexpr int WholeNumber = -1;
+inline constexpr int ModeMask = (1 << ModeCount) - 1;
+inline constexpr int FilterMask = (1 << FilterCount) - 1;
+
+inline constexpr std::size_t InformationFieldCount = 10;
+inline constexpr std::array<InformationFieldInfo, InformationFieldCount> InformationFields{{
+    {InformationField::Version, L"information/version", L"?", nullptr, 0, false},
+    {InformationField::SerialNumber, L"information/serialNum", L"?", nullptr, 0, false},
+    {InformationField::Gamma, L"information/gamma", L"?", nullptr, 0, false},
+    {InformationField::Mode, L"information/mode", L"", &InformationSettings::modes, ModeMask, true},
+    {InformationField::Filters, L"information/filters", L"", &InformationSettings::filters, FilterMask, true},
+    {InformationField::TransformerRatio, L"information/transRatio", L"", &InformationSettings::transformerRatio,
+     WholeNumber, false},
+    {InformationField::MinimumCurrent, L"information/minCurrent", L"", &InformationSettings::minimumCurrent,
+     WholeNumber, true},
+    {InformationField::Algorithm, L"information/algorithm", L"", nullptr, 0, false},
+    {InformationField::UnitCount, L"information/numZEP", L"", &InformationSettings::unitCount, WholeNumber, true},
+    {InformationField::Status, L"information/status", L"", nullptr, 0, false},
+}};
+
+// What the controls hold when the user presses OK.
+struct InformationEntries {
+    int modes = 0;    // bits 0 to 3
+    int filters = 0;  // bits 0 to 11
+    KZBasicString transformerRatio;
+    KZBasicString minimumCurrent;
+    KZBasicString unitCount;
+};
+
+struct InformationBounds {
+    int lowest = 0;
+    int highest = 0;
+
+    friend bool operator==(const InformationBounds&, const InformationBounds&) noexcept = default;
+};
+
+// The first entry that is refused. With bounds, the text is a format that takes both.
+struct InformationFailure {
+    InformationField field = InformationField::TransformerRatio;
+    unsigned textId = 0;
+    std::optional<InformationBounds> bounds;
+
+    friend bool operator==(const InformationFailure&, const InformationFailure&) noexcept = default;
+};
+
+class InformationRecord {
+public:
+    // Reads the record below the root of a device configuration document; what is missing takes its default.
+    explicit InformationRecord(const XmlDocument::XmlNode& root);
+
+    // The child's text as the document holds it.
+    [[nodiscard]] const KZBasicString& Text(InformationField field) const noexcept;
+    // The text's leading integer, 0 without one.
+    [[nodiscard]] int Number(InformationField field) const noexcept;
+
+    [[nodiscard]] const InformationSettings& Settings() const noexcept { return m_settings; }
+
+    // The list items to select, -1 for none: a number that the record lacks, or one beyond the list, selects nothing.
+    [[nodiscard]] int AlgorithmChoice() const noexcept { return Choice(InformationField::Algorithm, AlgorithmCount); }
+    [[nodiscard]] int StatusChoice() const noexcept { return Choice(InformationField::Status, StatusCount); }
+
+private:
+    [[nodiscard]] int Choice(InformationField field, int count) const noexcept;
+
+    std::array<KZBasicString, InformationFieldCount> m_texts;
+    InformationSettings m_settings;
+};
+
+// Checks the entries in the order ratio, current, units and stops at the first that is refused. Each entry accepted
+// goes into settings, check boxes included, so that settings are complete when nothing is returned.
+[[nodiscard]] std::optional<InformationFailure> CheckInformation(const InformationEntries& entries,
+                                                                 InformationSettings& settings) noexcept;
+
+// Sets the written children of "information", creating the element and children that are missing.
+void WriteInformation(XmlDocument::XmlNode& root, const InformationSettings& settings);
+
+}  // namespace zep

@@ -1,0 +1,1 @@
+list(APPEND KZ_MODULE_RULES ${CMAKE_CURRENT_LIST_DIR}/InformationRecord.cpp)

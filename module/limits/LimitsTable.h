@@ -1,0 +1,56 @@
+// Which variables have limits, which limits, and how the document names them: the tables behind the limits pages.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+
+namespace zep {
+
+// W is the inner limit, D the outer one. Only the power factor has lower limits.
+enum class LimitField { Nominal, MaxW, MaxD, MinW, MinD };
+inline constexpr std::size_t LimitFieldCount = 5;
+
+// Their named values in a "check" element, in storage order.
+inline constexpr std::array<const wchar_t*, LimitFieldCount> LimitFieldNames{L"nominal", L"maxW", L"maxD", L"minW",
+                                                                             L"minD"};
+
+inline constexpr std::size_t UpperLimitFields = 3;  // nominal, maxW, maxD
+
+struct LimitVariable {
+    std::array<wchar_t, 8> name{};  // the named value "var", zero-terminated
+    std::size_t fieldCount = UpperLimitFields;
+};
+
+// When a page writes its variables.
+enum class LimitSaving { Always, WhenModified };
+
+// One page: its variables in the order in which they are loaded, checked and saved.
+struct LimitsTable {
+    std::span<const LimitVariable> variables;
+    const wchar_t* nominalDefault;  // texts for named values that are missing
+    const wchar_t* limitDefault;
+    LimitSaving saving;
+
+    [[nodiscard]] constexpr const wchar_t* DefaultOf(LimitField field) const noexcept
+    {
+        return field == LimitField::Nominal ? nominalDefault : limitDefault;
+    }
+};
+
+enum class PowerLimit { PowerFactor, Active, Reactive, Apparent };
+inline constexpr std::size_t PowerLimitCount = 4;
+
+// Row r of a harmonic page is the harmonic of order 2r + 1; row 0 is the fundamental.
+inline constexpr std::size_t HarmonicLimitCount = 13;
+[[nodiscard]] constexpr int HarmonicLimitOrder(std::size_t row) noexcept
+{
+    return 2 * static_cast<int>(row) + 1;
+}
+
+enum class LimitSide { Net, Load };
+
+extern const LimitsTable PowerLimitsTable;
+[[nodiscard]] const LimitsTable& HarmonicLimitsTable(LimitSide side) noexcept;
+
+}  // namespace zep

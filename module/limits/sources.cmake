@@ -1,0 +1,4 @@
+list(APPEND KZ_MODULE_RULES
+  ${CMAKE_CURRENT_LIST_DIR}/LimitsRules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LimitsStore.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LimitsTable.cpp)

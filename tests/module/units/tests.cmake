@@ -1,0 +1,3 @@
+kz_test(units_rules_tests
+  ${CMAKE_CURRENT_LIST_DIR}/UnitsRecordTests.cpp
+  LIBS KZUsrZEPRules)
