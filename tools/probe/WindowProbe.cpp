@@ -6,9 +6,8 @@
 //   WindowProbe gone TITLE               until no such window is shown
 //   WindowProbe point TITLE ID [ITEM]    the middle of a control, or of its tab or row ITEM, in screen coordinates
 //   WindowProbe text TITLE ID            the control's text
-//   WindowProbe until TITLE ID STATE     until the control is checked, unchecked, enabled, disabled or focused, or
-//   until
-//                                        it holds ITEMS=n rows (list view, list box) or its text contains TEXT=…
+//   WindowProbe until TITLE ID STATE     until the control is checked, unchecked, enabled, disabled, focused; holds
+//                                        ITEMS=n rows (list view, list box); or has TEXT=… in its text
 //
 // TITLE "" is the window that takes input now. Of several controls with the id, the one that is shown counts. Every
 // wait ends after LimitMs with exit status 1 and the list of windows on standard error.
