@@ -7,6 +7,7 @@ target_sources(KZHost PRIVATE
   driver/KZDriverServices.cpp
   layout/ControlKind.cpp
   layout/ControlMover.cpp
+  layout/ControlTable.cpp
   layout/DialogMetrics.cpp
   layout/KZLayout.cpp
   layout/LayoutRun.cpp

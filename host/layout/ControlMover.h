@@ -10,6 +10,7 @@
 class ControlMover {
 public:
     void Add(const DialogMetrics& dialog, HWND window, ControlKind kind, const RECT& place);
+    // Moves without drawing; a visible dialog is then redrawn once, as a whole.
     void Apply() noexcept;
 
 private:
@@ -17,6 +18,7 @@ private:
         HWND parent;
         HWND window;
         RECT place;
+        bool sameSize;
     };
     std::vector<Move> m_moves;
 };

@@ -38,28 +38,17 @@ ButtonPicture PictureOf(HWND button) noexcept
 
 }  // namespace
 
-DialogMetrics::DialogMetrics(HWND dialog) : m_dialog(dialog), m_text(dialog)
+DialogMetrics::DialogMetrics(ControlTable& controls) : m_controls(controls), m_text(controls.Dialog())
 {
     RECT units{0, 0, 4, 8};
-    if (!MapDialogRect(dialog, &units)) {
+    if (!MapDialogRect(Dialog(), &units)) {
         const LONG system = GetDialogBaseUnits();
         units.right = LOWORD(system);
         units.bottom = HIWORD(system);
     }
     m_baseUnits = {units.right, units.bottom};
-    ClientToScreen(dialog, &m_origin);
-    // One walk over the children instead of GetDlgItem per id, which searches all of them each time.
-    for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-        m_controls.push_back({.window = child, .id = GetDlgCtrlID(child)});
-    std::stable_sort(m_controls.begin(), m_controls.end(),
-                     [](const LayoutControl& left, const LayoutControl& right) { return left.id < right.id; });
-}
-
-LayoutControl* DialogMetrics::Find(int id) noexcept
-{
-    const auto found = std::lower_bound(m_controls.begin(), m_controls.end(), id,
-                                        [](const LayoutControl& control, int wanted) { return control.id < wanted; });
-    return found != m_controls.end() && found->id == id ? &*found : nullptr;
+    ClientToScreen(Dialog(), &m_origin);
+    m_controls.ForgetSizes();
 }
 
 int DialogMetrics::Pixels(int dialogUnits, LayoutAxis axis) const noexcept

@@ -1,34 +1,22 @@
-// The controls of one dialog and the sizes that they want, measured in the dialog's font.
+// The sizes that the controls of one dialog want, measured in the dialog's font.
 #pragma once
 
 #include <afxwin.h>
 
-#include <cstddef>
-#include <vector>
-
-#include "ControlKind.h"
+#include "ControlTable.h"
 #include "SizeCodes.h"
 #include "TextMeter.h"
-
-struct LayoutControl {
-    HWND window = nullptr;
-    int id = 0;
-    ControlKind kind = ControlKind::Other;
-    bool classified = false;
-    int natural[2] = {-1, -1};  // per LayoutAxis, -1 until asked for
-    int smallest[2] = {-1, -1};
-};
 
 // Made for one pass over a layout: the windows and texts are taken to stay as they are meanwhile.
 class DialogMetrics {
 public:
-    explicit DialogMetrics(HWND dialog);
+    explicit DialogMetrics(ControlTable& controls);
     DialogMetrics(const DialogMetrics&) = delete;
     DialogMetrics& operator=(const DialogMetrics&) = delete;
 
-    [[nodiscard]] HWND Dialog() const noexcept { return m_dialog; }
+    [[nodiscard]] HWND Dialog() const noexcept { return m_controls.Dialog(); }
     // The dialog's control of that id, or null.
-    [[nodiscard]] LayoutControl* Find(int id) noexcept;
+    [[nodiscard]] LayoutControl* Find(int id) noexcept { return m_controls.Find(id); }
 
     [[nodiscard]] int Pixels(int dialogUnits, LayoutAxis axis) const noexcept;
     // The size that the control has where nothing says otherwise.
@@ -48,9 +36,8 @@ private:
     [[nodiscard]] int PresentSize(HWND window, LayoutAxis axis) const noexcept;
     [[nodiscard]] SIZE TextSize(LayoutControl& control) noexcept;
 
-    HWND m_dialog;
+    ControlTable& m_controls;
     SIZE m_baseUnits{};
     POINT m_origin{};
-    std::vector<LayoutControl> m_controls;  // in Z order
     TextMeter m_text;
 };

@@ -69,14 +69,14 @@ void KZLayout::SetBorders(int x, int y) noexcept
 
 CSize KZLayout::FixedSize() const
 {
-    LayoutRun run;
+    LayoutRun run(m_state->tables);
     return {run.Smallest(*m_state, LayoutAxis::Horizontal, nullptr),
             run.Smallest(*m_state, LayoutAxis::Vertical, nullptr)};
 }
 
 void KZLayout::Layout(const CRect& area) const
 {
-    LayoutRun run;
+    LayoutRun run(m_state->tables);
     run.Place(*m_state, area, nullptr);
     run.Apply();
 }

@@ -1,9 +1,11 @@
 // The plan that a KZLayout holds: its items, borders and box.
 #pragma once
 
+#include <list>
 #include <memory>
 #include <vector>
 
+#include "ControlTable.h"
 #include "KZLayout.h"
 #include "SizeCodes.h"
 
@@ -28,5 +30,6 @@ struct KZLayout::State {
     HWND dialog = nullptr;
     std::vector<LayoutItem> items{};
     LayoutBox box{};
-    int borders[2] = {0, 0};  // per LayoutAxis
+    int borders[2] = {0, 0};           // per LayoutAxis
+    std::list<ControlTable> tables{};  // of the dialogs met so far; nearly always one
 };
