@@ -3,7 +3,8 @@
 packages_build=(
   cmake ninja-build g++                              # native build
   g++-mingw-w64-x86-64-posix                         # cross build
-  googletest libcli11-dev librsvg2-bin dpkg-dev      # sources, headers, the pictures' renderer, the unpacker of pugixml
+  googletest libcli11-dev dpkg-dev                   # sources, headers, the unpacker of pugixml
+  librsvg2-bin imagemagick                           # pictures and icon
 )
 packages_wine=(
   wine wine64 fonts-wine locales

@@ -1,0 +1,43 @@
+#!/usr/bin/env python3
+"""Proves what no compiler checks: check-consistency.py CHECK [BUILD_FOLDER]
+
+  includes   every file includes only what its folder may know; rules and records include no window header
+  controls   every control id of the templates is used in code, every id that is defined is in a template or in code
+  texts      every text id has its text in each language, the texts take the same arguments, and code uses every id
+  exports    KZUsrZEP.dll exports exactly the committed list, and the products import only what ships with them
+  files      no machine paths, no file of more than 400 lines, UTF-8, LF, no tabs, no blanks at line ends
+
+Each finding is one line "file:line: what is wrong"; the exit status is 1 when there is one.
+"""
+import sys
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).parent / "consistency"))
+
+import controls  # noqa: E402
+import exports  # noqa: E402
+import files  # noqa: E402
+import includes  # noqa: E402
+import texts  # noqa: E402
+
+CHECKS = {
+    "includes": includes.check,
+    "controls": controls.check,
+    "texts": texts.check,
+    "exports": exports.check,
+    "files": files.check,
+}
+
+
+def main(arguments):
+    if not arguments or arguments[0] not in CHECKS:
+        print(__doc__, file=sys.stderr)
+        return 2
+    findings = CHECKS[arguments[0]](*map(Path, arguments[1:]))
+    for finding in findings:
+        print(finding)
+    return 1 if findings else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))

@@ -1,0 +1,102 @@
+"""Who may include whom."""
+import re
+
+from tree import CODE, ROOT, line_at, place, text_of, tree, without_comments
+
+# The first folder that contains a file is its area.
+AREAS = [
+    "mfc", "host/include", "host", "module/entry", "module/device", "module/options", "module/limits",
+    "module/variables", "module/resources", "module/shared", "editor",
+]
+PUBLIC = {"mfc", "host/include"}
+BASE = PUBLIC | {"module/shared", "module/resources"}
+ALLOWED = {
+    "mfc": set(),
+    "host/include": {"mfc"},
+    "host": PUBLIC,
+    "module/shared": BASE,
+    "module/resources": BASE,
+    "module/device": BASE,
+    "module/limits": BASE,
+    "module/variables": BASE,
+    "module/options": BASE | {"module/device", "module/limits"},
+    "module/entry": BASE | {"module/options", "module/variables"},
+    "editor": PUBLIC,
+}
+WINDOW_HEADERS = re.compile(r"windows\.h|windowsx\.h|commctrl\.h|win\w+\.h|afx\w*\.h", re.I)
+
+
+def area_of(path):
+    name = path.relative_to(ROOT).as_posix()
+    return next((area for area in AREAS if name.startswith(area + "/")), None)
+
+
+def includes_of(path):
+    text = without_comments(text_of(path))
+    for match in re.finditer(r'^[ \t]*#[ \t]*include[ \t]*[<"]([^>"]+)[>"]', text, re.M):
+        yield match.group(1), line_at(text, match.start())
+
+
+def project_headers():
+    headers = {}
+    for path in tree("mfc", "host", "module", "editor"):
+        if path.suffix in CODE | {".rc"}:
+            headers.setdefault(path.name, []).append(path)
+    return headers
+
+
+def candidates(headers, including, name):
+    """The project's files that the include may mean: the one beside the file, else those whose path ends so."""
+    beside = including.parent / name
+    if beside.is_file():
+        return [beside]
+    tail = "/" + name
+    return [path for path in headers.get(name.rsplit("/", 1)[-1], []) if path.as_posix().endswith(tail)]
+
+
+def check():
+    headers = project_headers()
+    findings = []
+    for path in tree("mfc", "host", "module", "editor"):
+        area = area_of(path)
+        if path.suffix not in CODE | {".rc"} or area is None:
+            continue
+        # A template may take its ids from any folder of the module.
+        allowed = set(AREAS) - {"editor"} if path.suffix == ".rc" and area.startswith("module/") else ALLOWED[area] | {area}
+        for name, line in includes_of(path):
+            found = candidates(headers, path, name)
+            areas = {area_of(candidate) for candidate in found}
+            if found and not areas & allowed:
+                findings.append(f"{place(path, line)}: {area} must not include {place(found[0])}")
+    return findings + window_free(headers)
+
+
+def native_sources():
+    """The sources that CMake's lists of rules name: they are built without windows too."""
+    for path in tree("host", "module"):
+        if path.name != "CMakeLists.txt" and path.suffix != ".cmake":
+            continue
+        text = re.sub(r"#[^\n]*", "", text_of(path))
+        for block in re.finditer(r"(?:KZ_MODULE_RULES|KZ_HOST_CORE)\b([^)]*)\)", text):
+            for name in re.findall(r"[\w/.-]+\.cpp", block.group(1)):
+                for base in (path.parent, path.parent.parent):
+                    if (base / name).is_file():
+                        yield base / name
+
+
+def window_free(headers):
+    """No rule or record reaches a window header, through its own headers either."""
+    findings, seen = [], set()
+    waiting = sorted(set(native_sources()))
+    if not waiting:
+        return ["module/CMakeLists.txt: no list of rules found (KZ_MODULE_RULES)"]
+    while waiting:
+        path = waiting.pop()
+        if path in seen or not (path.is_relative_to(ROOT / "module")):
+            continue
+        seen.add(path)
+        for name, line in includes_of(path):
+            if WINDOW_HEADERS.fullmatch(name):
+                findings.append(f"{place(path, line)}: a rule or record must not include {name}")
+            waiting += candidates(headers, path, name)
+    return findings

@@ -1,0 +1,89 @@
+# To be sourced. A private virtual display with the editor on it, driven by a real mouse and a real keyboard (xdotool). The
+# probe tells where a control is and when a condition has come true; every wait has a limit, so a step either happens or
+# fails.
+# Needs desktop_bin (the folder of KZEditor.exe) and desktop_probe (WindowProbe.exe) set before.
+
+. "$(dirname "${BASH_SOURCE[0]}")/wine-env.sh"
+
+desktop_folder=$(mktemp -d)
+
+desktop_die() { echo "desktop: $*" >&2; exit 1; }
+
+desktop_start() {
+  wine_use desktop
+  # A session left over draws on a display that is gone.
+  wine_stop
+  unset WAYLAND_DISPLAY XAUTHORITY
+  Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3> "$desktop_folder/display" > /dev/null 2>&1 &
+  desktop_xvfb=$!
+  trap desktop_end EXIT
+  local try
+  for try in $(seq 100); do
+    if [ -s "$desktop_folder/display" ]; then break; fi
+    kill -0 "$desktop_xvfb" 2> /dev/null || desktop_die "Xvfb does not start"
+    sleep 0.05
+  done
+  DISPLAY=:$(cat "$desktop_folder/display")
+  [ "$DISPLAY" != : ] || desktop_die "Xvfb tells no display number"
+  export DISPLAY
+  wine_serve
+}
+
+desktop_end() {
+  wine_stop
+  kill "$desktop_xvfb" 2> /dev/null || true
+  rm -rf "$desktop_folder"
+}
+
+# desktop_wine PROGRAM ARGUMENT...: its output comes through a file, since the processes that Wine starts beside it keep the
+# output open.
+desktop_wine() {
+  local output status=0
+  output=$(mktemp -p "$desktop_folder")
+  timeout 120 "${wine_pin[@]}" wine "$@" < /dev/null > "$output" 2> "$output.err" || status=$?
+  cat "$output"
+  cat "$output.err" >&2
+  return "$status"
+}
+
+probe() { desktop_wine "$desktop_probe" "$@"; }
+
+# editor ARGUMENT...: starts the editor; editor_result waits for its end, prints what it wrote and returns its exit status.
+editor() {
+  timeout 300 "${wine_pin[@]}" wine "$desktop_bin/KZEditor.exe" "$@" < /dev/null > "$desktop_folder/editor" 2> "$desktop_folder/editor.err" &
+  desktop_editor=$!
+}
+editor_result() {
+  local status=0
+  wait "$desktop_editor" || status=$?
+  cat "$desktop_folder/editor"
+  cat "$desktop_folder/editor.err" >&2
+  return "$status"
+}
+
+# The windows are named by a part of their title, the controls by their id; "" is the window that takes input now.
+window() { probe wait "$1"; }
+window_gone() { probe gone "$1"; }
+until_control() { probe until "$@"; }
+
+# click TITLE ID [ITEM]: with the mouse, on a control or on its tab or row ITEM
+click() {
+  local point
+  point=$(probe point "$@") || desktop_die "nothing to click: $*"
+  # shellcheck disable=SC2086 # two words, x and y
+  xdotool mousemove --sync $point click 1
+}
+key() { xdotool key --clearmodifiers "$@"; }
+type_text() { xdotool type --clearmodifiers "$1"; }
+
+# picture FILE: waits until two pictures in a row are equal, so that nothing is caught half drawn
+picture() {
+  local try
+  import -window root "$1"
+  for try in $(seq 50); do
+    mv "$1" "$1.before"
+    import -window root "$1"
+    if cmp -s "$1" "$1.before"; then break; fi
+  done
+  rm -f "$1.before"
+}
