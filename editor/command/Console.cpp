@@ -1,0 +1,81 @@
+#include "Console.h"
+
+#include <windows.h>
+
+#include <string>
+
+#include "text/Utf8.h"
+
+namespace {
+
+HANDLE StandardHandle(DWORD which) noexcept
+{
+    const HANDLE handle = ::GetStdHandle(which);
+    return handle == INVALID_HANDLE_VALUE ? nullptr : handle;
+}
+
+bool IsConsole(HANDLE handle) noexcept
+{
+    DWORD mode = 0;
+    return ::GetConsoleMode(handle, &mode) != FALSE;
+}
+
+bool OwnsConsole() noexcept
+{
+    DWORD processes[2];
+    return ::GetConsoleProcessList(processes, 2) == 1;
+}
+
+void Print(DWORD which, std::string_view utf8)
+{
+    const HANDLE handle = StandardHandle(which);
+    if (!handle)
+        return;
+    const std::string line = std::string(utf8) + "\n";
+    DWORD written = 0;
+    if (IsConsole(handle)) {
+        const std::wstring wide = FromUtf8(line);
+        ::WriteConsoleW(handle, wide.data(), static_cast<DWORD>(wide.size()), &written, nullptr);
+        return;
+    }
+    for (std::size_t done = 0; done < line.size(); done += written) {
+        if (!::WriteFile(handle, line.data() + done, static_cast<DWORD>(line.size() - done), &written, nullptr))
+            return;
+    }
+}
+
+}  // namespace
+
+void PrintLine(std::string_view utf8)
+{
+    Print(STD_OUTPUT_HANDLE, utf8);
+}
+
+void PrintErrorLine(std::string_view utf8)
+{
+    // Names may hold anything, a line break too; an error stays one line.
+    std::string line(utf8);
+    for (char& character : line) {
+        if (character == '\r' || character == '\n')
+            character = ' ';
+    }
+    Print(STD_ERROR_HANDLE, line);
+}
+
+bool HasErrorReader() noexcept
+{
+    const HANDLE handle = StandardHandle(STD_ERROR_HANDLE);
+    return handle && !(IsConsole(handle) && OwnsConsole());
+}
+
+void CloseOwnConsole() noexcept
+{
+    if (!OwnsConsole())
+        return;
+    ::FreeConsole();
+    // Windows leaves the handles of the console in place, dead.
+    for (const DWORD which : {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE}) {
+        if (::GetFileType(::GetStdHandle(which)) == FILE_TYPE_UNKNOWN)
+            ::SetStdHandle(which, nullptr);
+    }
+}

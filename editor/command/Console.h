@@ -1,0 +1,14 @@
+// The program's standard output and error: lines of UTF-8, whatever the console's code page.
+#pragma once
+
+#include <string_view>
+
+void PrintLine(std::string_view utf8);
+void PrintErrorLine(std::string_view utf8);
+
+// Whether anybody can read a line on standard error: false for a program that was started without a shell, whose
+// console belongs to nobody else.
+[[nodiscard]] bool HasErrorReader() noexcept;
+
+// Gives up the console that Windows made for this program alone, so that no empty one stays beside the window.
+void CloseOwnConsole() noexcept;

@@ -1,0 +1,68 @@
+#include "EditorApp.h"
+
+#include <commctrl.h>
+
+#include "command/Commands.h"
+#include "command/Console.h"
+#include "modules/ModuleLoader.h"
+#include "project/Project.h"
+#include "text/EditorError.h"
+#include "text/EditorText.h"
+#include "window/MainWindow.h"
+
+namespace {
+
+void Report(const char* utf8Line) noexcept
+{
+    if (HasErrorReader()) {
+        PrintErrorLine(std::string("KZEditor: ") + utf8Line);
+        return;
+    }
+    ::MessageBoxW(nullptr, FromUtf8(utf8Line).c_str(), L"KZEditor", MB_OK | MB_ICONERROR);
+}
+
+void RegisterControlClasses() noexcept
+{
+    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_WIN95_CLASSES};
+    ::InitCommonControlsEx(&classes);
+}
+
+}  // namespace
+
+int EditorApp::RunProgram() noexcept
+{
+    KZQuorvelantaSetup::Get()->SetLanguage(UserLanguage());
+    KZQuorvelantaSetup::Get()->SetProgramIDResource(IDI_PROGRAM);
+    RegisterControlClasses();
+    try {
+        return RunArguments(ParseArguments(ProcessArguments()));
+    } catch (const std::exception& error) {
+        Report(error.what());
+        return ExitError;
+    }
+}
+
+int EditorApp::RunArguments(const Arguments& arguments)
+{
+    if (arguments.language)
+        KZQuorvelantaSetup::Get()->SetLanguage(*arguments.language);
+    switch (arguments.command) {
+    case Command::Help:
+        PrintLine(arguments.help);
+        return ExitTrue;
+    case Command::Window:
+        return RunWindow(arguments);
+    default:
+        return RunCommand(arguments);
+    }
+}
+
+int EditorApp::RunWindow(const Arguments& arguments)
+{
+    Project project(arguments.project);
+    CloseOwnConsole();
+    // After the project, so that the modules are freed while its devices still exist.
+    const ModuleLoader modules(ProgramFolder());
+    MainWindow window(project, modules);
+    return window.Run() ? ExitTrue : ExitError;
+}

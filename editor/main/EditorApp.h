@@ -1,0 +1,16 @@
+// The program: decides between a command and the window, and turns errors into one line and an exit status.
+#pragma once
+
+#include <afxwin.h>
+
+struct Arguments;
+
+class EditorApp : public CWinApp {
+public:
+    // Runs what the command line asks for and returns the exit status (command/Commands.h).
+    int RunProgram() noexcept;
+
+private:
+    int RunArguments(const Arguments& arguments);
+    int RunWindow(const Arguments& arguments);
+};

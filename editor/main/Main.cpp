@@ -1,0 +1,17 @@
+// KZEditor is a console program, so that a shell waits for a command and gets its output and exit status. A window that
+// is started without a shell gives its console up at once; where Windows honours the manifest's
+// consoleAllocationPolicy, none is made in the first place.
+#include "EditorApp.h"
+
+namespace {
+
+EditorApp theApp;
+
+}  // namespace
+
+int main()
+{
+    if (!AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWDEFAULT))
+        return 2;
+    return theApp.RunProgram();
+}

@@ -1,0 +1,66 @@
+#include "ChosenVariables.h"
+
+#include <algorithm>
+
+namespace {
+
+XmlDocument::XmlNode* FindSelection(const XmlDocument& document, const KZDriver& driver)
+{
+    return document.Root()->NodeV(L"selections/selection?driverId=%s?", driver.DriverId().c_str());
+}
+
+XmlDocument::XmlNode* MakeSelection(XmlDocument& document, const KZDriver& driver)
+{
+    XmlDocument::XmlNode* selections = document.Node(L"selections");
+    if (!selections)
+        selections = document.Root()->NewChild(L"selections", nullptr);
+    XmlDocument::XmlNode* selection = selections->NewChild(L"selection", nullptr);
+    selection->SetValue(L"driverId", driver.DriverId().c_str());
+    return selection;
+}
+
+VariableList Lines(std::wstring_view text)
+{
+    VariableList lines;
+    while (!text.empty()) {
+        const std::wstring_view line = text.substr(0, text.find_first_of(L"\r\n"));
+        if (!line.empty())
+            lines.emplace_back(line);
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
+    }
+    return lines;
+}
+
+}  // namespace
+
+VariableList ChosenVariables(const XmlDocument& document, const KZDriver& driver)
+{
+    const XmlDocument::XmlNode* selection = FindSelection(document, driver);
+    return selection ? Lines(selection->Value(L"variables", L"")) : VariableList{};
+}
+
+void StoreChosenVariables(XmlDocument& document, const KZDriver& driver, const VariableList& variables)
+{
+    if (ChosenVariables(document, driver) == variables)
+        return;
+    XmlDocument::XmlNode* selection = FindSelection(document, driver);
+    if (!selection)
+        selection = MakeSelection(document, driver);
+    std::wstring text;
+    for (const KZBasicString& variable : variables) {
+        text += text.empty() ? L"" : L"\n";
+        text += variable.View();
+    }
+    selection->SetValue(L"variables", text.c_str());
+    document.SetDirty(true);
+}
+
+VariableList MergeChoices(const VariableList& earlier, const VariableList& added)
+{
+    VariableList merged = earlier;
+    for (const KZBasicString& variable : added) {
+        if (std::find(merged.begin(), merged.end(), variable) == merged.end())
+            merged.push_back(variable);
+    }
+    return merged;
+}

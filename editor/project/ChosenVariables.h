@@ -1,0 +1,20 @@
+// The variables that the engineer has chosen of each device. They live in the main configuration document, one
+// "selection" per driver under "selections"; its "variables" holds the full names, one per line, because a named value
+// can be replaced as a whole and a name holds any character but a line break.
+#pragma once
+
+#include <list>
+
+#include "KZDriver.h"
+#include "KZXmlDocument.h"
+
+using VariableList = std::list<KZBasicString>;
+
+// In the order in which they were chosen; empty when there are none.
+[[nodiscard]] VariableList ChosenVariables(const XmlDocument& document, const KZDriver& driver);
+
+// Replaces the driver's chosen variables and marks the document dirty. Nothing happens when they are the same.
+void StoreChosenVariables(XmlDocument& document, const KZDriver& driver, const VariableList& variables);
+
+// A select-variables dialog hands back the new choices only; the earlier ones stay chosen too. No name comes twice.
+[[nodiscard]] VariableList MergeChoices(const VariableList& earlier, const VariableList& added);

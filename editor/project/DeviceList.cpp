@@ -1,0 +1,152 @@
+#include "DeviceList.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cwctype>
+
+#include "GroupMask.h"
+#include "text/EditorError.h"
+#include "text/EditorText.h"
+
+namespace {
+
+class DeviceReader {
+public:
+    explicit DeviceReader(const std::filesystem::path& file) : m_file(file.wstring()) {}
+
+    Device Read(const XmlDocument::XmlNode& element);
+
+private:
+    [[noreturn]] void Fail(unsigned textId, const wchar_t* value) const;
+    std::wstring Label(const XmlDocument::XmlNode& element) const;
+    std::wstring Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const;
+    void CheckIdentifier(const std::wstring& driverId);
+    void CheckName(const std::wstring& name);
+    int Number(const XmlDocument::XmlNode& element) const;
+    KZVariableGroups Groups(const XmlDocument::XmlNode& element) const;
+
+    std::wstring m_file;
+    int m_position = 0;
+    std::wstring m_device;  // what errors call the device that is being read
+    std::vector<std::wstring> m_driverIds;
+    std::vector<std::wstring> m_names;
+};
+
+// File names differ by more than case, and the driverId names the device's document.
+std::wstring FoldCase(std::wstring text)
+{
+    std::transform(text.begin(), text.end(), text.begin(), [](wchar_t c) { return static_cast<wchar_t>(towlower(c)); });
+    return text;
+}
+
+bool HasControlCharacter(const std::wstring& text)
+{
+    return std::any_of(text.begin(), text.end(), [](wchar_t c) { return c < L' '; });
+}
+
+bool IsFileName(const std::wstring& text)
+{
+    const bool endsAsNone = text.back() == L'.' || text.back() == L' ';
+    return !endsAsNone && !HasControlCharacter(text) && text.find_first_of(L"<>:\"/\\|?*") == std::wstring::npos;
+}
+
+bool AddOnce(std::vector<std::wstring>& seen, std::wstring text)
+{
+    if (std::find(seen.begin(), seen.end(), text) != seen.end())
+        return false;
+    seen.push_back(std::move(text));
+    return true;
+}
+
+void DeviceReader::Fail(unsigned textId, const wchar_t* value) const
+{
+    throw EditorError(FormatEditorText(textId, m_file.c_str(), m_device.c_str(), value));
+}
+
+std::wstring DeviceReader::Label(const XmlDocument::XmlNode& element) const
+{
+    for (const wchar_t* valueName : {L"name", L"driverId"}) {
+        if (const wchar_t* value = element.Value(valueName, L""); *value)
+            return value;
+    }
+    return FormatEditorText(IDS_DEVICE_AT_POSITION, m_position);
+}
+
+std::wstring DeviceReader::Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const
+{
+    std::wstring value = element.Value(valueName, L"");
+    if (value.empty())
+        Fail(IDS_DEVICE_VALUE_MISSING, valueName);
+    return value;
+}
+
+void DeviceReader::CheckIdentifier(const std::wstring& driverId)
+{
+    if (!IsFileName(driverId))
+        Fail(IDS_DEVICE_BAD_DRIVER_ID, driverId.c_str());
+    if (!AddOnce(m_driverIds, FoldCase(driverId)))
+        Fail(IDS_DEVICE_DOUBLE_DRIVER_ID, driverId.c_str());
+}
+
+void DeviceReader::CheckName(const std::wstring& name)
+{
+    if (HasControlCharacter(name))
+        Fail(IDS_DEVICE_BAD_NAME, L"name");
+    if (!AddOnce(m_names, name))
+        Fail(IDS_DEVICE_DOUBLE_NAME, name.c_str());
+}
+
+int DeviceReader::Number(const XmlDocument::XmlNode& element) const
+{
+    const wchar_t* text = element.Value(L"number", L"0");
+    const std::string digits = ToUtf8(text);
+    int number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error != std::errc{} || end != digits.data() + digits.size() || number < 0)
+        Fail(IDS_DEVICE_BAD_NUMBER, text);
+    return number;
+}
+
+KZVariableGroups DeviceReader::Groups(const XmlDocument::XmlNode& element) const
+{
+    const wchar_t* text = element.Value(L"groups", L"0x0");
+    const auto groups = ParseGroupMask(text);
+    if (!groups)
+        Fail(IDS_DEVICE_BAD_GROUPS, text);
+    return *groups;
+}
+
+Device DeviceReader::Read(const XmlDocument::XmlNode& element)
+{
+    ++m_position;
+    m_device = Label(element);
+    const std::wstring driverId = Required(element, L"driverId");
+    const std::wstring name = Required(element, L"name");
+    CheckIdentifier(driverId);
+    CheckName(name);
+
+    KZDeviceIdentity identity;
+    identity.driverId = driverId;
+    identity.name = name;
+    identity.number = Number(element);
+    identity.typeName = element.Value(L"type", L"");
+    identity.description = element.Value(L"description", L"");
+    identity.groups = Groups(element);
+
+    const DeviceType* type = FindDeviceType(identity.typeName.View());
+    auto driver = type ? type->make(std::move(identity)) : std::make_unique<KZDriverDevice>(std::move(identity));
+    return {std::move(driver), type};
+}
+
+}  // namespace
+
+std::vector<Device> ReadDevices(const XmlDocument& document, const std::filesystem::path& file)
+{
+    std::vector<Device> devices;
+    DeviceReader reader(file);
+    const XmlDocument::XmlNode* list = document.Node(L"devices");
+    for (const auto* element = list ? list->FirstChild(L"device") : nullptr; element;
+         element = element->NextSibling(L"device"))
+        devices.push_back(reader.Read(*element));
+    return devices;
+}

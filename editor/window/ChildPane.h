@@ -1,0 +1,43 @@
+// A pane that embeds the options dialog that a driver's factory makes, or says why there is none.
+#pragma once
+
+#include <afxwin.h>
+
+#include <memory>
+#include <string>
+
+#include "KZDriverServices.h"
+#include "resources/EditorIds.h"
+
+class ChildPane : public CDialog {
+public:
+    ChildPane() = default;
+
+    // Creates the pane in place of a control of the parent's template; it takes that control's id and tab position.
+    bool CreateInPlaceOf(CWnd& parent, int control);
+    // Creates the pane as a window's only child.
+    bool CreateIn(CWnd& parent);
+
+    // Replaces what the pane shows by the dialog that the factory makes. Returns false when the factory makes none;
+    // the pane then says so.
+    bool Embed(KZDriver* driver, KZChildOptionsFactory factory);
+    // Replaces what the pane shows by a text.
+    void ShowText(const std::wstring& text);
+
+    [[nodiscard]] bool HasChild() const noexcept { return m_child != nullptr; }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    // A pane has no OK and Cancel; Return and Escape in it belong to the window around it.
+    void OnOK() override {}
+    void OnCancel() override {}
+
+private:
+    struct DestroyChild {
+        void operator()(CDialog* dialog) const;
+    };
+
+    void Arrange();
+
+    std::unique_ptr<CDialog, DestroyChild> m_child;
+};

@@ -1,0 +1,177 @@
+#include "project/Project.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "KZDriverDeviceZEP.h"
+#include "KZMainCfg.h"
+#include "TestFolder.h"
+#include "text/EditorError.h"
+
+namespace {
+
+using editor_tests::DeviceXml;
+using editor_tests::MainXml;
+using editor_tests::TestFolder;
+using testing::HasSubstr;
+
+class ProjectTest : public testing::Test {
+protected:
+    // The error of a project with these devices; the file must come out of it untouched.
+    std::string ErrorOf(const std::string& devices)
+    {
+        const std::string content = MainXml(devices);
+        m_folder.Write("main.xml", content);
+        std::string error = "accepted";
+        try {
+            const Project project(m_folder.Path());
+        } catch (const EditorError& refused) {
+            error = refused.what();
+        }
+        EXPECT_EQ(m_folder.Read("main.xml"), content);
+        EXPECT_EQ(error.find('\n'), std::string::npos);
+        return error;
+    }
+
+    TestFolder m_folder;
+};
+
+}  // namespace
+
+TEST_F(ProjectTest, ListsItsDevicesInTheDocumentsOrder)
+{
+    m_folder.Write("main.xml", MainXml(DeviceXml("zep-2", "GRÚA.1", "0x70", "ZEP", "7") + DeviceXml("zep-1", "CPD")));
+    const Project project(m_folder.Path());
+    ASSERT_EQ(project.Devices().size(), 2u);
+    const KZDriver& first = *project.Devices()[0].driver;
+    EXPECT_EQ(first.DriverId(), L"zep-2");
+    EXPECT_EQ(first.Name(), L"GRÚA.1");
+    EXPECT_EQ(first.Number(), 7);
+    EXPECT_EQ(first.TypeName(), L"ZEP");
+    EXPECT_EQ(first.Description(), L"Filtro de prueba, línea ñ");
+    EXPECT_EQ(first.VariableGroups(), KZVariableGroups{0x70});
+    EXPECT_TRUE(first.IsKindOf(RUNTIME_CLASS(KZDriverDeviceZEP)));
+    EXPECT_EQ(project.Devices()[1].driver->Name(), L"CPD");
+}
+
+TEST_F(ProjectTest, IsCalledAfterItsFolder)
+{
+    m_folder.Write("Planta Ñ/main.xml", MainXml(""));
+    EXPECT_EQ(Project(m_folder.Path() / L"Planta Ñ").Name(), L"Planta Ñ");
+    EXPECT_EQ(Project(m_folder.Path() / L"Planta Ñ/").Name(), L"Planta Ñ");
+    EXPECT_EQ(Project(m_folder.Path() / L"Planta Ñ/./x/..").Name(), L"Planta Ñ");
+}
+
+TEST_F(ProjectTest, WithoutDeviceListHasNoDevices)
+{
+    m_folder.Write("main.xml", "<configuration/>");
+    EXPECT_TRUE(Project(m_folder.Path()).Devices().empty());
+}
+
+TEST_F(ProjectTest, ListsADeviceOfAnUnknownTypeThatNoModuleServes)
+{
+    m_folder.Write("main.xml", MainXml(DeviceXml("x-1", "OTHER", "0x1", "XYZ")));
+    const Project project(m_folder.Path());
+    ASSERT_EQ(project.Devices().size(), 1u);
+    EXPECT_EQ(project.Devices()[0].type, nullptr);
+    EXPECT_EQ(project.Devices()[0].driver->TypeName(), L"XYZ");
+}
+
+TEST_F(ProjectTest, TakesMissingNumberAndGroupsAsNone)
+{
+    m_folder.Write("main.xml", MainXml("<device><driverId>a</driverId><name>A</name></device>"));
+    const Project project(m_folder.Path());
+    EXPECT_EQ(project.Devices()[0].driver->Number(), 0);
+    EXPECT_EQ(project.Devices()[0].driver->VariableGroups(), KZVariableGroups{});
+}
+
+TEST_F(ProjectTest, FindsADeviceByItsExactNameAndNamesTheOthersWhenThereIsNone)
+{
+    m_folder.Write("main.xml", MainXml(DeviceXml("zep-1", "CPD") + DeviceXml("zep-2", "TREN1")));
+    const Project project(m_folder.Path());
+    EXPECT_EQ(project.DeviceByName(L"TREN1").driver->DriverId(), L"zep-2");
+    try {
+        (void)project.DeviceByName(L"tren1");
+        FAIL() << "a name in another case was found";
+    } catch (const EditorError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("\"tren1\""));
+        EXPECT_THAT(error.what(), HasSubstr("main.xml"));
+        EXPECT_THAT(error.what(), HasSubstr("CPD, TREN1"));
+    }
+}
+
+TEST_F(ProjectTest, NeedsAnExistingFolderWithAMainXml)
+{
+    const auto errorOf = [](const std::filesystem::path& folder) -> std::string {
+        try {
+            const Project project(folder);
+        } catch (const EditorError& error) {
+            return error.what();
+        }
+        return "accepted";
+    };
+    EXPECT_THAT(errorOf(m_folder.Path() / "nowhere"), testing::AllOf(HasSubstr("nowhere"), HasSubstr("--project")));
+    EXPECT_THAT(errorOf(m_folder.Path()), testing::AllOf(HasSubstr("main.xml"), HasSubstr("--project")));
+}
+
+TEST_F(ProjectTest, NamesTheBrokenMainXmlAndLeavesIt)
+{
+    const std::string broken = "<configuration><devices></configuration>";
+    m_folder.Write("main.xml", broken);
+    try {
+        const Project project(m_folder.Path());
+        FAIL() << "a broken document was accepted";
+    } catch (const EditorError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("main.xml"));
+    }
+    EXPECT_EQ(m_folder.Read("main.xml"), broken);
+}
+
+TEST_F(ProjectTest, RefusesDevicesWithoutIdentifierOrName)
+{
+    EXPECT_THAT(ErrorOf(DeviceXml("", "CPD")),
+                testing::AllOf(HasSubstr("main.xml"), HasSubstr("CPD"), HasSubstr("driverId")));
+    EXPECT_THAT(ErrorOf(DeviceXml("zep-1", "")), testing::AllOf(HasSubstr("zep-1"), HasSubstr("\"name\"")));
+    EXPECT_THAT(ErrorOf(DeviceXml("zep-1", "CPD") + "<device/>"), HasSubstr("number 2"));
+}
+
+TEST_F(ProjectTest, RefusesIdentifiersAndNamesThatComeTwice)
+{
+    EXPECT_THAT(ErrorOf(DeviceXml("zep-1", "A") + DeviceXml("zep-1", "B")),
+                testing::AllOf(HasSubstr("B"), HasSubstr("zep-1")));
+    EXPECT_THAT(ErrorOf(DeviceXml("zep-1", "A") + DeviceXml("ZEP-1", "B")), HasSubstr("ZEP-1"));
+    EXPECT_THAT(ErrorOf(DeviceXml("zep-1", "A") + DeviceXml("zep-2", "A")), HasSubstr("\"A\""));
+    EXPECT_EQ(ErrorOf(DeviceXml("zep-1", "A") + DeviceXml("zep-2", "a")), "accepted");
+}
+
+TEST_F(ProjectTest, RefusesIdentifiersThatAreNoFileNames)
+{
+    for (const char* id : {"..", "a/b", "a\\b", "c:a", "a*", "a?", "end.", "end "})
+        EXPECT_THAT(ErrorOf(DeviceXml(id, "A")), HasSubstr("cannot be a file name")) << id;
+}
+
+TEST_F(ProjectTest, RefusesNumbersAndMasksThatAreNone)
+{
+    for (const char* number : {"1x", "-1", "x", "1.5", "99999999999"})
+        EXPECT_THAT(ErrorOf(DeviceXml("zep-1", "A", "0x1", "ZEP", number)), HasSubstr(number)) << number;
+    for (const char* groups : {"0xZ", "0x400000000", "7 4"})
+        EXPECT_THAT(ErrorOf(DeviceXml("zep-1", "A", groups)), testing::AllOf(HasSubstr(groups), HasSubstr("0x74")))
+            << groups;
+}
+
+TEST_F(ProjectTest, SavesOnlyWhenItIsDirty)
+{
+    const std::string content = MainXml("<!-- keep -->" + DeviceXml("zep-1", "CPD"));
+    m_folder.Write("main.xml", content);
+    Project project(m_folder.Path());
+    EXPECT_FALSE(project.IsDirty());
+    KZMainCfg::Get()->Root()->SetValue(L"added", L"ñ");
+    EXPECT_TRUE(project.Save().ok);
+    EXPECT_EQ(m_folder.Read("main.xml"), content);
+    KZMainCfg::Get()->SetDirty(true);
+    EXPECT_TRUE(project.IsDirty());
+    EXPECT_TRUE(project.Save().ok);
+    EXPECT_FALSE(project.IsDirty());
+    EXPECT_THAT(m_folder.Read("main.xml"), HasSubstr("<added>ñ</added>"));
+    EXPECT_THAT(m_folder.Read("main.xml"), HasSubstr("<!-- keep -->"));
+}
