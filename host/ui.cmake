@@ -20,10 +20,14 @@ target_sources(KZHost PRIVATE
   images/PixelImage.cpp
   images/PngFile.cpp
   dialogs/DialogTemplate.cpp
+  dialogs/DocumentName.cpp
+  dialogs/KZBaseDeviceCfg.cpp
+  dialogs/KZBaseDlg.cpp
   dialogs/KZDialogSetup.cpp
   dialogs/KZDlgOptions.cpp
   dialogs/KZDlgOptionsLayout.cpp
   dialogs/KZDlgOptionsSections.cpp
+  dialogs/ProjectFolder.cpp
   dialogs/KZDlgOptions.rc)
 target_link_libraries(KZHost PRIVATE comctl32 windowscodecs ole32 uuid)
 kz_resources(KZHost ${CMAKE_CURRENT_LIST_DIR}/dialogs)

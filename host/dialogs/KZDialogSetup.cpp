@@ -2,11 +2,9 @@
 
 #include "KZLoadString.h"
 #include "KZQuorvelantaSetup.h"
+#include "KZStringIds.h"
 
 namespace {
-
-constexpr unsigned TextOk = 311;
-constexpr unsigned TextCancel = 312;
 
 void SetUpButton(CImageButton& button, unsigned text, const wchar_t* picture)
 {
@@ -18,8 +16,8 @@ void SetUpButton(CImageButton& button, unsigned text, const wchar_t* picture)
 
 void KZSetUpOkCancel(CImageButton& ok, CImageButton& cancel)
 {
-    SetUpButton(ok, TextOk, L"OK-16.png");
-    SetUpButton(cancel, TextCancel, L"CANCEL-16.png");
+    SetUpButton(ok, KZS_OK, L"OK-16.png");
+    SetUpButton(cancel, KZS_CANCEL, L"CANCEL-16.png");
 }
 
 HICON KZLoadProgramIcon() noexcept

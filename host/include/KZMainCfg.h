@@ -7,4 +7,9 @@ class KZ_API KZMainCfg {
 public:
     // The document, root element "configuration"; never null. Empty until the host loads a project.
     [[nodiscard]] static XmlDocument* Get() noexcept;
+
+    // The folder of the project that the document belongs to: the device documents are under it. Empty until the host
+    // opens a project. Windows only.
+    [[nodiscard]] static KZBasicString ProjectFolder();
+    static void SetProjectFolder(const KZBasicString& folder);
 };

@@ -1,0 +1,105 @@
+#include "KZBaseDeviceCfg.h"
+
+#include <exception>
+#include <filesystem>
+
+#include "../strings/StringIds.h"
+#include "DocumentName.h"
+#include "KZLoadString.h"
+#include "KZMainCfg.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr wchar_t RootName[] = L"device";
+constexpr wchar_t FolderName[] = L"devices";
+constexpr wchar_t Extension[] = L".xml";
+
+bool IsMissingOrEmpty(const fs::path& file)
+{
+    std::error_code error;
+    if (!fs::exists(file, error))
+        return !error;
+    return fs::is_regular_file(file, error) && fs::file_size(file, error) == 0 && !error;
+}
+
+void Say(unsigned format, const KZBasicString& what)
+{
+    AfxMessageBox(KZBasicString::Format(KZLoadString(format).c_str(), what.c_str()).c_str(),
+                  MB_OK | MB_ICONEXCLAMATION);
+}
+
+}  // namespace
+
+IMPLEMENT_DYNAMIC(KZBaseDeviceCfg, KZBaseDlg)
+
+KZBaseDeviceCfg::KZBaseDeviceCfg(KZDriver* driver, unsigned templateId, CWnd* parent)
+    : KZBaseDlg(templateId, parent), m_pDriver(driver), m_document(RootName)
+{
+}
+
+KZBaseDeviceCfg::~KZBaseDeviceCfg() = default;
+
+INT_PTR KZBaseDeviceCfg::DoModal()
+{
+    try {
+        ReadDocument();
+    } catch (const std::exception&) {
+        AfxMessageBox(KZ_IDS_OPTIONS_SECTION_FAILED);
+        return -1;
+    }
+    return KZBaseDlg::DoModal();
+}
+
+KZBasicString KZBaseDeviceCfg::DocumentFileName(const KZBasicString& driverId)
+{
+    return FileNameFor(driverId.View()) + Extension;
+}
+
+void KZBaseDeviceCfg::addUriParams(KZBasicString&) const {}
+
+KZBasicString KZBaseDeviceCfg::DocumentPath() const
+{
+    KZBasicString name = m_pDriver ? m_pDriver->DriverId() : KZBasicString();
+    addUriParams(name);
+    const fs::path folder(std::wstring(KZMainCfg::ProjectFolder().View()));
+    return (folder / FolderName / std::wstring(DocumentFileName(name).View())).wstring();
+}
+
+void KZBaseDeviceCfg::ReadDocument()
+{
+    m_readResult = m_document.Parse("<device/>");
+    if (KZMainCfg::ProjectFolder().IsEmpty())
+        return;
+    const fs::path file(std::wstring(DocumentPath().View()));
+    if (IsMissingOrEmpty(file))
+        return;
+    m_readResult = m_document.Load(file);
+    if (!m_readResult)
+        Say(KZ_IDS_DEVICE_NOT_READ, m_readResult.message);
+}
+
+bool KZBaseDeviceCfg::writeCfg(bool quiet)
+{
+    const auto fail = [quiet](unsigned format, const KZBasicString& reason) {
+        if (!quiet)
+            Say(format, reason);
+        return false;
+    };
+    try {
+        if (KZMainCfg::ProjectFolder().IsEmpty())
+            return fail(KZ_IDS_DEVICE_NO_PROJECT, {});
+        if (!m_readResult)
+            return fail(KZ_IDS_DEVICE_NOT_OVERWRITTEN, m_readResult.message);
+        const fs::path file(std::wstring(DocumentPath().View()));
+        std::error_code ignored;  // saving names the folder that is missing
+        fs::create_directories(file.parent_path(), ignored);
+        const KZDocumentResult saved = m_document.Save(file);
+        return saved ? true : fail(KZ_IDS_DEVICE_NOT_SAVED, saved.message);
+    } catch (const std::exception&) {
+        if (!quiet)
+            AfxMessageBox(KZ_IDS_OPTIONS_SECTION_FAILED);
+        return false;
+    }
+}
