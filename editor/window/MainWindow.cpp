@@ -7,6 +7,7 @@
 #include "KZDlgOptions.h"
 #include "KZMainCfg.h"
 #include "MessageLoop.h"
+#include "ModuleSummary.h"
 #include "WindowIcon.h"
 #include "project/ChosenVariables.h"
 #include "text/EditorText.h"
@@ -63,10 +64,11 @@ BOOL MainWindow::OnInitDialog()
     SetTexts();
     m_pane.CreateInPlaceOf(*this, IDC_PANE);
     m_layout.Capture(m_hWnd, anchors);
+    m_chosen.Attach(::GetDlgItem(m_hWnd, IDC_CHOSEN), ::GetDlgItem(m_hWnd, IDC_CHOSEN_LABEL));
     m_devices.Fill(::GetDlgItem(m_hWnd, IDC_DEVICES), m_project, m_modules);
     m_devices.Select(0);
     ShowDevice();
-    ShowModules();
+    ::SetDlgItemTextW(m_hWnd, IDC_MODULES, ModuleSummary(m_modules).c_str());
     ::SetFocus(::GetDlgItem(m_hWnd, IDC_DEVICES));
     return FALSE;  // the focus is where it should be
 }
@@ -111,26 +113,7 @@ void MainWindow::ShowDevice()
 void MainWindow::ShowChosenVariables()
 {
     const Device* device = SelectedDevice();
-    const VariableList chosen = device ? ChosenVariables(*KZMainCfg::Get(), *device->driver) : VariableList{};
-    ::SendDlgItemMessageW(m_hWnd, IDC_CHOSEN, LB_RESETCONTENT, 0, 0);
-    for (const KZBasicString& variable : chosen)
-        ::SendDlgItemMessageW(m_hWnd, IDC_CHOSEN, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(variable.c_str()));
-    ::SetDlgItemTextW(m_hWnd, IDC_CHOSEN_LABEL,
-                      FormatEditorText(IDS_CHOSEN_LABEL, static_cast<int>(chosen.size())).c_str());
-}
-
-void MainWindow::ShowModules()
-{
-    std::wstring text;
-    for (const Module& module : m_modules.Modules()) {
-        const ModuleStatus& status = module.Status();
-        text += text.empty() ? L"" : L"\r\n";
-        text += status.IsReady() ? FormatEditorText(IDS_MODULES_READY, module.File().filename().c_str())
-                                 : status.reason + L" " + status.remedy;
-    }
-    if (text.empty())
-        text = FormatEditorText(IDS_MODULES_NONE, ProgramFolder().c_str());
-    ::SetDlgItemTextW(m_hWnd, IDC_MODULES, text.c_str());
+    m_chosen.Show(device ? ChosenVariables(*KZMainCfg::Get(), *device->driver) : VariableList{});
 }
 
 void MainWindow::ShowState()
@@ -158,7 +141,7 @@ bool MainWindow::HasCallbacks() const
 
 bool MainWindow::HasMarkedVariables() const
 {
-    return ::SendDlgItemMessageW(m_hWnd, IDC_CHOSEN, LB_GETSELCOUNT, 0, 0) > 0;
+    return m_chosen.HasMarked();
 }
 
 bool MainWindow::IsDirty() const
@@ -193,13 +176,7 @@ void MainWindow::RemoveVariables()
 {
     const KZDriver& driver = *SelectedDevice()->driver;
     const VariableList chosen = ChosenVariables(*KZMainCfg::Get(), driver);
-    VariableList kept;
-    WPARAM row = 0;
-    for (const KZBasicString& variable : chosen) {
-        if (::SendDlgItemMessageW(m_hWnd, IDC_CHOSEN, LB_GETSEL, row++, 0) <= 0)
-            kept.push_back(variable);
-    }
-    StoreChosenVariables(*KZMainCfg::Get(), driver, kept);
+    StoreChosenVariables(*KZMainCfg::Get(), driver, m_chosen.Unmarked(chosen));
     ShowChosenVariables();
     ShowState();
 }

@@ -5,6 +5,7 @@
 
 #include "AnchoredControls.h"
 #include "ChildPane.h"
+#include "ChosenListBox.h"
 #include "DeviceListView.h"
 
 class MainWindow : public CDialog {
@@ -49,7 +50,6 @@ private:
     void SetTexts();
     void ShowDevice();
     void ShowChosenVariables();
-    void ShowModules();
     void ShowState();
     [[nodiscard]] const Device* SelectedDevice() const;
     [[nodiscard]] const KZDriverCallbacks* SelectedCallbacks() const;
@@ -58,6 +58,7 @@ private:
     const ModuleLoader& m_modules;
     AnchoredControls m_layout;
     DeviceListView m_devices;
+    ChosenListBox m_chosen;
     ChildPane m_pane;
     int m_shownRow = -1;
 };

@@ -1,0 +1,36 @@
+#include "ChosenListBox.h"
+
+#include "text/EditorText.h"
+
+void ChosenListBox::Attach(HWND list, HWND label) noexcept
+{
+    m_list = list;
+    m_label = label;
+}
+
+void ChosenListBox::Show(const VariableList& variables)
+{
+    ::SendMessageW(m_list, WM_SETREDRAW, FALSE, 0);
+    ::SendMessageW(m_list, LB_RESETCONTENT, 0, 0);
+    for (const KZBasicString& variable : variables)
+        ::SendMessageW(m_list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(variable.c_str()));
+    ::SendMessageW(m_list, WM_SETREDRAW, TRUE, 0);
+    ::InvalidateRect(m_list, nullptr, TRUE);
+    ::SetWindowTextW(m_label, FormatEditorText(IDS_CHOSEN_LABEL, static_cast<int>(variables.size())).c_str());
+}
+
+bool ChosenListBox::HasMarked() const noexcept
+{
+    return ::SendMessageW(m_list, LB_GETSELCOUNT, 0, 0) > 0;
+}
+
+VariableList ChosenListBox::Unmarked(const VariableList& shown) const
+{
+    VariableList unmarked;
+    WPARAM row = 0;
+    for (const KZBasicString& variable : shown) {
+        if (::SendMessageW(m_list, LB_GETSEL, row++, 0) <= 0)
+            unmarked.push_back(variable);
+    }
+    return unmarked;
+}

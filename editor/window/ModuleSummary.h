@@ -1,0 +1,9 @@
+// The states of all modules as the main window shows them.
+#pragma once
+
+#include <string>
+
+#include "modules/ModuleLoader.h"
+
+// One line for each module, with reason and remedy for those that are not ready; one line when there is no module.
+[[nodiscard]] std::wstring ModuleSummary(const ModuleLoader& modules);
