@@ -40,6 +40,18 @@ void KZSetBigIcon(CWnd& dialog) noexcept
     KZSetBigIcon(dialog, KZLoadProgramIcon());
 }
 
+void KZFitDialogHeight(CWnd& dialog, const KZLayout& layout)
+{
+    CRect client;
+    CRect window;
+    dialog.GetClientRect(&client);
+    dialog.GetWindowRect(&window);
+    const int difference = layout.FixedSize().cy - client.Height();
+    if (difference != 0)
+        dialog.SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + difference,
+                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void KZShowMessageAndFocus(const KZBasicString& text, CEdit& field)
 {
     AfxMessageBox(text.c_str(), MB_OK);

@@ -1,6 +1,7 @@
 // How the options hub places its buttons: in as few rows as its width allows.
 #include <deque>
 
+#include "KZDialogSetup.h"
 #include "KZDlgOptions.h"
 #include "KZDlgOptionsIds.h"
 #include "KZLayout.h"
@@ -38,14 +39,6 @@ CRect ClientArea(const CWnd& dialog) noexcept
     CRect client;
     ::GetClientRect(dialog.m_hWnd, &client);
     return client;
-}
-
-void ChangeHeight(CWnd& dialog, int difference)
-{
-    CRect window;
-    dialog.GetWindowRect(&window);
-    dialog.SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + difference,
-                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace
@@ -87,12 +80,10 @@ bool KZDlgOptions::LayOut(int columns, bool evenIfTooNarrow)
         page.AddLayout(buttons, KZSizeStandard);
         page.AddGap(KZSizeStandard);
     }
-    const CSize needed = page.FixedSize();
-    const CRect client = ClientArea(*this);
-    if (needed.cx > client.Width() && !evenIfTooNarrow)
+    if (page.FixedSize().cx > ClientArea(*this).Width() && !evenIfTooNarrow)
         return false;
-    if (!m_bChild && needed.cy != client.Height())
-        ChangeHeight(*this, needed.cy - client.Height());
+    if (!m_bChild)
+        KZFitDialogHeight(*this, page);
     page.Layout(ClientArea(*this));
     return true;
 }

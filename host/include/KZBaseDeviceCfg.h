@@ -1,7 +1,7 @@
 // The base of the dialogs that edit one device's configuration document.
 //
 // The document is PROJECT/devices/DRIVERID.xml with the root element "device". DoModal reads it before the dialog
-// opens; a dialog changes it through Configuration() and commits it with writeCfg.
+// opens; a dialog changes it through Document() and commits it with writeCfg.
 #pragma once
 
 #include "KZBaseDlg.h"
@@ -26,7 +26,7 @@ public:
     // The device; not owned.
     [[nodiscard]] KZDriver* Driver() const noexcept { return m_pDriver; }
     // The document; never null, root element "device".
-    [[nodiscard]] XmlDocument* Configuration() noexcept { return &m_document; }
+    [[nodiscard]] XmlDocument* Document() noexcept { return &m_document; }
 
     // The file name that a driver id stands for, without folder. Letters, digits, "-", "_", "." and blanks stand for
     // themselves; every other character becomes "%XX" for each byte of its UTF-8 form, and so does the first character

@@ -5,6 +5,7 @@
 
 #include "CImageButton.h"
 #include "KZBasicString.h"
+#include "KZLayout.h"
 
 // Gives the buttons the host's texts for OK and Cancel and the pictures OK-16.png and CANCEL-16.png of the image
 // folder. Both must be bound to their windows. A missing picture leaves a button with its text alone.
@@ -19,6 +20,10 @@ KZ_API void KZSetBigIcon(CWnd& dialog, HICON icon) noexcept;
 
 // The same with the program's icon.
 KZ_API void KZSetBigIcon(CWnd& dialog) noexcept;
+
+// Makes the dialog's window as much higher or lower as its client area differs from what the layout needs (FixedSize);
+// left, top and width stay. The layout is not applied.
+KZ_API void KZFitDialogHeight(CWnd& dialog, const KZLayout& layout);
 
 // Shows the text in a message box with an OK button; afterwards the field has the focus, its whole text is selected and
 // the caret is in view.
