@@ -3,6 +3,8 @@
 
 wine_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 wine_base=${KZ_WINE_PREFIX:-$wine_root/build/wine}
+# In every finished prefix; its number goes up with what wine_boot sets, so that older prefixes are made anew.
+wine_mark=.ready-2
 
 # Windows programs and the server they start belong on one processor: they hand control to each other at every message, and
 # that is several times slower across two. The sessions take turns over the processors that there are.
@@ -22,7 +24,7 @@ wine_use() {
   export WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
   wine_pin_session
   if [ "$wine_session" != desktop ]; then unset DISPLAY WAYLAND_DISPLAY; fi
-  if [ ! -f "$WINEPREFIX/.ready" ]; then wine_boot; fi
+  if [ ! -f "$WINEPREFIX/$wine_mark" ]; then wine_boot; fi
 }
 
 # wine_ready SESSION...: makes the prefixes ready ahead of their first use
@@ -39,10 +41,12 @@ wine_boot() {
   mkdir -p "$(dirname "$WINEPREFIX")"
   (
     flock 9
-    [ -f "$WINEPREFIX/.ready" ] && exit 0
+    [ -f "$WINEPREFIX/$wine_mark" ] && exit 0
     unset DISPLAY WAYLAND_DISPLAY
     rm -rf "$WINEPREFIX"
     "${wine_pin[@]}" wineboot --init < /dev/null > /dev/null 2>&1
+    # Debian's Wine does not look where Debian's package puts its fonts.
+    ln -s /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
     wine_reg 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' Auto REG_SZ 0
     wine_reg 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' Debugger REG_SZ ''
     if [ "$wine_session" = desktop ]; then
@@ -54,7 +58,7 @@ wine_boot() {
     fi
     # The settings count from the next session on, and the registry is on disk only when the server has ended.
     wine_stop
-    touch "$WINEPREFIX/.ready"
+    touch "$WINEPREFIX/$wine_mark"
   ) 9> "$WINEPREFIX.lock" || { echo "wine: cannot make the prefix $WINEPREFIX" >&2; return 1; }
 }
 
