@@ -1,6 +1,8 @@
 // What the host program tells its modules about itself: icon, image folder, language, names of the device models.
 #pragma once
 
+#include <memory>
+
 #include "KZBasicString.h"
 
 enum class KZLanguage { English, Spanish };
@@ -21,6 +23,7 @@ public:
     // The folder of the host's images, ending in a separator, so that a file name is appended directly.
     // Until the program sets one: the folder "images" beside the host library.
     [[nodiscard]] KZBasicString getImageFilePath() const;
+    // A separator is added when the folder lacks one; the empty folder is the current one.
     void SetImageFilePath(const KZBasicString& folder);
 
     // The language of the host's texts; English until set.
@@ -34,5 +37,5 @@ private:
     KZQuorvelantaSetup();
     ~KZQuorvelantaSetup();
     struct State;
-    State* m_state;
+    std::unique_ptr<State> m_state;
 };

@@ -21,7 +21,7 @@ class KZ_API XmlDocument {
 public:
     class KZ_API XmlNode {
     public:
-        // The element's name.
+        // The element's name; valid until the next Parse or Load.
         [[nodiscard]] const wchar_t* Name() const noexcept;
 
         // The text at a path of named values below this element ("information/mode"), or the default when there is no
@@ -30,19 +30,23 @@ public:
 
         // The first element that a query path names, or null. Steps are separated by "/"; a step "name?value=text?"
         // takes the first child "name" whose named value equals the text exactly. The text runs to the last "?" of its
-        // step and may hold any other character, "/" included.
+        // step, the one with a "/" or the end of the path behind it, and may hold any other character, "/" included.
         [[nodiscard]] XmlNode* Node(const wchar_t* path) const;
 
-        // The same with the path formatted as printf does (%s is const wchar_t*, %d int). What an argument holds never
-        // counts as path syntax, except "?" followed by "/" or the end inside a text.
+        // The same with the path formatted as printf does (%s is const wchar_t*, %d int). An argument that stands for a
+        // whole text may hold anything but a "?" followed by "/".
         [[nodiscard]] XmlNode* NodeV(const wchar_t* format, ...) const;
 
-        // Creates a child element: before the given child, or as the last one when before is null.
+        // Creates a child element: before the given child, or as the last one when before is null. It gets a line of
+        // its own, indented as its siblings are, where they have such lines. Returns null, changing nothing, when name
+        // is no element name or before is not a child of this element.
         XmlNode* NewChild(const wchar_t* name, XmlNode* before);
 
-        // Sets the text of the named value (a direct child), creating the child when there is none.
-        void SetValue(const wchar_t* name, const wchar_t* text);
-        void SetValue(const wchar_t* name, int value);
+        // Sets the text of the named value (a direct child), creating the child when there is none. The text that it
+        // has already changes nothing. Line ends are kept as "\n" in memory; a character that XML cannot hold becomes
+        // U+FFFD. A null text is the empty one. Returns false, changing nothing, when name is no element name.
+        bool SetValue(const wchar_t* name, const wchar_t* text);
+        bool SetValue(const wchar_t* name, int value);
 
         // First child and next sibling with the given element name, or null.
         [[nodiscard]] XmlNode* FirstChild(const wchar_t* name) const;
@@ -54,21 +58,23 @@ public:
 
     private:
         friend class XmlDocument;
-        struct Handle;
-        explicit XmlNode(const Handle& handle) noexcept;
+        XmlNode(XmlDocument& document, void* element) noexcept;
+        [[nodiscard]] XmlNode* Wrap(void* element) const;
         XmlDocument* m_document;
         void* m_element;
     };
 
-    // An empty document with one root element of the given name.
+    // An empty document with one root element of the given name. Throws std::invalid_argument when it is no element
+    // name. Every operation that needs memory throws std::bad_alloc when there is none, leaving the document as it was.
     explicit XmlDocument(const wchar_t* rootName);
     virtual ~XmlDocument();
     XmlDocument(const XmlDocument&) = delete;
     XmlDocument& operator=(const XmlDocument&) = delete;
 
-    // Replaces the content by that of a UTF-8 text or file whose root element must have this document's root name.
-    // On failure the content stays as it was. Elements, attributes, comments and their order are all kept.
-    // Every XmlNode of the old content is invalid afterwards.
+    // Replaces the content by that of a UTF-8 text or file whose root element must have this document's root name; the
+    // document is then clean. What nobody changes is written back byte for byte. Elements nested 256 deep or more are
+    // refused.
+    // On failure the content stays as it was; otherwise every XmlNode of the old content is invalid afterwards.
     KZDocumentResult Parse(std::string_view utf8);
     KZDocumentResult Load(const std::filesystem::path& file);
 
@@ -91,5 +97,6 @@ public:
 private:
     friend class XmlNode;
     struct State;
+    KZDocumentResult Replace(std::string_view utf8, const wchar_t* rootName);
     std::unique_ptr<State> m_state;
 };

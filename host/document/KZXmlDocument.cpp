@@ -1,0 +1,107 @@
+#include "KZXmlDocument.h"
+
+#include <new>
+#include <stdexcept>
+
+#include "DocumentState.h"
+#include "FileStore.h"
+#include "SourceWriter.h"
+#include "Utf8.h"
+
+namespace {
+
+KZDocumentResult Failure(const std::filesystem::path& file, const std::wstring& reason)
+{
+    return {false, KZBasicString(file.wstring() + L": " + reason)};
+}
+
+std::wstring Describe(const SourceFault& fault)
+{
+    if (fault.line == 0)
+        return fault.reason;
+    return L"line " + std::to_wstring(fault.line) + L", column " + std::to_wstring(fault.column) + L": " + fault.reason;
+}
+
+}  // namespace
+
+XmlDocument::XmlNode* XmlDocument::State::NodeOf(XmlDocument& document, pugi::xml_node element)
+{
+    if (!element)
+        return nullptr;
+    std::unique_ptr<XmlNode>& node = nodes[element.internal_object()];
+    if (!node)
+        node.reset(new XmlNode(document, element.internal_object()));
+    return node.get();
+}
+
+XmlDocument::XmlDocument(const wchar_t* rootName)
+{
+    const std::wstring name = rootName ? rootName : L"";
+    const std::wstring text = L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<" + name + L"/>\n";
+    if (!IsElementName(name) || !Replace(EncodeUtf8(text), name.c_str()).ok)
+        throw std::invalid_argument("the root of a document needs the name of an element");
+}
+
+XmlDocument::~XmlDocument() = default;
+
+KZDocumentResult XmlDocument::Replace(std::string_view utf8, const wchar_t* rootName)
+{
+    auto state = std::make_unique<State>();
+    if (const std::optional<SourceFault> fault = ReadSource(utf8, rootName, state->source))
+        return {false, KZBasicString(Describe(*fault))};
+    state->root = state->NodeOf(*this, state->source.tree.document_element());
+    m_state = std::move(state);
+    return {};
+}
+
+KZDocumentResult XmlDocument::Parse(std::string_view utf8)
+{
+    const std::wstring rootName = Root()->Name();
+    return Replace(utf8, rootName.c_str());
+}
+
+KZDocumentResult XmlDocument::Load(const std::filesystem::path& file)
+{
+    std::string bytes;
+    if (const FileOutcome read = ReadWholeFile(file, bytes); !read)
+        return Failure(file, read.reason);
+    const KZDocumentResult parsed = Parse(bytes);
+    return parsed ? parsed : Failure(file, parsed.message.c_str());
+}
+
+KZDocumentResult XmlDocument::Save(const std::filesystem::path& file)
+{
+    if (const FileOutcome written = ReplaceFileSafely(file, Serialize()); !written)
+        return Failure(file, written.reason);
+    SetDirty(false);
+    return {};
+}
+
+std::string XmlDocument::Serialize() const
+{
+    const DocumentSource& source = m_state->source;
+    const std::string mark = source.byteOrderMark ? "\xEF\xBB\xBF" : "";
+    if (!m_state->changed)
+        return mark + EncodeUtf8(source.text);
+    return mark + EncodeUtf8(SourceWriter(source, m_state->replaced).Write());
+}
+
+XmlDocument::XmlNode* XmlDocument::Root() const noexcept
+{
+    return m_state->root;
+}
+
+XmlDocument::XmlNode* XmlDocument::Node(const wchar_t* path) const
+{
+    return Root()->Node(path);
+}
+
+void XmlDocument::SetDirty(bool dirty) noexcept
+{
+    m_state->dirty = dirty;
+}
+
+bool XmlDocument::IsDirty() const noexcept
+{
+    return m_state->dirty;
+}

@@ -1,0 +1,93 @@
+#include "QueryPath.h"
+
+#include <cwchar>
+#include <string_view>
+
+namespace {
+
+// "name" or "name?value=text?"
+struct Step {
+    std::wstring_view name;
+    std::wstring_view value;  // empty: any child of that name
+    std::wstring_view text;
+};
+
+bool Equals(const wchar_t* text, std::wstring_view other) noexcept
+{
+    for (const wchar_t character : other)
+        if (*text++ != character)
+            return false;
+    return *text == L'\0';
+}
+
+pugi::xml_node Child(pugi::xml_node parent, std::wstring_view name) noexcept
+{
+    pugi::xml_node child = parent.first_child();
+    while (child && !(child.type() == pugi::node_element && Equals(child.name(), name)))
+        child = child.next_sibling();
+    return child;
+}
+
+bool Fits(pugi::xml_node element, const Step& step) noexcept
+{
+    if (element.type() != pugi::node_element || !Equals(element.name(), step.name))
+        return false;
+    if (step.value.empty())
+        return true;
+    const pugi::xml_node value = Child(element, step.value);
+    return value && Equals(TextOf(value), step.text);
+}
+
+pugi::xml_node FirstFitting(pugi::xml_node parent, const Step& step) noexcept
+{
+    pugi::xml_node child = parent.first_child();
+    while (child && !Fits(child, step))
+        child = child.next_sibling();
+    return child;
+}
+
+// The text of a step ends at the first "?" that has a "/" or the end of the path behind it, so that the text itself may
+// hold both characters. Returns the position of that "?", or null.
+const wchar_t* EndOfText(const wchar_t* text) noexcept
+{
+    const wchar_t* end = std::wcschr(text, L'?');
+    while (end && end[1] != L'/' && end[1] != L'\0')
+        end = std::wcschr(end + 1, L'?');
+    return end;
+}
+
+// Takes a step off the path, its "/" included. Returns false when it is malformed.
+bool TakeStep(const wchar_t*& path, Step& step) noexcept
+{
+    const std::size_t nameLength = std::wcscspn(path, L"/?");
+    step = {{path, nameLength}, {}, {}};
+    path += nameLength;
+    if (*path == L'?') {
+        const std::size_t valueLength = std::wcscspn(++path, L"=/?");
+        step.value = {path, valueLength};
+        path += valueLength;
+        const wchar_t* end = *path == L'=' ? EndOfText(path + 1) : nullptr;
+        if (!end || step.value.empty())
+            return false;
+        step.text = {path + 1, static_cast<std::size_t>(end - path - 1)};
+        path = end + 1;
+    }
+    if (*path == L'/' && *++path == L'\0')
+        return false;
+    return !step.name.empty();
+}
+
+}  // namespace
+
+pugi::xml_node FindElement(pugi::xml_node from, const wchar_t* path) noexcept
+{
+    if (!path || !*path)
+        return {};
+    Step step;
+    while (from && *path) {
+        if (!TakeStep(path, step))
+            return {};
+        from = FirstFitting(from, step);
+    }
+    return from;
+}

@@ -1,0 +1,14 @@
+// Query paths: how an element is named in a configuration document. KZXmlDocument.h describes the grammar.
+#pragma once
+
+#include <pugixml.hpp>
+
+// The element that a path names below the given one, or an empty handle. A malformed path names nothing. Nothing is
+// allocated, however many elements are looked at.
+[[nodiscard]] pugi::xml_node FindElement(pugi::xml_node from, const wchar_t* path) noexcept;
+
+// The text of an element, which is that of its first piece of text; empty when it has none.
+[[nodiscard]] inline const wchar_t* TextOf(pugi::xml_node element) noexcept
+{
+    return element.child_value();
+}

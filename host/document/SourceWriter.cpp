@@ -1,0 +1,141 @@
+#include "SourceWriter.h"
+
+#include <cwchar>
+
+namespace {
+
+class Appender : public pugi::xml_writer {
+public:
+    explicit Appender(std::wstring& text) noexcept : m_text(text) {}
+    void write(const void* data, std::size_t size) override
+    {
+        m_text.append(static_cast<const wchar_t*>(data), size / sizeof(wchar_t));
+    }
+
+private:
+    std::wstring& m_text;
+};
+
+// How far the start of a node is in front of the place that pugixml gives for it.
+std::size_t PrefixLength(pugi::xml_node_type type) noexcept
+{
+    switch (type) {
+    case pugi::node_cdata:
+        return std::wcslen(L"<![CDATA[");
+    case pugi::node_comment:
+        return std::wcslen(L"<!--");
+    default:
+        return 0;
+    }
+}
+
+}  // namespace
+
+std::wstring SourceWriter::Write()
+{
+    m_out.reserve(m_text.size() + m_text.size() / 8);
+    WriteElement(m_source.tree.document_element());
+    CopyTo(m_text.size());
+    return std::move(m_out);
+}
+
+std::size_t SourceWriter::WriteElement(pugi::xml_node element)
+{
+    const StartTag tag = FindStartTag(element);
+    std::size_t end = tag.end;
+    bool split = false;
+    for (const pugi::xml_node child : element) {
+        const std::ptrdiff_t offset = child.offset_debug();
+        if (const auto old = m_replaced.find(child.internal_object()); old != m_replaced.end()) {
+            end = WriteReplaced(child, old->second);
+        } else if (offset >= 0) {
+            end = child.type() == pugi::node_element ? WriteElement(child)
+                                                     : EndOf(child.type(), static_cast<std::size_t>(offset));
+        } else if (child.type() == pugi::node_element || *child.value()) {
+            if (tag.isWholeElement && !split) {
+                SplitTag(tag.end);
+                split = true;
+            }
+            CopyTo(end);
+            WriteNew(child);
+        }
+    }
+    if (split)
+        m_out.append(L"</").append(element.name()).append(L">");
+    return tag.isWholeElement ? tag.end : EndBehind(L">", end);
+}
+
+std::size_t SourceWriter::WriteReplaced(pugi::xml_node text, const ReplacedText& old)
+{
+    const auto offset = static_cast<std::size_t>(old.offset);
+    CopyTo(offset - PrefixLength(old.type));
+    WriteNew(text);
+    m_copied = EndOf(old.type, offset);
+    return m_copied;
+}
+
+void SourceWriter::WriteNew(pugi::xml_node node)
+{
+    std::wstring text;
+    Appender appender(text);
+    node.print(appender, L"", pugi::format_raw, pugi::encoding_wchar);
+    for (const wchar_t character : text) {
+        if (character == L'\n' && m_source.windowsLineEnds)
+            m_out += L'\r';
+        m_out += character;
+    }
+}
+
+// Makes <name/> the start tag <name>; its end tag is written behind its new content.
+void SourceWriter::SplitTag(std::size_t tagEnd)
+{
+    const std::size_t slash = tagEnd - std::wcslen(L"/>");
+    CopyTo(m_text.find_last_not_of(L" \t\r\n", slash - 1) + 1);
+    m_out += L'>';
+    m_copied = tagEnd;
+}
+
+void SourceWriter::CopyTo(std::size_t end)
+{
+    if (end <= m_copied)
+        return;
+    m_out.append(m_text, m_copied, end - m_copied);
+    m_copied = end;
+}
+
+SourceWriter::StartTag SourceWriter::FindStartTag(pugi::xml_node element) const noexcept
+{
+    wchar_t quote = L'\0';
+    auto at = static_cast<std::size_t>(element.offset_debug());
+    for (; at < m_text.size(); ++at) {
+        const wchar_t character = m_text[at];
+        if (quote)
+            quote = character == quote ? L'\0' : quote;
+        else if (character == L'"' || character == L'\'')
+            quote = character;
+        else if (character == L'>')
+            break;
+    }
+    return {at + 1, m_text[at - 1] == L'/'};
+}
+
+std::size_t SourceWriter::EndBehind(const wchar_t* mark, std::size_t from) const noexcept
+{
+    const std::size_t found = m_text.find(mark, from);
+    return found == std::wstring::npos ? m_text.size() : found + std::wcslen(mark);
+}
+
+std::size_t SourceWriter::EndOf(pugi::xml_node_type type, std::size_t offset) const noexcept
+{
+    switch (type) {
+    case pugi::node_cdata:
+        return EndBehind(L"]]>", offset);
+    case pugi::node_comment:
+        return EndBehind(L"-->", offset);
+    case pugi::node_pi:
+    case pugi::node_declaration:
+        return EndBehind(L"?>", offset);
+    default:
+        return std::min(m_text.find(L'<', offset), m_text.size());
+    }
+}

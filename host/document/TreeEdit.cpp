@@ -1,0 +1,129 @@
+#include "TreeEdit.h"
+
+#include <new>
+
+#include "Indentation.h"
+
+namespace {
+
+pugi::xml_node InsertNode(pugi::xml_node parent, pugi::xml_node_type type, pugi::xml_node before) noexcept
+{
+    return before ? parent.insert_child_before(type, before) : parent.append_child(type);
+}
+
+void MustSucceed(bool done)
+{
+    if (!done)
+        throw std::bad_alloc();
+}
+
+bool IsAllowed(wchar_t character) noexcept
+{
+    return character >= L' ' ? character != 0xFFFE && character != 0xFFFF : character == L'\t' || character == L'\n';
+}
+
+// The text as XML can hold it and as reading it back gives it.
+std::wstring Storable(std::wstring_view text)
+{
+    std::wstring storable;
+    storable.reserve(text.size());
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == L'\r') {
+            if (at + 1 == text.size() || text[at + 1] != L'\n')
+                storable += L'\n';
+        } else {
+            storable += IsAllowed(text[at]) ? text[at] : L'\uFFFD';
+        }
+    }
+    return storable;
+}
+
+pugi::xml_node TextNodeOf(pugi::xml_node element) noexcept
+{
+    pugi::xml_node child = element.first_child();
+    while (child && child.type() != pugi::node_pcdata && child.type() != pugi::node_cdata)
+        child = child.next_sibling();
+    return child;
+}
+
+}  // namespace
+
+bool IsElementName(std::wstring_view name) noexcept
+{
+    const auto isStart = [](wchar_t c) {
+        return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || c == L'_' || c == L':' || c >= 0xC0;
+    };
+    if (name.empty() || !isStart(name.front()))
+        return false;
+    for (const wchar_t character : name)
+        if (!isStart(character) && !(character >= L'0' && character <= L'9') && character != L'-' &&
+            character != L'.' && character != 0xB7)
+            return false;
+    return true;
+}
+
+NewNode::NewNode(pugi::xml_node node) : m_node(node)
+{
+    MustSucceed(!node.empty());
+}
+
+NewNode::~NewNode()
+{
+    if (m_node)
+        m_node.parent().remove_child(m_node);
+}
+
+NewNode& NewNode::operator=(NewNode&& other) noexcept
+{
+    std::swap(m_node, other.m_node);
+    return *this;
+}
+
+NewElement::NewElement(pugi::xml_node parent, const wchar_t* name, pugi::xml_node before)
+{
+    const Indentation blanks = before ? IndentationBefore(before) : IndentationAtEnd(parent);
+    if (!before && IsBlankText(parent.last_child()))
+        before = parent.last_child();
+
+    m_element = NewNode(InsertNode(parent, pugi::node_element, before));
+    MustSucceed(Get().set_name(name));
+    if (!blanks.before.empty()) {
+        m_blanksBefore = NewNode(parent.insert_child_before(pugi::node_pcdata, Get()));
+        MustSucceed(m_blanksBefore.Get().set_value(blanks.before.c_str()));
+    }
+    if (!blanks.after.empty()) {
+        m_blanksAfter = NewNode(parent.insert_child_after(pugi::node_pcdata, Get()));
+        MustSucceed(m_blanksAfter.Get().set_value(blanks.after.c_str()));
+    }
+}
+
+void NewElement::Keep() noexcept
+{
+    m_element.Keep();
+    m_blanksBefore.Keep();
+    m_blanksAfter.Keep();
+}
+
+bool SetText(pugi::xml_node element, std::wstring_view text, ReplacedTexts& replaced)
+{
+    const std::wstring storable = Storable(text);
+    pugi::xml_node old = TextNodeOf(element);
+    if (storable == old.value())
+        return false;
+    const std::ptrdiff_t offset = old.offset_debug();
+    if (old && offset < 0) {
+        MustSucceed(old.set_value(storable.c_str()));
+        return true;
+    }
+
+    // A text that was read is not changed but replaced: pugixml would write into the place whose offset says where the
+    // text stands in the source.
+    NewNode node(old ? element.insert_child_after(pugi::node_pcdata, old) : element.append_child(pugi::node_pcdata));
+    MustSucceed(node.Get().set_value(storable.c_str()));
+    if (old) {
+        replaced.emplace(node.Get().internal_object(), ReplacedText{offset, old.type()});
+        element.remove_child(old);
+    }
+    node.Keep();
+    return true;
+}

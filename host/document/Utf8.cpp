@@ -1,0 +1,115 @@
+#include "Utf8.h"
+
+namespace {
+
+constexpr char32_t Replacement = 0xFFFD;
+
+bool IsHighSurrogate(char32_t unit) noexcept
+{
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+bool IsLowSurrogate(char32_t unit) noexcept
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+struct Decoded {
+    char32_t character = 0;
+    std::size_t length = 0;  // 0: not UTF-8
+};
+
+Decoded DecodeOne(std::string_view bytes) noexcept
+{
+    const auto byte = [bytes](std::size_t at) { return static_cast<unsigned char>(bytes[at]); };
+    const unsigned char lead = byte(0);
+    if (lead < 0x80)
+        return {lead, 1};
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length)
+        return {};
+    char32_t character = lead & (0xFFu >> (length + 1));
+    for (std::size_t at = 1; at < length; ++at) {
+        if ((byte(at) & 0xC0) != 0x80)
+            return {};
+        character = character << 6 | (byte(at) & 0x3F);
+    }
+    constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+    const bool surrogate = IsHighSurrogate(character) || IsLowSurrogate(character);
+    if (character < smallest[length] || character > 0x10FFFF || surrogate)
+        return {};
+    return {character, length};
+}
+
+void AppendWide(std::wstring& text, char32_t character)
+{
+    if constexpr (sizeof(wchar_t) == 2) {
+        if (character >= 0x10000) {
+            text += static_cast<wchar_t>(0xD800 + ((character - 0x10000) >> 10));
+            text += static_cast<wchar_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
+            return;
+        }
+    }
+    text += static_cast<wchar_t>(character);
+}
+
+// Takes one character off the front.
+char32_t TakeCharacter(std::wstring_view& text) noexcept
+{
+    const auto first = static_cast<char32_t>(text.front());
+    text.remove_prefix(1);
+    if (IsHighSurrogate(first) && sizeof(wchar_t) == 2 && !text.empty()) {
+        const auto second = static_cast<char32_t>(text.front());
+        if (IsLowSurrogate(second)) {
+            text.remove_prefix(1);
+            return 0x10000 + ((first - 0xD800) << 10) + (second - 0xDC00);
+        }
+    }
+    return IsHighSurrogate(first) || IsLowSurrogate(first) || first > 0x10FFFF ? Replacement : first;
+}
+
+void AppendUtf8(std::string& bytes, char32_t character)
+{
+    const auto tail = [&](int shift) { bytes += static_cast<char>(0x80 | (character >> shift & 0x3F)); };
+    if (character < 0x80) {
+        bytes += static_cast<char>(character);
+    } else if (character < 0x800) {
+        bytes += static_cast<char>(0xC0 | character >> 6);
+        tail(0);
+    } else if (character < 0x10000) {
+        bytes += static_cast<char>(0xE0 | character >> 12);
+        tail(6);
+        tail(0);
+    } else {
+        bytes += static_cast<char>(0xF0 | character >> 18);
+        tail(12);
+        tail(6);
+        tail(0);
+    }
+}
+
+}  // namespace
+
+std::size_t DecodeUtf8(std::string_view bytes, std::wstring& text)
+{
+    text.clear();
+    text.reserve(bytes.size());
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const Decoded decoded = DecodeOne(bytes.substr(done));
+        if (decoded.length == 0)
+            break;
+        AppendWide(text, decoded.character);
+        done += decoded.length;
+    }
+    return done;
+}
+
+std::string EncodeUtf8(std::wstring_view text)
+{
+    std::string bytes;
+    bytes.reserve(text.size() + text.size() / 8);
+    while (!text.empty())
+        AppendUtf8(bytes, TakeCharacter(text));
+    return bytes;
+}
