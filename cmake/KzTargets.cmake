@@ -1,5 +1,7 @@
 # What every target of this project has in common: warnings, the Windows version it is written for, sanitizers.
 option(KZ_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+# MinGW has no sanitizer run-time library: there a finding is a trap, which tests/support turns into an address.
+option(KZ_HARDEN "Trap on undefined behaviour, broken stacks and misuse of the standard library" OFF)
 
 function(kz_common target)
   target_compile_features(${target} PUBLIC cxx_std_20)
@@ -7,6 +9,12 @@ function(kz_common target)
     $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror>)
   if(WIN32)
     target_compile_definitions(${target} PRIVATE UNICODE _UNICODE WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0700)
+  endif()
+  if(KZ_HARDEN)
+    target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=undefined
+      -fsanitize-undefined-trap-on-error -fstack-protector-strong>)
+    target_compile_definitions(${target} PRIVATE _GLIBCXX_ASSERTIONS $<$<COMPILE_LANGUAGE:CXX>:_FORTIFY_SOURCE=2>)
+    target_link_options(${target} PRIVATE -fstack-protector-strong)
   endif()
   if(KZ_SANITIZE)
     target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -26,6 +26,7 @@ set_up() {
     local -n packages=packages_$group
     local package
     for package in "${packages[@]}"; do
+      case " ${missing[*]} " in *" $package "*) continue ;; esac
       [ "$(dpkg-query -W -f '${Status}' "$package" 2> /dev/null)" = 'install ok installed' ] || missing+=("$package")
     done
   done
