@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC1091,SC2154
 # To be sourced. A private virtual display with the editor on it, driven by a real mouse and a real keyboard (xdotool). The
 # probe tells where a control is and when a condition has come true; every wait has a limit, so a step either happens or
 # fails.
@@ -17,8 +18,7 @@ desktop_start() {
   Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3> "$desktop_folder/display" > /dev/null 2>&1 &
   desktop_xvfb=$!
   trap desktop_end EXIT
-  local try
-  for try in $(seq 100); do
+  for _ in $(seq 100); do
     if [ -s "$desktop_folder/display" ]; then break; fi
     kill -0 "$desktop_xvfb" 2> /dev/null || desktop_die "Xvfb does not start"
     sleep 0.05
@@ -78,9 +78,8 @@ type_text() { xdotool type --clearmodifiers "$1"; }
 
 # picture FILE: waits until two pictures in a row are equal, so that nothing is caught half drawn
 picture() {
-  local try
   import -window root "$1"
-  for try in $(seq 50); do
+  for _ in $(seq 50); do
     mv "$1" "$1.before"
     import -window root "$1"
     if cmp -s "$1" "$1.before"; then break; fi

@@ -1,6 +1,6 @@
+# shellcheck shell=bash disable=SC2034
 # To be sourced after desktop.sh. What a user does on the roads through the module, one function per action, for the tour and
 # the end-to-end tests. Controls are named by their ids, so the actions are the same in each language.
-# shellcheck disable=SC2034 # some of the ids are for the scripts that source this
 
 # The editor's main window
 main_title='KZEditor'

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034,SC2154
 # To be sourced. Installs the Debian packages that a verb needs; a second run finds them all and calls no installer.
 
 packages_build=(

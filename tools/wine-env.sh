@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # To be sourced. Wine for this project: prefixes of its own under build/, never the user's; no debugger on a crash.
 # Functions start with wine_; their results are environment variables for the programs started afterwards.
 
