@@ -26,6 +26,12 @@ bool OwnsConsole() noexcept
     return ::GetConsoleProcessList(processes, 2) == 1;
 }
 
+// A console window that will vanish with this program. Without a window the console is somebody's terminal.
+bool ConsoleIsPassing() noexcept
+{
+    return OwnsConsole() && ::IsWindowVisible(::GetConsoleWindow());
+}
+
 void Print(DWORD which, std::string_view utf8)
 {
     const HANDLE handle = StandardHandle(which);
@@ -65,7 +71,7 @@ void PrintErrorLine(std::string_view utf8)
 bool HasErrorReader() noexcept
 {
     const HANDLE handle = StandardHandle(STD_ERROR_HANDLE);
-    return handle && !(IsConsole(handle) && OwnsConsole());
+    return handle && !(IsConsole(handle) && ConsoleIsPassing());
 }
 
 void CloseOwnConsole() noexcept

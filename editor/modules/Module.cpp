@@ -60,7 +60,10 @@ HMODULE LoadQuietly(const std::filesystem::path& file, DWORD& error) noexcept
 
 std::wstring ModuleStateName(ModuleState state)
 {
-    return EditorText(IDS_STATE_READY + static_cast<unsigned>(state));
+    constexpr unsigned names[] = {IDS_STATE_READY,       IDS_STATE_MISSING,
+                                  IDS_STATE_CANNOT_LOAD, IDS_STATE_WRONG_ARCHITECTURE,
+                                  IDS_STATE_NO_ENTRY,    IDS_STATE_REFUSED};
+    return EditorText(names[static_cast<std::size_t>(state)]);
 }
 
 void Module::FreeLibrary::operator()(HMODULE library) const noexcept

@@ -32,7 +32,7 @@ private:
     std::vector<std::wstring> m_names;
 };
 
-// File names differ by more than case, and the driverId names the device's document.
+// The driverId names the device's document, and file names differ by more than case.
 std::wstring FoldCase(std::wstring text)
 {
     std::transform(text.begin(), text.end(), text.begin(), [](wchar_t c) { return static_cast<wchar_t>(towlower(c)); });
@@ -42,12 +42,6 @@ std::wstring FoldCase(std::wstring text)
 bool HasControlCharacter(const std::wstring& text)
 {
     return std::any_of(text.begin(), text.end(), [](wchar_t c) { return c < L' '; });
-}
-
-bool IsFileName(const std::wstring& text)
-{
-    const bool endsAsNone = text.back() == L'.' || text.back() == L' ';
-    return !endsAsNone && !HasControlCharacter(text) && text.find_first_of(L"<>:\"/\\|?*") == std::wstring::npos;
 }
 
 bool AddOnce(std::vector<std::wstring>& seen, std::wstring text)
@@ -82,7 +76,8 @@ std::wstring DeviceReader::Required(const XmlDocument::XmlNode& element, const w
 
 void DeviceReader::CheckIdentifier(const std::wstring& driverId)
 {
-    if (!IsFileName(driverId))
+    // In a query path "?" ends the text that is looked for.
+    if (HasControlCharacter(driverId) || driverId.find(L'?') != std::wstring::npos)
         Fail(IDS_DEVICE_BAD_DRIVER_ID, driverId.c_str());
     if (!AddOnce(m_driverIds, FoldCase(driverId)))
         Fail(IDS_DEVICE_DOUBLE_DRIVER_ID, driverId.c_str());

@@ -34,6 +34,7 @@ Project::Project(const fs::path& folder)
     m_mainFile = root / L"main.xml";
     m_name = root.filename().wstring();
     LoadMain(m_mainFile);
+    KZMainCfg::SetProjectFolder(root.wstring());
     m_devices = ReadDevices(*KZMainCfg::Get(), m_mainFile);
 }
 

@@ -28,7 +28,7 @@
 #define IDC_PANE 1020
 #define IDC_PANE_TEXT 1021
 
-// Texts. The states follow each other in the order of ModuleState.
+// Texts.
 #define IDS_PROJECT_NO_FOLDER 2000
 #define IDS_PROJECT_NO_MAIN 2001
 #define IDS_PROJECT_BROKEN_MAIN 2002

@@ -144,10 +144,19 @@ TEST_F(ProjectTest, RefusesIdentifiersAndNamesThatComeTwice)
     EXPECT_EQ(ErrorOf(DeviceXml("zep-1", "A") + DeviceXml("zep-2", "a")), "accepted");
 }
 
-TEST_F(ProjectTest, RefusesIdentifiersThatAreNoFileNames)
+TEST_F(ProjectTest, RefusesIdentifiersThatQueriesCannotHold)
 {
-    for (const char* id : {"..", "a/b", "a\\b", "c:a", "a*", "a?", "end.", "end "})
-        EXPECT_THAT(ErrorOf(DeviceXml(id, "A")), HasSubstr("cannot be a file name")) << id;
+    for (const char* id : {"a?", "a?/b", "a&#9;b"})
+        EXPECT_THAT(ErrorOf(DeviceXml(id, "A")), HasSubstr("control character")) << id;
+    for (const char* id : {"..", "a/b", "a*", "Ñ 1"})
+        EXPECT_EQ(ErrorOf(DeviceXml(id, "A")), "accepted") << id;
+}
+
+TEST_F(ProjectTest, TellsTheHostWhereItsDocumentsAre)
+{
+    m_folder.Write("main.xml", MainXml(""));
+    const Project project(m_folder.Path());
+    EXPECT_EQ(std::filesystem::path(std::wstring(KZMainCfg::ProjectFolder().View())), m_folder.Path());
 }
 
 TEST_F(ProjectTest, RefusesNumbersAndMasksThatAreNone)
