@@ -8,7 +8,7 @@ PREFIX = r"(?:KZS|KZ_IDS|IDS)_"
 CONVERSION = re.compile(r"%(?:%|[-+ #0]*\d*(?:\.\d+)?(?:hh|h|ll|l|I64)?([diouxXeEfgGscp]))")
 LANGUAGE = re.compile(r"^[ \t]*LANGUAGE[ \t]+(LANG_\w+)", re.M)
 TABLE = re.compile(r"^[ \t]*STRINGTABLE\b(.*?)^[ \t]*END\b", re.M | re.S)
-ENTRY = re.compile(r'^[ \t]*(\w+)[ \t]*,?[ \t]*((?:L?"(?:""|\\.|[^"])*"\s*)+)', re.M)
+ENTRY = re.compile(r'^[ \t]*(\w+)[ \t]*,?[ \t]*(L?"(?:""|\\.|[^"])*"(?:\s+L?"(?:""|\\.|[^"])*")*)', re.M)
 
 
 def entries():
