@@ -20,9 +20,12 @@ id_section=1200
 # The select-variables dialog. Boxes are first id + row + rows * phase.
 id_select_tab=6697
 id_net_column=6713
+id_load_column=6767
 id_general_net_box=6718
 id_power_net_box=6922
+id_power_load_box=6970
 id_power_load_row=7078
+id_harmonic_caption=7206
 id_harmonic_net_box=7236
 id_harmonic_load_box=7288
 
