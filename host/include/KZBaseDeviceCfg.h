@@ -23,7 +23,7 @@ public:
     // Returns what CDialog::DoModal returns.
     INT_PTR DoModal() override;
 
-    // The device; not owned.
+    // The device given at construction; not owned.
     [[nodiscard]] KZDriver* Driver() const noexcept { return m_pDriver; }
     // The document; never null, root element "device".
     [[nodiscard]] XmlDocument* Document() noexcept { return &m_document; }

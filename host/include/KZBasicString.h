@@ -43,6 +43,11 @@ public:
         left += right;
         return left;
     }
+    friend KZBasicString operator+(KZBasicString left, const wchar_t* right)
+    {
+        left += KZBasicString(right);
+        return left;
+    }
     friend KZBasicString operator+(KZBasicString left, const KZBasicString& right)
     {
         left += right;
