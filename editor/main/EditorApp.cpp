@@ -64,5 +64,9 @@ int EditorApp::RunWindow(const Arguments& arguments)
     // After the project, so that the modules are freed while its devices still exist.
     const ModuleLoader modules(ProgramFolder());
     MainWindow window(project, modules);
-    return window.Run() ? ExitTrue : ExitError;
+    if (!window.Create())
+        throw EditorError(EditorText(IDS_NO_WINDOW));
+    m_pMainWnd = &window;
+    Run();
+    return ExitTrue;
 }

@@ -9,6 +9,13 @@ constexpr UINT moveOnly = SWP_NOZORDER | SWP_NOACTIVATE;
 
 }  // namespace
 
+BEGIN_MESSAGE_MAP(ChildPane, CDialog)
+    ON_WM_CTLCOLOR()
+    ON_WM_DESTROY()
+    ON_WM_SIZE()
+    ON_MESSAGE(WM_KZ_OPTIONS_CHANGED, &ChildPane::OnOptionsChanged)
+END_MESSAGE_MAP()
+
 void ChildPane::DestroyChild::operator()(CDialog* dialog) const
 {
     dialog->DestroyWindow();
@@ -71,24 +78,26 @@ void ChildPane::Arrange()
                    client.right - 2 * margin.right, client.bottom - 2 * margin.bottom, moveOnly);
 }
 
-LRESULT ChildPane::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+void ChildPane::OnSize(UINT type, int cx, int cy)
 {
-    switch (message) {
-    case WM_SIZE:
-        Arrange();
-        break;
-    case WM_CTLCOLORDLG:
-    case WM_CTLCOLORSTATIC:
-        ::SetBkColor(reinterpret_cast<HDC>(wParam), ::GetSysColor(COLOR_WINDOW));
-        ::SetTextColor(reinterpret_cast<HDC>(wParam), ::GetSysColor(COLOR_WINDOWTEXT));
-        return reinterpret_cast<LRESULT>(::GetSysColorBrush(COLOR_WINDOW));
-    case WM_KZ_OPTIONS_CHANGED:
-        return ::SendMessageW(::GetParent(m_hWnd), message, wParam, lParam);
-    case WM_DESTROY:
-        m_child.reset();
-        break;
-    default:
-        break;
-    }
-    return CDialog::WindowProc(message, wParam, lParam);
+    CDialog::OnSize(type, cx, cy);
+    Arrange();
+}
+
+void ChildPane::OnDestroy()
+{
+    m_child.reset();
+    CDialog::OnDestroy();
+}
+
+HBRUSH ChildPane::OnCtlColor(CDC* pDC, CWnd*, UINT)
+{
+    pDC->SetBkColor(::GetSysColor(COLOR_WINDOW));
+    pDC->SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+    return ::GetSysColorBrush(COLOR_WINDOW);
+}
+
+LRESULT ChildPane::OnOptionsChanged(WPARAM wParam, LPARAM lParam)
+{
+    return GetParent()->SendMessage(WM_KZ_OPTIONS_CHANGED, wParam, lParam);
 }

@@ -27,10 +27,16 @@ public:
     [[nodiscard]] bool HasChild() const noexcept { return m_child != nullptr; }
 
 protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     // A pane has no OK and Cancel; Return and Escape in it belong to the window around it.
     void OnOK() override {}
     void OnCancel() override {}
+
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnDestroy();
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    afx_msg LRESULT OnOptionsChanged(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
 
 private:
     struct DestroyChild {

@@ -1,7 +1,7 @@
 #include "ChildWindow.h"
 
 #include "ChildPane.h"
-#include "MessageLoop.h"
+#include "EmbeddedCommand.h"
 #include "WindowIcon.h"
 #include "text/EditorText.h"
 
@@ -12,10 +12,14 @@ public:
     bool Run(KZDriver* driver, KZChildOptionsFactory factory);
 
 protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnOK() override {}
     void OnCancel() override { DestroyWindow(); }
+
+    afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT type, int cx, int cy);
+
+    DECLARE_MESSAGE_MAP()
 
 private:
     void Arrange();
@@ -23,16 +27,22 @@ private:
     ChildPane m_pane;
 };
 
+BEGIN_MESSAGE_MAP(ChildWindow, CDialog)
+    ON_WM_DESTROY()
+    ON_WM_SIZE()
+END_MESSAGE_MAP()
+
 bool ChildWindow::Run(KZDriver* driver, KZChildOptionsFactory factory)
 {
     if (!Create(IDD_CHILD_WINDOW) || !m_pane.CreateIn(*this))
         return false;
-    ::SetWindowTextW(m_hWnd, FormatEditorText(IDS_CHILD_TITLE, driver->Name().c_str()).c_str());
+    AfxGetApp()->m_pMainWnd = this;
+    SetWindowText(FormatEditorText(IDS_CHILD_TITLE, driver->Name().c_str()).c_str());
     SetProgramIcon(m_hWnd);
     const bool created = m_pane.Embed(driver, factory);
     Arrange();
-    ::ShowWindow(m_hWnd, SW_SHOW);
-    RunMessageLoop(m_hWnd, nullptr);
+    ShowWindow(SW_SHOW);
+    AfxGetApp()->Run();
     return created;
 }
 
@@ -44,13 +54,16 @@ void ChildWindow::Arrange()
         ::MoveWindow(m_pane.m_hWnd, 0, 0, client.right, client.bottom, TRUE);
 }
 
-LRESULT ChildWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+void ChildWindow::OnDestroy()
 {
-    if (message == WM_SIZE)
-        Arrange();
-    if (message == WM_DESTROY)
-        ::PostQuitMessage(0);
-    return CDialog::WindowProc(message, wParam, lParam);
+    CDialog::OnDestroy();
+    ::PostQuitMessage(0);
+}
+
+void ChildWindow::OnSize(UINT type, int cx, int cy)
+{
+    CDialog::OnSize(type, cx, cy);
+    Arrange();
 }
 
 BOOL ChildWindow::OnCommand(WPARAM wParam, LPARAM lParam)

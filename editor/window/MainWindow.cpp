@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
+#include "EmbeddedCommand.h"
 #include "KZDlgOptions.h"
 #include "KZMainCfg.h"
-#include "MessageLoop.h"
 #include "ModuleSummary.h"
 #include "WindowIcon.h"
 #include "project/ChosenVariables.h"
@@ -45,21 +45,33 @@ const MainWindow::CommandRow MainWindow::commands[] = {
     {IDC_EXIT, &MainWindow::Close, &MainWindow::Always},
 };
 
-bool MainWindow::Run()
+BEGIN_MESSAGE_MAP(MainWindow, CDialog)
+    ON_WM_CLOSE()
+    ON_WM_DESTROY()
+    ON_WM_GETMINMAXINFO()
+    ON_WM_SIZE()
+    ON_COMMAND_RANGE(IDC_OPTIONS, IDC_EXIT, &MainWindow::OnMenuCommand)
+    ON_LBN_SELCHANGE(IDC_CHOSEN, &MainWindow::OnMarkVariable)
+    ON_NOTIFY(LVN_ITEMCHANGED, IDC_DEVICES, &MainWindow::OnSelectDevice)
+    ON_NOTIFY(NM_DBLCLK, IDC_DEVICES, &MainWindow::OnDoubleClickDevice)
+    ON_MESSAGE(WM_VKEYTOITEM, &MainWindow::OnListKey)
+    ON_MESSAGE(WM_KZ_OPTIONS_CHANGED, &MainWindow::OnOptionsChanged)
+END_MESSAGE_MAP()
+
+bool MainWindow::Create()
 {
-    if (!Create(IDD_MAIN))
+    if (!CDialog::Create(IDD_MAIN))
         return false;
-    const HACCEL accelerators = ::LoadAcceleratorsW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDA_MAIN));
-    ::ShowWindow(m_hWnd, SW_SHOW);
-    RunMessageLoop(m_hWnd, accelerators);
+    // Windows frees the table with the program.
+    m_accelerators = ::LoadAcceleratorsW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDA_MAIN));
+    ShowWindow(SW_SHOW);
     return true;
 }
 
 BOOL MainWindow::OnInitDialog()
 {
     CDialog::OnInitDialog();
-    AfxGetApp()->m_pMainWnd = this;
-    ::SetMenu(m_hWnd, LoadEditorMenu(IDM_MAIN));
+    AddMenu();
     SetProgramIcon(m_hWnd);
     SetTexts();
     m_pane.CreateInPlaceOf(*this, IDC_PANE);
@@ -68,15 +80,29 @@ BOOL MainWindow::OnInitDialog()
     m_devices.Fill(::GetDlgItem(m_hWnd, IDC_DEVICES), m_project, m_modules);
     m_devices.Select(0);
     ShowDevice();
-    ::SetDlgItemTextW(m_hWnd, IDC_MODULES, ModuleSummary(m_modules).c_str());
-    ::SetFocus(::GetDlgItem(m_hWnd, IDC_DEVICES));
+    SetDlgItemText(IDC_MODULES, ModuleSummary(m_modules).c_str());
+    GotoDlgCtrl(GetDlgItem(IDC_DEVICES));
     return FALSE;  // the focus is where it should be
+}
+
+// The template draws the client area without the menu, which is not in it because it has a language.
+void MainWindow::AddMenu()
+{
+    CRect before;
+    CRect after;
+    CRect window;
+    GetClientRect(&before);
+    ::SetMenu(m_hWnd, LoadEditorMenu(IDM_MAIN));
+    GetClientRect(&after);
+    GetWindowRect(&window);
+    SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + before.Height() - after.Height(),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void MainWindow::SetTexts()
 {
     for (const auto& caption : captions)
-        ::SetDlgItemTextW(m_hWnd, caption.control, EditorText(caption.text).c_str());
+        SetDlgItemText(caption.control, EditorText(caption.text).c_str());
 }
 
 const Device* MainWindow::SelectedDevice() const
@@ -96,9 +122,8 @@ void MainWindow::ShowDevice()
     const Device* device = SelectedDevice();
     m_shownRow = m_devices.Selected();
     ShowChosenVariables();
-    ::SetDlgItemTextW(m_hWnd, IDC_PANE_LABEL,
-                      device ? FormatEditorText(IDS_PANE_LABEL, device->driver->Name().c_str()).c_str()
-                             : EditorText(IDS_PANE_LABEL_NONE).c_str());
+    SetDlgItemText(IDC_PANE_LABEL, device ? FormatEditorText(IDS_PANE_LABEL, device->driver->Name().c_str()).c_str()
+                                          : EditorText(IDS_PANE_LABEL_NONE).c_str());
     if (!device) {
         m_pane.ShowText(EditorText(IDS_PANE_NO_DEVICE));
     } else if (const KZDriverCallbacks* callbacks = m_modules.CallbacksOf(*device)) {
@@ -119,7 +144,7 @@ void MainWindow::ShowChosenVariables()
 void MainWindow::ShowState()
 {
     const unsigned title = IsDirty() ? IDS_TITLE_DIRTY : IDS_TITLE;
-    ::SetWindowTextW(m_hWnd, FormatEditorText(title, m_project.Name().c_str()).c_str());
+    SetWindowText(FormatEditorText(title, m_project.Name().c_str()).c_str());
     const HMENU menu = ::GetMenu(m_hWnd);
     for (const CommandRow& command : commands) {
         const bool enabled = (this->*command.enabled)();
@@ -216,79 +241,89 @@ void MainWindow::Close()
         DestroyWindow();
 }
 
+void MainWindow::OnClose()
+{
+    Close();
+}
+
+void MainWindow::OnDestroy()
+{
+    CDialog::OnDestroy();
+    ::PostQuitMessage(0);
+}
+
+void MainWindow::OnSize(UINT type, int cx, int cy)
+{
+    CDialog::OnSize(type, cx, cy);
+    m_layout.Apply();
+    m_devices.FitColumns();
+}
+
+void MainWindow::OnGetMinMaxInfo(MINMAXINFO* information)
+{
+    const SIZE smallest = m_layout.MinimumWindowSize();
+    information->ptMinTrackSize = {smallest.cx, smallest.cy};
+}
+
+void MainWindow::OnMenuCommand(UINT id)
+{
+    for (const CommandRow& command : commands) {
+        if (static_cast<UINT>(command.id) == id && (this->*command.enabled)())
+            (this->*command.run)();
+    }
+}
+
+void MainWindow::OnMarkVariable()
+{
+    ShowState();
+}
+
+void MainWindow::OnSelectDevice(NMHDR*, LRESULT* result)
+{
+    *result = 0;
+    if (m_devices.Selected() != m_shownRow)
+        ShowDevice();
+}
+
+void MainWindow::OnDoubleClickDevice(NMHDR*, LRESULT* result)
+{
+    *result = 0;
+    OnMenuCommand(IDC_SELECT);
+}
+
+LRESULT MainWindow::OnListKey(WPARAM wParam, LPARAM)
+{
+    constexpr LRESULT keyIsDone = -2;
+    constexpr LRESULT listHandlesKey = -1;
+    if (LOWORD(wParam) != VK_DELETE)
+        return listHandlesKey;
+    OnMenuCommand(IDC_REMOVE);
+    return keyIsDone;
+}
+
+LRESULT MainWindow::OnOptionsChanged(WPARAM, LPARAM)
+{
+    ShowState();
+    return 0;
+}
+
+BOOL MainWindow::PreTranslateMessage(MSG* message)
+{
+    return ::TranslateAcceleratorW(m_hWnd, m_accelerators, message) || CDialog::PreTranslateMessage(message);
+}
+
 BOOL MainWindow::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    if (LOWORD(wParam) == IDC_CHOSEN && HIWORD(wParam) == LBN_SELCHANGE) {
-        ShowState();
-        return TRUE;
-    }
-    // A click, a menu item or an accelerator; buttons tell of their focus under the same id.
-    if (const WORD code = HIWORD(wParam); code <= 1) {
-        for (const CommandRow& command : commands) {
-            if (command.id != LOWORD(wParam))
-                continue;
-            if ((this->*command.enabled)())
-                (this->*command.run)();
-            return TRUE;
-        }
-    }
     return RouteEmbeddedCommand(m_hWnd, wParam) || CDialog::OnCommand(wParam, lParam);
-}
-
-bool MainWindow::OnNotification(const NMHDR& header)
-{
-    if (header.idFrom != IDC_DEVICES)
-        return false;
-    if (header.code == LVN_ITEMCHANGED && m_devices.Selected() != m_shownRow)
-        ShowDevice();
-    if (header.code == NM_DBLCLK)
-        ::SendMessageW(m_hWnd, WM_COMMAND, IDC_SELECT, 0);
-    return true;
-}
-
-LRESULT MainWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    switch (message) {
-    case WM_SIZE:
-        m_layout.Apply();
-        m_devices.FitColumns();
-        break;
-    case WM_GETMINMAXINFO: {
-        const SIZE smallest = m_layout.MinimumWindowSize();
-        reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {smallest.cx, smallest.cy};
-        return 0;
-    }
-    case WM_NOTIFY:
-        OnNotification(*reinterpret_cast<const NMHDR*>(lParam));
-        return 0;
-    case WM_KZ_OPTIONS_CHANGED:
-        ShowState();
-        return 0;
-    case WM_VKEYTOITEM:
-        if (LOWORD(wParam) != VK_DELETE)
-            return -1;
-        ::SendMessageW(m_hWnd, WM_COMMAND, IDC_REMOVE, 0);
-        return -2;
-    case WM_CLOSE:
-        Close();
-        return 0;
-    case WM_DESTROY:
-        ::PostQuitMessage(0);
-        break;
-    default:
-        break;
-    }
-    return CDialog::WindowProc(message, wParam, lParam);
 }
 
 LRESULT MainWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     // Nothing may be thrown through the system's code that called.
     try {
-        return HandleMessage(message, wParam, lParam);
+        return CDialog::WindowProc(message, wParam, lParam);
     } catch (const std::exception& error) {
-        ::MessageBoxW(m_hWnd, FromUtf8(error.what()).c_str(), EditorText(IDS_PROGRAM_NAME).c_str(),
-                      MB_OK | MB_ICONERROR);
+        MessageBox(FromUtf8(error.what()).c_str(), EditorText(IDS_PROGRAM_NAME).c_str(), MB_OK | MB_ICONERROR);
         return 0;
     }
 }

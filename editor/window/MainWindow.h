@@ -13,8 +13,10 @@ public:
     // Both must outlive the window.
     MainWindow(Project& project, const ModuleLoader& modules) noexcept : m_project(project), m_modules(modules) {}
 
-    // Shows the window until the user closes it. Returns false when it cannot be created.
-    bool Run();
+    // Creates and shows the window, whose end ends the program's message loop. Returns false when it cannot be created.
+    bool Create();
+
+    BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
     BOOL OnInitDialog() override;
@@ -22,6 +24,19 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnOK() override {}
     void OnCancel() override {}  // Escape closes dialogs, not the program
+
+    afx_msg void OnClose();
+    afx_msg void OnDestroy();
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* information);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnMenuCommand(UINT id);
+    afx_msg void OnMarkVariable();
+    afx_msg void OnSelectDevice(NMHDR* header, LRESULT* result);
+    afx_msg void OnDoubleClickDevice(NMHDR* header, LRESULT* result);
+    afx_msg LRESULT OnListKey(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnOptionsChanged(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
 
 private:
     // One row per command: the function, and whether it can be used now.
@@ -42,11 +57,10 @@ private:
     [[nodiscard]] bool IsDirty() const;
     [[nodiscard]] bool Always() const;
 
-    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    bool OnNotification(const NMHDR& header);
     bool SaveOrSayWhy();
     bool MayClose();
 
+    void AddMenu();
     void SetTexts();
     void ShowDevice();
     void ShowChosenVariables();
@@ -60,5 +74,6 @@ private:
     DeviceListView m_devices;
     ChosenListBox m_chosen;
     ChildPane m_pane;
+    HACCEL m_accelerators = nullptr;
     int m_shownRow = -1;
 };
