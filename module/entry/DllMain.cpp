@@ -1,0 +1,18 @@
+// Library start-up and end, as MFC extension libraries do it.
+#include <afxdllx.h>
+#include <afxwin.h>
+
+static AFX_EXTENSION_MODULE ZepModule = {};
+
+extern "C" BOOL APIENTRY DllMain(HINSTANCE instance, DWORD reason, LPVOID)
+{
+    if (reason == DLL_PROCESS_ATTACH) {
+        if (!AfxInitExtensionModule(ZepModule, instance))
+            return FALSE;
+        // Puts the dialog templates on the host's resource chain; AfxTermExtensionModule destroys it.
+        new CDynLinkLibrary(ZepModule);
+    } else if (reason == DLL_PROCESS_DETACH) {
+        AfxTermExtensionModule(ZepModule, FALSE);
+    }
+    return TRUE;
+}

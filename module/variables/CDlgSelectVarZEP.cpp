@@ -1,0 +1,204 @@
+#include "CDlgSelectVarZEP.h"
+
+#include <new>
+
+#include "CDlgSelectVarArmonicZEP.h"
+#include "CDlgSelectVarGeneralZEP.h"
+#include "CDlgSelectVarPowerZEP.h"
+#include "ChildPage.h"
+#include "InitialMarks.h"
+#include "KZDialogSetup.h"
+#include "KZLoadString.h"
+#include "KZStringIds.h"
+#include "SelectVarControls.h"
+#include "SelectVarMessages.h"
+#include "SelectionRules.h"
+#include "TabImages.h"
+
+namespace {
+
+// The groups that hold the variables of the three pages. One of them is enough for all three.
+constexpr unsigned long long OfferedGroups = 1U << 2 | 1U << 4 | 1U << 5 | 1U << 6;
+
+struct TabItem {
+    unsigned textId;
+    int image;
+};
+
+// Makes a page and its window. A page that cannot be made is left out and the dialog goes on without it.
+template <class Page, class... Arguments>
+Page* AddPage(std::vector<std::unique_ptr<SelectVarPage>>& pages, CWnd* container, Arguments... arguments)
+{
+    try {
+        pages.reserve(pages.size() + 1);
+        auto page = std::make_unique<Page>(arguments...);
+        if (!page->Create(container))
+            return nullptr;
+        Page* const made = page.get();
+        pages.push_back(std::move(page));
+        return made;
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(CDlgSelectVarZEP, CDialog)
+    ON_WM_SIZE()
+    ON_NOTIFY(TCN_SELCHANGE, IDC_SELECTVAR_TAB, &CDlgSelectVarZEP::OnSelchangeSelectTab)
+    ON_MESSAGE(WM_SELECTVAR_SELECT, &CDlgSelectVarZEP::OnVariableSelect)
+    ON_MESSAGE(WM_SELECTVAR_UNSELECT, &CDlgSelectVarZEP::OnVariableUnSelect)
+END_MESSAGE_MAP()
+
+CDlgSelectVarZEP::CDlgSelectVarZEP(CWnd* parent, KZDriverDeviceZEP* device, std::list<KZBasicString>* variables,
+                                   const KZVariableGroups& groups, int maxVariables, const wchar_t*)
+    : CDialog(IDD_SELECTVAR, parent), m_pDevice(device), m_pVariables(variables), m_nMaxVariables(maxVariables),
+      m_hIcon(KZLoadProgramIcon()), m_groups(groups)
+{
+}
+
+CDlgSelectVarZEP::~CDlgSelectVarZEP() = default;
+
+void CDlgSelectVarZEP::DoDataExchange(CDataExchange* pDX)
+{
+    CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_SELECTVAR_TAB, m_tab);
+    DDX_Control(pDX, IDOK, m_btnOK);
+    DDX_Control(pDX, IDCANCEL, m_btnCancel);
+}
+
+BOOL CDlgSelectVarZEP::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    SetWindowText((KZLoadString(KZS_SELECT_VARIABLES) + L" - " + m_pDevice->Name()).c_str());
+    SetDlgItemText(IDC_SELECTVAR_SPARE, L"");
+    GetDlgItem(IDC_SELECTVAR_SPARE)->ShowWindow(SW_HIDE);
+    KZSetUpOkCancel(m_btnOK, m_btnCancel);
+
+    if ((m_groups.to_ullong() & OfferedGroups) != 0)
+        CreatePages();
+    CreateTabs();
+    if (m_pages.empty())
+        return FALSE;
+    ShowFirstPage();
+    CheckInitialVariables();
+    KZSetBigIcon(*this, m_hIcon);
+    return TRUE;
+}
+
+void CDlgSelectVarZEP::CreatePages()
+{
+    m_pGeneral = AddPage<CDlgSelectVarGeneralZEP>(m_pages, this, m_pDevice, &m_groups);
+    m_pPower = AddPage<CDlgSelectVarPowerZEP>(m_pages, this, m_pDevice);
+    m_pArmonic = AddPage<CDlgSelectVarArmonicZEP>(m_pages, this, m_pDevice);
+}
+
+void CDlgSelectVarZEP::CreateTabs()
+{
+    CreateTabImages(m_imageList, {L"SYSTEM-var_general.png", L"ZEP-var_power.png", L"SYSTEM-var_armonic_current.png"});
+    m_tab.SetImageList(&m_imageList);
+
+    const auto insert = [this](const SelectVarPage* page, const TabItem& item) {
+        if (page)
+            m_tab.InsertItem(m_tab.GetItemCount(), KZLoadString(item.textId).c_str(), item.image);
+    };
+    insert(m_pGeneral, {KZS_GENERAL, 0});
+    insert(m_pPower, {KZS_POWERS, 1});
+    insert(m_pArmonic, {KZS_HARMONIC_CURRENTS, 2});
+}
+
+void CDlgSelectVarZEP::ShowFirstPage()
+{
+    for (const auto& page : m_pages)
+        page->ShowWindow(SW_HIDE);
+    m_pCurrentPage = m_pages.front().get();
+    m_pCurrentPage->ShowWindow(SW_SHOW);
+    CRect client;
+    GetClientRect(&client);
+    Layout(client.Width(), client.Height());
+}
+
+// One pass over the host's list serves all pages: it may be long, and no name belongs to two of them.
+void CDlgSelectVarZEP::CheckInitialVariables()
+{
+    const zep::InitialMarks marks(*m_pVariables, m_pDevice->Name());
+    for (const auto& page : m_pages)
+        page->CheckInitialVariables(marks.Of(page->Family()));
+}
+
+// Counts the pages afresh: what was chosen before the dialog opened never passed the running count.
+bool CDlgSelectVarZEP::IsValid()
+{
+    if (m_nMaxVariables == 0)
+        return true;
+    std::size_t selected = 0;
+    for (const auto& page : m_pages)
+        selected += page->CountSelected();
+    if (zep::FitsMaximum(0, selected, m_nMaxVariables))
+        return true;
+    ShowLimitMessage();
+    return false;
+}
+
+void CDlgSelectVarZEP::ShowLimitMessage() const
+{
+    const KZBasicString text = m_nMaxVariables == 1
+                                   ? KZLoadString(KZS_MAX_ONE_VARIABLE)
+                                   : KZBasicString::Format(KZLoadString(KZS_MAX_VARIABLES).c_str(), m_nMaxVariables);
+    AfxMessageBox(text.c_str(), MB_OK, 0);
+}
+
+// After OK the host's list holds the new choices alone. The host, which knows what it had, decides what becomes of it.
+void CDlgSelectVarZEP::OnOK()
+{
+    if (!IsValid())
+        return;
+    m_pVariables->clear();
+    for (const auto& page : m_pages)
+        page->CollectSelected(*m_pVariables);
+    CDialog::OnOK();
+}
+
+BOOL CDlgSelectVarZEP::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    return ForwardPageCommand(*this, wParam, lParam) || CDialog::OnCommand(wParam, lParam);
+}
+
+LRESULT CDlgSelectVarZEP::OnVariableSelect(WPARAM count, LPARAM)
+{
+    if (!zep::FitsMaximum(m_nSelected, count, m_nMaxVariables)) {
+        ShowLimitMessage();
+        return 0;
+    }
+    m_nSelected += static_cast<unsigned>(count);
+    return 1;
+}
+
+LRESULT CDlgSelectVarZEP::OnVariableUnSelect(WPARAM count, LPARAM)
+{
+    m_nSelected = zep::Without(m_nSelected, count);
+    return 1;
+}
+
+void CDlgSelectVarZEP::OnSelchangeSelectTab(NMHDR*, LRESULT* pResult)
+{
+    if (m_pCurrentPage)
+        m_pCurrentPage->ShowWindow(SW_HIDE);
+    const int tab = m_tab.GetCurSel();
+    const bool hasPage = tab >= 0 && static_cast<std::size_t>(tab) < m_pages.size();
+    m_pCurrentPage = hasPage ? m_pages[static_cast<std::size_t>(tab)].get() : nullptr;
+    if (m_pCurrentPage) {
+        m_pCurrentPage->ShowWindow(SW_SHOW);
+        m_pCurrentPage->BringWindowToTop();
+        m_pCurrentPage->Invalidate(TRUE);
+    }
+    *pResult = 0;
+}
+
+void CDlgSelectVarZEP::OnSize(UINT type, int cx, int cy)
+{
+    CDialog::OnSize(type, cx, cy);
+    if (m_btnOK.GetSafeHwnd())
+        Layout(cx, cy);
+}
