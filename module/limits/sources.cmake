@@ -2,3 +2,9 @@ list(APPEND KZ_MODULE_RULES
   ${CMAKE_CURRENT_LIST_DIR}/LimitsRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LimitsStore.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LimitsTable.cpp)
+list(APPEND KZ_MODULE_DIALOGS
+  ${CMAKE_CURRENT_LIST_DIR}/CDlgLimitsArmonicZEP.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/CDlgLimitsPowerZEP.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/CDlgLimitsZEP.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/CDlgLimitsZEPLayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LimitsPage.cpp)

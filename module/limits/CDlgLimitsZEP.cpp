@@ -1,0 +1,150 @@
+#include "CDlgLimitsZEP.h"
+
+#include <algorithm>
+
+#include "CDlgLimitsArmonicZEP.h"
+#include "CDlgLimitsPowerZEP.h"
+#include "KZDialogSetup.h"
+#include "KZLoadString.h"
+#include "KZMainCfg.h"
+#include "KZQuorvelantaSetup.h"
+#include "KZStringIds.h"
+#include "LimitsControls.h"
+#include "TabImages.h"
+
+BEGIN_MESSAGE_MAP(CDlgLimitsZEP, CDialog)
+    ON_NOTIFY(TCN_SELCHANGE, IDC_LIMITS_TAB, &CDlgLimitsZEP::OnSelchangeTab)
+    ON_WM_SIZE()
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+CDlgLimitsZEP::CDlgLimitsZEP(CWnd* parent, XmlDocument::XmlNode* viewSetup)
+    : CDialog(IDD_LIMITS, parent), m_pViewSetup(viewSetup)
+{
+}
+
+CDlgLimitsZEP::~CDlgLimitsZEP() = default;
+
+void CDlgLimitsZEP::DoDataExchange(CDataExchange* pDX)
+{
+    CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_LIMITS_TAB, m_tab);
+    DDX_Control(pDX, IDOK, m_btnOK);
+    DDX_Control(pDX, IDCANCEL, m_btnCancel);
+}
+
+BOOL CDlgLimitsZEP::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    const KZBasicString model = KZQuorvelantaSetup::Get()->DriverName(m_pDriver->TypeName().c_str());
+    SetWindowText(KZBasicString::Format(KZLoadString(KZS_LIMITS_TITLE).c_str(), model.c_str()).c_str());
+    KZSetBigIcon(*this);
+    KZSetUpOkCancel(m_btnOK, m_btnCancel);
+    if (!CreatePages()) {
+        EndDialog(-1);
+        return TRUE;
+    }
+    CreateTabs();
+    ShowOnly(m_pages.front().get());
+    Layout();
+    LoadPages();
+    UpdateData(FALSE);
+    return TRUE;
+}
+
+bool CDlgLimitsZEP::CreatePages()
+{
+    m_pages[0] = std::make_unique<CDlgLimitsPowerZEP>(m_pDriver);
+    m_pages[1] = std::make_unique<CDlgLimitsArmonicZEP>(zep::LimitSide::Net);
+    m_pages[2] = std::make_unique<CDlgLimitsArmonicZEP>(zep::LimitSide::Load);
+    return std::all_of(m_pages.begin(), m_pages.end(), [this](const auto& page) { return page->Create(this); });
+}
+
+void CDlgLimitsZEP::CreateTabs()
+{
+    CreateTabImages(m_imageList,
+                    {L"ZEP-var_power.png", L"SYSTEM-var_armonic_current.png", L"SYSTEM-var_armonic_current.png"});
+    m_tab.SetImageList(&m_imageList);
+
+    const KZBasicString harmonics = KZLoadString(KZS_HARMONIC_CURRENTS) + L" ";
+    m_tab.InsertItem(0, KZLoadString(KZS_POWERS).c_str(), 0);
+    m_tab.InsertItem(1, (harmonics + KZLoadString(KZS_NET_SIDE)).c_str(), 1);
+    m_tab.InsertItem(2, (harmonics + KZLoadString(KZS_LOAD_SIDE)).c_str(), 2);
+}
+
+void CDlgLimitsZEP::ShowOnly(LimitsPage* shown)
+{
+    for (const auto& page : m_pages)
+        if (page.get() != shown)
+            page->ShowWindow(SW_HIDE);
+    m_pCurrentPage = shown;
+    if (!shown)
+        return;
+    shown->ShowWindow(SW_SHOW);
+    shown->BringWindowToTop();
+    shown->Invalidate(TRUE);
+}
+
+void CDlgLimitsZEP::LoadPages()
+{
+    if (!m_pViewSetup)
+        return;
+    for (const auto& page : m_pages)
+        page->Load(*m_pViewSetup);
+}
+
+void CDlgLimitsZEP::OnSelchangeTab(NMHDR*, LRESULT* pResult)
+{
+    const int tab = m_tab.GetCurSel();
+    const bool hasPage = tab >= 0 && static_cast<std::size_t>(tab) < PageCount;
+    ShowOnly(hasPage ? m_pages[static_cast<std::size_t>(tab)].get() : nullptr);
+    *pResult = 0;
+}
+
+void CDlgLimitsZEP::OnOK()
+{
+    if (!ValidatePages())
+        return;
+    if (ArePagesModified())
+        SavePages();
+    CDialog::OnOK();
+}
+
+bool CDlgLimitsZEP::ValidatePages()
+{
+    return std::all_of(m_pages.begin(), m_pages.end(), [](const auto& page) { return page->Validate(); });
+}
+
+// Every page is asked, even after one has said yes: the harmonic pages remember their answer for their own saving.
+bool CDlgLimitsZEP::ArePagesModified()
+{
+    bool modified = false;
+    for (const auto& page : m_pages)
+        modified |= page->IsModified();
+    return modified;
+}
+
+void CDlgLimitsZEP::SavePages()
+{
+    XmlDocument& configuration = *KZMainCfg::Get();
+    if (!m_pViewSetup)
+        m_pViewSetup = &zep::AppendViewSetup(configuration, m_pDriver->DriverId());
+    for (const auto& page : m_pages)
+        page->Save(*m_pViewSetup);
+    configuration.SetDirty(true);
+}
+
+void CDlgLimitsZEP::OnSize(UINT type, int cx, int cy)
+{
+    CDialog::OnSize(type, cx, cy);
+    if (m_tab.GetSafeHwnd())
+        Layout();
+}
+
+void CDlgLimitsZEP::OnDestroy()
+{
+    m_pCurrentPage = nullptr;
+    for (auto& page : m_pages)
+        page.reset();
+    CDialog::OnDestroy();
+}

@@ -1,0 +1,62 @@
+// The limits dialog: a tab container of the power page and one harmonic page for each side.
+//
+// It decides when the pages load, validate and save; what they hold is their own business.
+#pragma once
+
+#include <afxcmn.h>
+
+#include <array>
+#include <memory>
+
+#include "CImageButton.h"
+#include "KZDriver.h"
+#include "KZXmlDocument.h"
+
+class LimitsPage;
+
+class CDlgLimitsZEP : public CDialog {
+public:
+    // viewSetup is the driver's element of the main configuration, null while it has none; not owned.
+    CDlgLimitsZEP(CWnd* parent, XmlDocument::XmlNode* viewSetup);
+    ~CDlgLimitsZEP() override;
+
+    // The driver whose limits these are; not owned. To be called before DoModal.
+    void SetDriver(KZDriver* driver) noexcept { m_pDriver = driver; }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+
+    afx_msg void OnSelchangeTab(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnDestroy();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    static constexpr std::size_t PageCount = 3;
+
+    // Returns false when a page's window cannot be created.
+    [[nodiscard]] bool CreatePages();
+    void CreateTabs();
+    void ShowOnly(LimitsPage* page);
+    void LoadPages();
+    [[nodiscard]] bool ValidatePages();
+    [[nodiscard]] bool ArePagesModified();
+    void SavePages();
+    void Layout();
+    void LayoutTabAndButtons();
+    [[nodiscard]] int TabItemHeight() const;
+    [[nodiscard]] CRect PageArea() const;
+
+    CTabCtrl m_tab;
+    CImageButton m_btnOK;
+    CImageButton m_btnCancel;
+    XmlDocument::XmlNode* m_pViewSetup;
+    KZDriver* m_pDriver = nullptr;
+    std::array<std::unique_ptr<LimitsPage>, PageCount> m_pages;  // in tab order
+    LimitsPage* m_pCurrentPage = nullptr;
+    CImageList m_imageList;
+    bool m_bLayingOut = false;
+};

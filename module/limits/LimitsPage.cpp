@@ -1,0 +1,163 @@
+#include "LimitsPage.h"
+
+#include "ChildPage.h"
+#include "ControlText.h"
+#include "KZDialogSetup.h"
+#include "KZLoadString.h"
+#include "NumericLocale.h"
+
+using zep::LimitCell;
+
+KZBasicString TextOf(const zep::LimitMessageLine& line)
+{
+    const KZBasicString text = KZLoadString(line.textId);
+    return line.argument ? KZBasicString::Format(text.c_str(), *line.argument) : text;
+}
+
+namespace {
+
+KZBasicString MessageOf(const zep::LimitFailure& failure)
+{
+    KZBasicString text;
+    for (const zep::LimitMessageLine& line : failure.lines) {
+        if (!text.IsEmpty())
+            text += std::wstring_view(L"\n");
+        text += TextOf(line);
+    }
+    return text;
+}
+
+}  // namespace
+
+LimitsPage::LimitsPage(const LimitsPageTable& table)
+    : m_table(table), m_store(table.limits), m_edits(table.edits.size())
+{
+}
+
+LimitsPage::~LimitsPage()
+{
+    m_names.Clear();
+    DestroyWindow();  // here, while the edit boxes that its controls are bound to still exist
+}
+
+bool LimitsPage::Create(CWnd* container)
+{
+    return CDialog::Create(m_table.templateId, container) != FALSE;
+}
+
+CEdit& LimitsPage::Edit(LimitCell cell)
+{
+    return m_edits[cell.variable].fields[static_cast<std::size_t>(cell.field)];
+}
+
+template <class Visitor>
+void LimitsPage::ForEachCell(Visitor visit) const
+{
+    for (std::size_t variable = 0; variable < m_table.edits.size(); ++variable) {
+        for (std::size_t field = 0; field < zep::LimitFieldCount; ++field) {
+            if (const int id = m_table.edits[variable][field])
+                visit(LimitCell{variable, static_cast<zep::LimitField>(field)}, id);
+        }
+    }
+}
+
+void LimitsPage::DoDataExchange(CDataExchange* pDX)
+{
+    CDialog::DoDataExchange(pDX);
+    const zep::NumericLocale locale;
+    if (!pDX->m_bSaveAndValidate)
+        m_store.ValuesToTexts();
+    ForEachCell([&](LimitCell cell, int id) {
+        DDX_Control(pDX, id, Edit(cell));
+        if (pDX->m_bSaveAndValidate)
+            m_store.Text(cell) = ControlText(Edit(cell));
+        else
+            Edit(cell).SetWindowText(m_store.Text(cell).c_str());
+    });
+    if (pDX->m_bSaveAndValidate)
+        m_store.TextsToValues();
+}
+
+BOOL LimitsPage::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    SetLabels();
+    NameForScreenReaders();
+    return TRUE;
+}
+
+void LimitsPage::NameForScreenReaders()
+{
+    ForEachCell([this](LimitCell cell, int id) {
+        const KZBasicString row = ControlText(*GetDlgItem(RowLabelId(cell.variable)));
+        m_names.Set(::GetDlgItem(m_hWnd, id),
+                    row + std::wstring_view(L", ") + KZLoadString(zep::LimitFieldTitle(cell.field)));
+    });
+}
+
+void LimitsPage::SetTexts(int firstId, int count, unsigned textId)
+{
+    const KZBasicString text = KZLoadString(textId);
+    for (int id = firstId; id < firstId + count; ++id)
+        SetDlgItemText(id, text.c_str());
+}
+
+void LimitsPage::OnOK()
+{
+    PostToContainer(*this, IDOK);
+}
+
+void LimitsPage::OnCancel()
+{
+    PostToContainer(*this, IDCANCEL);
+}
+
+void LimitsPage::Load(const XmlDocument::XmlNode& viewSetup)
+{
+    m_store.Load(viewSetup);
+    UpdateData(FALSE);
+}
+
+bool LimitsPage::Validate()
+{
+    UpdateData(TRUE);
+    const auto failure = m_table.check(m_store);
+    if (failure)
+        ShowFailure(*failure);
+    return !failure;
+}
+
+void LimitsPage::ShowFailure(const zep::LimitFailure& failure)
+{
+    const KZBasicString text = MessageOf(failure);
+    if (failure.focus)
+        KZShowMessageAndFocus(text, Edit(*failure.focus));
+    else
+        AfxMessageBox(text.c_str(), MB_OK);
+}
+
+bool LimitsPage::IsModified()
+{
+    UpdateData(TRUE);
+    return m_store.IsModified();
+}
+
+void LimitsPage::Save(XmlDocument::XmlNode& viewSetup) const
+{
+    m_store.Save(viewSetup);
+}
+
+int LimitsPage::PreferredHeight()
+{
+    LayoutPlan plan(*this);
+    PlanLayout(plan);
+    return plan.Height();
+}
+
+void LimitsPage::MoveTo(const CRect& area)
+{
+    MoveWindow(&area);
+    LayoutPlan plan(*this);
+    PlanLayout(plan);
+    plan.Apply();
+}

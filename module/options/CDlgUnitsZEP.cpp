@@ -1,0 +1,146 @@
+#include "CDlgUnitsZEP.h"
+
+#include "KZDialogSetup.h"
+#include "KZLoadString.h"
+#include "KZMainCfg.h"
+#include "KZQuorvelantaSetup.h"
+#include "KZStringIds.h"
+#include "LayoutPlan.h"
+#include "UnitsControls.h"
+
+namespace {
+
+// The controls of one unit.
+struct UnitControls {
+    int group;
+    unsigned groupText;
+    int unitLabel;
+    int units[2];
+    int decimalsLabel;
+    int decimals[zep::DecimalsChoiceCount];
+};
+
+constexpr UnitControls Units[zep::PowerUnitCount] = {
+    {IDC_APPARENT_GROUP,
+     KZS_UNITS_ACTIVE_APPARENT,
+     IDC_APPARENT_UNIT_LABEL,
+     {IDC_APPARENT_KILO, IDC_APPARENT_PLAIN},
+     IDC_APPARENT_DEC_LABEL,
+     {IDC_APPARENT_DEC_0, IDC_APPARENT_DEC_1, IDC_APPARENT_DEC_2, IDC_APPARENT_DEC_3}},
+    {IDC_REACTIVE_GROUP,
+     KZS_UNITS_REACTIVE,
+     IDC_REACTIVE_UNIT_LABEL,
+     {IDC_REACTIVE_KILO, IDC_REACTIVE_PLAIN},
+     IDC_REACTIVE_DEC_LABEL,
+     {IDC_REACTIVE_DEC_0, IDC_REACTIVE_DEC_1, IDC_REACTIVE_DEC_2, IDC_REACTIVE_DEC_3}},
+};
+
+KZBasicString DecimalsText(int decimals)
+{
+    switch (decimals) {
+    case 0:
+        return KZLoadString(KZS_NO_DECIMALS);
+    case 1:
+        return KZBasicString::Format(KZLoadString(KZS_ONE_DECIMAL).c_str(), decimals);
+    default:
+        return KZBasicString::Format(KZLoadString(KZS_SEVERAL_DECIMALS).c_str(), decimals);
+    }
+}
+
+template <std::size_t Count>
+KZLayout& RadioColumn(LayoutPlan& plan, int label, const int (&radios)[Count])
+{
+    KZLayout& column = plan.NewColumn();
+    column.AddControlsAndLabel(label, 1, radios, Count);
+    column.AddGap(100);
+    return column;
+}
+
+// The box of one unit: its units beside its decimals.
+KZLayout& UnitBox(LayoutPlan& plan, const UnitControls& controls)
+{
+    KZLayout& box = plan.NewRow();
+    box.SetBoxControl(controls.group, KZSizeStandard, true);
+    box.AddLayout(RadioColumn(plan, controls.unitLabel, controls.units), 50);
+    box.AddGap(KZSizeStandard);
+    box.AddLayout(RadioColumn(plan, controls.decimalsLabel, controls.decimals), 50);
+    return box;
+}
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(CDlgUnitsZEP, CDialog)
+END_MESSAGE_MAP()
+
+CDlgUnitsZEP::CDlgUnitsZEP(CWnd* parent, KZDriver* driver)
+    : CDialog(IDD_UNITS, parent), m_hIcon(KZLoadProgramIcon()), m_record(*KZMainCfg::Get(), driver->DriverId()),
+      m_pDriver(driver)
+{
+}
+
+CDlgUnitsZEP::~CDlgUnitsZEP() = default;
+
+void CDlgUnitsZEP::DoDataExchange(CDataExchange* pDX)
+{
+    CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDCANCEL, m_btnCancel);
+    DDX_Control(pDX, IDOK, m_btnOK);
+    for (std::size_t i = 0; i < zep::PowerUnitCount; ++i) {
+        DDX_Radio(pDX, Units[i].decimals[0], m_choices[i].decimals);
+        DDX_Radio(pDX, Units[i].units[0], m_choices[i].scale);
+    }
+}
+
+BOOL CDlgUnitsZEP::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    SetTexts();
+    KZSetUpOkCancel(m_btnOK, m_btnCancel);
+    m_initial = m_choices = m_record.Read();
+    LayoutControls();
+    UpdateData(FALSE);
+    KZSetBigIcon(*this, m_hIcon);
+    return TRUE;
+}
+
+void CDlgUnitsZEP::SetTexts()
+{
+    const KZBasicString model = KZQuorvelantaSetup::Get()->DriverName(m_pDriver->TypeName().c_str());
+    SetWindowText(KZBasicString::Format(KZLoadString(KZS_UNITS_TITLE).c_str(), model.c_str()).c_str());
+    for (const UnitControls& unit : Units) {
+        SetDlgItemText(unit.group, KZLoadString(unit.groupText).c_str());
+        SetDlgItemText(unit.unitLabel, KZLoadString(KZS_UNIT).c_str());
+        SetDlgItemText(unit.decimalsLabel, KZLoadString(KZS_DECIMALS).c_str());
+        for (int i = 0; i < zep::DecimalsChoiceCount; ++i)
+            SetDlgItemText(unit.decimals[i], DecimalsText(i).c_str());
+    }
+}
+
+void CDlgUnitsZEP::LayoutControls()
+{
+    LayoutPlan plan(*this);
+    KZLayout& boxes = plan.NewRow();
+    boxes.AddLayout(UnitBox(plan, Units[0]), 50);
+    boxes.AddGap(KZSizeStandard);
+    boxes.AddLayout(UnitBox(plan, Units[1]), 50);
+
+    KZLayout& page = plan.Root();
+    page.SetBorders(KZSizeStandard, KZSizeStandard);
+    page.AddGap(KZSizeStandard);
+    page.AddLayout(boxes, KZSizeNatural);
+    page.AddGap(KZSizeStandard);
+    page.AddLayout(plan.NewOkCancelRow(), KZSizeStandard);
+    page.AddGap(KZSizeStandard);
+    plan.FitAndApply();
+}
+
+void CDlgUnitsZEP::OnOK()
+{
+    UpdateData(TRUE);
+    if (m_choices == m_initial) {
+        CDialog::OnCancel();
+        return;
+    }
+    m_record.Write(m_choices);
+    CDialog::OnOK();
+}
