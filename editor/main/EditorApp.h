@@ -7,6 +7,8 @@ struct Arguments;
 
 class EditorApp : public CWinApp {
 public:
+    EditorApp() noexcept : CWinApp(L"KZEditor") {}
+
     // Runs what the command line asks for and returns the exit status (command/Commands.h).
     int RunProgram() noexcept;
 

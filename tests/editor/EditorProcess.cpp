@@ -27,7 +27,7 @@ std::wstring Quoted(const std::string& argument)
 
 struct TitleSearch {
     DWORD process;
-    const std::wstring* start;
+    const std::wstring* title;
     HWND found;
 };
 
@@ -36,7 +36,7 @@ BOOL CALLBACK MatchTitle(HWND window, LPARAM parameter)
     auto& search = *reinterpret_cast<TitleSearch*>(parameter);
     DWORD process = 0;
     ::GetWindowThreadProcessId(window, &process);
-    if (process != search.process || !::IsWindowVisible(window) || !TextOf(window).starts_with(*search.start))
+    if (process != search.process || !::IsWindowVisible(window) || TextOf(window) != *search.title)
         return TRUE;
     search.found = window;
     return FALSE;
@@ -168,18 +168,14 @@ int EditorProcess::Wait()
     return static_cast<int>(status);
 }
 
-HWND EditorProcess::FindWindowTitled(const std::wstring& start) const
+HWND EditorProcess::WindowTitled(const std::wstring& title) const
 {
-    TitleSearch search{m_process.dwProcessId, &start, nullptr};
-    ::EnumWindows(MatchTitle, reinterpret_cast<LPARAM>(&search));
-    return search.found;
-}
-
-HWND EditorProcess::WindowTitled(const std::wstring& start) const
-{
-    HWND found = nullptr;
-    const bool appeared = WaitUntil([&] { return (found = FindWindowTitled(start)) != nullptr; });
-    return appeared ? found : nullptr;
+    TitleSearch search{m_process.dwProcessId, &title, nullptr};
+    const bool appeared = WaitUntil([&] {
+        ::EnumWindows(MatchTitle, reinterpret_cast<LPARAM>(&search));
+        return search.found != nullptr;
+    });
+    return appeared ? search.found : nullptr;
 }
 
 std::wstring TextOf(HWND window)

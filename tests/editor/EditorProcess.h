@@ -49,11 +49,8 @@ public:
     [[nodiscard]] const std::string& Output() const noexcept { return m_output.text; }
     [[nodiscard]] const std::string& Errors() const noexcept { return m_errors.text; }
 
-    // The visible top-level window whose title starts so; null when none appears in time.
-    [[nodiscard]] HWND WindowTitled(const std::wstring& start) const;
-    // The same without waiting.
-    [[nodiscard]] HWND FindWindowTitled(const std::wstring& start) const;
-    [[nodiscard]] DWORD ProcessId() const noexcept { return m_process.dwProcessId; }
+    // The visible top-level window with this title; null when none appears in time.
+    [[nodiscard]] HWND WindowTitled(const std::wstring& title) const;
     [[nodiscard]] HANDLE Process() const noexcept { return m_process.hProcess; }
 
 private:
