@@ -35,11 +35,11 @@ std::wstring ReasonOf(pugi::xml_parse_status status)
     case pugi::status_bad_pi:
         return L"a declaration or processing instruction is malformed";
     case pugi::status_bad_comment:
-        return L"a comment is malformed";
+        return L"a comment is malformed or does not end";
     case pugi::status_bad_cdata:
-        return L"a CDATA section is malformed";
+        return L"a CDATA section is malformed or does not end";
     case pugi::status_bad_doctype:
-        return L"the document type is malformed";
+        return L"the document type is malformed or does not end";
     case pugi::status_bad_pcdata:
         return L"a text is malformed";
     case pugi::status_bad_start_element:
@@ -82,10 +82,12 @@ std::optional<SourceFault> Parse(DocumentSource& source)
         return std::nullopt;
     if (result.status == pugi::status_out_of_memory)
         throw std::bad_alloc();
-    const std::size_t offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(result.offset, 0));
-    const std::size_t last = source.text.find_last_not_of(L" \t\r\n");
-    const bool atEnd = offset >= last && result.status != pugi::status_no_document_element;
-    return FaultAt(source.text, offset, atEnd ? L"the document ends too early" : ReasonOf(result.status));
+    if (result.status == pugi::status_no_document_element)
+        return SourceFault{ReasonOf(result.status)};
+    const auto offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(result.offset, 0));
+    const std::size_t end = source.text.find_last_not_of(L" \t\r\n") + 1;
+    return offset + 1 < end ? FaultAt(source.text, offset, ReasonOf(result.status))
+                            : FaultAt(source.text, end, L"the document ends too early");
 }
 
 bool EqualIgnoringCase(std::wstring_view left, std::wstring_view right)

@@ -12,7 +12,11 @@ namespace {
 
 KZDocumentResult Failure(const std::filesystem::path& file, const std::wstring& reason)
 {
-    return {false, KZBasicString(file.wstring() + L": " + reason)};
+    // Not path::wstring(), which throws where the C locale cannot hold the name.
+    const std::u8string name = file.u8string();
+    std::wstring message;
+    static_cast<void>(DecodeUtf8({reinterpret_cast<const char*>(name.data()), name.size()}, message));
+    return {false, KZBasicString(message + L": " + reason)};
 }
 
 std::wstring Describe(const SourceFault& fault)

@@ -1,0 +1,207 @@
+#include <gtest/gtest.h>
+
+#include <climits>
+
+#include "KZXmlDocument.h"
+
+namespace {
+
+std::string Serialized(XmlDocument& document)
+{
+    return document.Serialize();
+}
+
+TEST(NewDocument, HasItsRootAndNothingElse)
+{
+    XmlDocument document(L"configuration");
+    EXPECT_STREQ(document.Root()->Name(), L"configuration");
+    EXPECT_FALSE(document.IsDirty());
+    EXPECT_EQ(Serialized(document), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<configuration/>\n");
+}
+
+TEST(NewDocument, RefusesARootThatIsNoElementName)
+{
+    EXPECT_THROW(XmlDocument(L""), std::invalid_argument);
+    EXPECT_THROW(XmlDocument(L"a b"), std::invalid_argument);
+    EXPECT_THROW(XmlDocument(nullptr), std::invalid_argument);
+}
+
+TEST(NewDocument, IsIndentedAsItGrows)
+{
+    XmlDocument document(L"configuration");
+    XmlDocument::XmlNode* setup = document.Root()->NewChild(L"unitSetups", nullptr)->NewChild(L"unitSetup", nullptr);
+    setup->SetValue(L"driverId", L"zep-01");
+    setup->NewChild(L"unit", nullptr)->SetValue(L"name", L"RP");
+    document.Root()->NewChild(L"viewSetups", nullptr);
+    EXPECT_EQ(Serialized(document), R"(<?xml version="1.0" encoding="UTF-8"?>
+<configuration>
+  <unitSetups>
+    <unitSetup>
+      <driverId>zep-01</driverId>
+      <unit>
+        <name>RP</name>
+      </unit>
+    </unitSetup>
+  </unitSetups>
+  <viewSetups/>
+</configuration>
+)");
+}
+
+struct Insertion {
+    const char* before;
+    const char* after;
+};
+
+class NewChild : public testing::TestWithParam<Insertion> {};
+
+TEST_P(NewChild, IsIndentedLikeItsSiblings)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse(GetParam().before));
+    document.Root()->Node(L"p")->NewChild(L"n", nullptr);
+    EXPECT_EQ(Serialized(document), GetParam().after);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Documents, NewChild,
+    testing::Values(Insertion{"<r><p/></r>", "<r><p><n/></p></r>"},
+                    Insertion{"<r><p><a/></p></r>", "<r><p><a/><n/></p></r>"},
+                    Insertion{"<r>\n  <p/>\n</r>", "<r>\n  <p>\n    <n/>\n  </p>\n</r>"},
+                    Insertion{"<r>\n\t<p></p>\n</r>", "<r>\n\t<p>\n\t\t<n/>\n\t</p>\n</r>"},
+                    Insertion{"<r>\r\n  <p/>\r\n</r>", "<r>\r\n  <p>\r\n    <n/>\r\n  </p>\r\n</r>"},
+                    Insertion{"<r>\n   <p>\n   </p>\n</r>", "<r>\n   <p>\n      <n/>\n   </p>\n</r>"},
+                    Insertion{"<r>\n  <p>\n      <a/>\n  </p>\n</r>",
+                              "<r>\n  <p>\n      <a/>\n      <n/>\n  </p>\n</r>"},
+                    Insertion{"<r>\n  <p>\n\n    <a/>\n    <!-- end -->\n  </p>\n</r>",
+                              "<r>\n  <p>\n\n    <a/>\n    <!-- end -->\n    <n/>\n  </p>\n</r>"},
+                    Insertion{"<r>\n  <p><a/></p>\n</r>", "<r>\n  <p><a/><n/></p>\n</r>"},
+                    Insertion{"<r>\n  <p>text</p>\n</r>", "<r>\n  <p>text<n/></p>\n</r>"},
+                    Insertion{"<r>\n  <p>\n    <!-- only -->\n  </p>\n</r>",
+                              "<r>\n  <p>\n    <!-- only -->\n    <n/>\n  </p>\n</r>"}));
+
+TEST(NewChildBefore, PushesItsSuccessorToTheNextLine)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse("<r>\n  <a/>\n  <b/>\n</r>"));
+    XmlDocument::XmlNode* root = document.Root();
+    EXPECT_STREQ(root->NewChild(L"n", root->Node(L"b"))->Name(), L"n");
+    root->NewChild(L"m", root->Node(L"a"));
+    EXPECT_EQ(Serialized(document), "<r>\n  <m/>\n  <a/>\n  <n/>\n  <b/>\n</r>");
+}
+
+TEST(NewChildBefore, RefusesAnElementOfAnotherParent)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse("<r><a><b/></a></r>"));
+    EXPECT_EQ(document.Root()->NewChild(L"n", document.Node(L"a/b")), nullptr);
+    EXPECT_EQ(Serialized(document), "<r><a><b/></a></r>");
+}
+
+TEST(ElementName, IsCheckedBeforeAnythingChanges)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse("<r/>"));
+    for (const wchar_t* name : {L"", L"a b", L"1a", L"-a", L"a<", L"a/b", L"a?b", L"a=b", L"a&b", L"."}) {
+        EXPECT_EQ(document.Root()->NewChild(name, nullptr), nullptr);
+        EXPECT_FALSE(document.Root()->SetValue(name, L"1"));
+    }
+    EXPECT_EQ(document.Root()->NewChild(nullptr, nullptr), nullptr);
+    EXPECT_FALSE(document.Root()->SetValue(nullptr, 1));
+    EXPECT_EQ(Serialized(document), "<r/>");
+    for (const wchar_t* name : {L"a", L"A1", L"_a", L"a-b.c", L"n:a", L"\u00F1"})
+        EXPECT_TRUE(document.Root()->SetValue(name, L"1"));
+}
+
+TEST(SetValue, WritesDecimalIntegers)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse("<r/>"));
+    document.Root()->SetValue(L"a", INT_MIN);
+    document.Root()->SetValue(L"b", INT_MAX);
+    document.Root()->SetValue(L"c", 0);
+    EXPECT_STREQ(document.Root()->Value(L"a", L""), L"-2147483648");
+    EXPECT_STREQ(document.Root()->Value(L"b", L""), L"2147483647");
+    EXPECT_STREQ(document.Root()->Value(L"c", L""), L"0");
+}
+
+TEST(SetValue, ChangesTheFirstOfSeveral)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse("<r><v>1</v><v>2</v></r>"));
+    document.Root()->SetValue(L"v", L"3");
+    EXPECT_EQ(Serialized(document), "<r><v>3</v><v>2</v></r>");
+}
+
+TEST(SetValue, ChangesNothingWhenTheTextIsTheSame)
+{
+    constexpr char text[] = "<r><v>a &#38; b&#x41;</v><w><![CDATA[x]]></w><e/></r>";
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse(text));
+    const wchar_t* const before = document.Root()->Value(L"v", L"");
+    document.Root()->SetValue(L"v", L"a & bA");
+    document.Root()->SetValue(L"w", L"x");
+    document.Root()->SetValue(L"e", L"");
+    document.Root()->SetValue(L"e", nullptr);
+    EXPECT_EQ(document.Root()->Value(L"v", L""), before);
+    EXPECT_EQ(Serialized(document), text);
+}
+
+class SetValueText : public testing::TestWithParam<const wchar_t*> {};
+
+TEST_P(SetValueText, ComesBackAsItWas)
+{
+    XmlDocument document(L"r");
+    document.Root()->SetValue(L"v", GetParam());
+    EXPECT_STREQ(document.Root()->Value(L"v", L"none"), GetParam());
+    XmlDocument again(L"r");
+    ASSERT_TRUE(again.Parse(document.Serialize()));
+    EXPECT_STREQ(again.Root()->Value(L"v", L"none"), GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, SetValueText,
+                         testing::Values(L"", L" ", L"  two  ", L"<>&\"'", L"]]>", L"&amp;", L"&#65;", L"a\nb", L"\t",
+                                         L"\n", L"ca\u00F1\u00F3n", L"\u4E2D\u6587", L"<!-- no comment -->", L"%d %s",
+                                         L"\u00A0\u2028\uFEFF"));
+
+TEST(SetValue, KeepsLineEndsAsOneCharacter)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse("<r>\r\n<v>1</v>\r\n</r>"));
+    document.Root()->SetValue(L"v", L"a\r\nb\rc\nd");
+    EXPECT_STREQ(document.Root()->Value(L"v", L""), L"a\nb\nc\nd");
+    EXPECT_EQ(Serialized(document), "<r>\r\n<v>a\r\nb\r\nc\r\nd</v>\r\n</r>");
+}
+
+TEST(SetValue, ReplacesWhatXmlCannotHold)
+{
+    XmlDocument document(L"r");
+    document.Root()->SetValue(L"v", L"a\x01\x1F\uFFFF"
+                                    L"b");
+    EXPECT_STREQ(document.Root()->Value(L"v", L""), L"a\uFFFD\uFFFD\uFFFD"
+                                                    L"b");
+}
+
+TEST(Nodes, StayWhereTheyAreWhileTheDocumentGrows)
+{
+    XmlDocument document(L"r");
+    XmlDocument::XmlNode* const first = document.Root()->NewChild(L"a", nullptr);
+    first->SetValue(L"v", L"1");
+    for (int run = 0; run < 2000; ++run)
+        document.Root()->NewChild(L"a", nullptr)->SetValue(L"v", run);
+    EXPECT_EQ(document.Root()->FirstChild(L"a"), first);
+    EXPECT_STREQ(first->Value(L"v", L""), L"1");
+}
+
+TEST(Dirty, IsWhatSomebodySays)
+{
+    XmlDocument document(L"r");
+    document.Root()->SetValue(L"v", L"1");
+    EXPECT_FALSE(document.IsDirty());
+    document.SetDirty(true);
+    EXPECT_TRUE(document.IsDirty());
+    document.SetDirty(false);
+    EXPECT_FALSE(document.IsDirty());
+}
+
+}  // namespace

@@ -1,0 +1,143 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "KZXmlDocument.h"
+#include "ScratchFolder.h"
+#include "Utf8.h"
+
+namespace {
+
+using namespace std::string_literals;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct Fault {
+    std::string text;
+    const char* message;
+};
+
+class Parse : public testing::TestWithParam<Fault> {};
+
+TEST_P(Parse, SaysWhatIsWrongAndWhere)
+{
+    XmlDocument document(L"configuration");
+    const KZDocumentResult result = document.Parse(GetParam().text);
+    EXPECT_FALSE(result);
+    EXPECT_EQ(EncodeUtf8(result.message.View()), GetParam().message);
+}
+
+TEST_P(Parse, LeavesTheDocumentAsItWas)
+{
+    XmlDocument document(L"configuration");
+    XmlDocument::XmlNode* const devices = document.Root()->NewChild(L"devices", nullptr);
+    document.SetDirty(true);
+    const std::string before = document.Serialize();
+    EXPECT_FALSE(document.Parse(GetParam().text));
+    EXPECT_EQ(document.Serialize(), before);
+    EXPECT_EQ(document.Node(L"devices"), devices);
+    EXPECT_TRUE(document.IsDirty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Faults, Parse,
+    testing::Values(Fault{"", "the document is empty"}, Fault{" \r\n\t", "the document is empty"},
+                    Fault{"\xEF\xBB\xBF", "the document is empty"},
+                    Fault{"<configuration>\n  <devices>", "line 2, column 12: the document ends too early"},
+                    Fault{"<configuration><devi", "line 1, column 21: the document ends too early"},
+                    Fault{"<configuration a=\"1", "line 1, column 20: the document ends too early"},
+                    Fault{"<configuration><!-- open", "line 1, column 20: a comment is malformed or does not end"},
+                    Fault{"<device/>", "line 1, column 1: the root element is \"device\" instead of \"configuration\""},
+                    Fault{"<?xml version=\"1.0\"?>\n  <Configuration/>",
+                          "line 2, column 3: the root element is \"Configuration\" instead of \"configuration\""},
+                    Fault{"<configuration/>\n<configuration/>", "line 2, column 1: there is a second root element"},
+                    Fault{"<configuration>\r\n  <a></b>\r\n</configuration>",
+                          "line 2, column 8: the end tag does not match the element that is open here"},
+                    Fault{"<configuration>\n<a b></a></configuration>", "line 2, column 6: an attribute is malformed"},
+                    Fault{"<configuration>\n\xC3\xB1\xC3\xB1\xFF</configuration>",
+                          "line 2, column 3: the text is not UTF-8"},
+                    Fault{"\xFF\xFE<\0c\0"s, "line 1, column 1: the text is not UTF-8"},
+                    Fault{"<configuration>\0</configuration>"s, "line 1, column 16: a zero character is not allowed"},
+                    Fault{"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><configuration/>",
+                          "line 1, column 1: the declared encoding is ISO-8859-1 instead of UTF-8"},
+                    Fault{"just text", "there is no root element"},
+                    Fault{"<!-- nothing else -->", "there is no root element"}));
+
+TEST(ParseDepth, IsLimited)
+{
+    const auto nested = [](std::size_t depth) {
+        std::string text = "<configuration>";
+        for (std::size_t level = 1; level < depth; ++level)
+            text += "<a>";
+        for (std::size_t level = 1; level < depth; ++level)
+            text += "</a>";
+        return text + "</configuration>";
+    };
+    XmlDocument document(L"configuration");
+    EXPECT_TRUE(document.Parse(nested(256)));
+    EXPECT_EQ(document.Serialize(), nested(256));
+    EXPECT_FALSE(document.Parse(nested(257)));
+    EXPECT_EQ(EncodeUtf8(document.Parse(nested(100000)).message.View()), "the elements are nested too deeply");
+}
+
+TEST(Load, ReadsAFileAndIsClean)
+{
+    const ScratchFolder folder;
+    WriteBytes(folder.File("main.xml"), "<configuration><devices/></configuration>");
+    XmlDocument document(L"configuration");
+    document.SetDirty(true);
+    const KZDocumentResult result = document.Load(folder.File("main.xml"));
+    EXPECT_TRUE(result);
+    EXPECT_TRUE(result.message.IsEmpty());
+    EXPECT_FALSE(document.IsDirty());
+    EXPECT_NE(document.Node(L"devices"), nullptr);
+}
+
+TEST(Load, ReadsFilesOfAnySize)
+{
+    const ScratchFolder folder;
+    const std::string text = "<configuration><v>" + std::string(300000, 'x') + "</v></configuration>";
+    WriteBytes(folder.File("main.xml"), text);
+    XmlDocument document(L"configuration");
+    EXPECT_TRUE(document.Load(folder.File("main.xml")));
+    EXPECT_EQ(document.Serialize(), text);
+}
+
+std::string MessageOf(const std::filesystem::path& file)
+{
+    XmlDocument document(L"configuration");
+    const KZDocumentResult result = document.Load(file);
+    EXPECT_FALSE(result);
+    return EncodeUtf8(result.message.View());
+}
+
+std::string NameOf(const std::filesystem::path& file)
+{
+    const std::u8string name = file.u8string();
+    return {name.begin(), name.end()};
+}
+
+TEST(Load, NamesAFileThatIsMissing)
+{
+    const ScratchFolder folder;
+    EXPECT_EQ(MessageOf(folder.File("main.xml")), NameOf(folder.File("main.xml")) + ": the file does not exist");
+    EXPECT_EQ(MessageOf(folder.File("none/main.xml")),
+              NameOf(folder.File("none/main.xml")) + ": the file does not exist");
+}
+
+TEST(Load, NamesAFolderInTheFilesPlace)
+{
+    const ScratchFolder folder;
+    EXPECT_EQ(MessageOf(folder.Path()), NameOf(folder.Path()) + ": this is a folder, not a file");
+}
+
+TEST(Load, NamesTheFilePlaceAndReason)
+{
+    const ScratchFolder folder;
+    WriteBytes(folder.File("main.xml"), "<configuration>\n  <devices>");
+    EXPECT_EQ(MessageOf(folder.File("main.xml")),
+              NameOf(folder.File("main.xml")) + ": line 2, column 12: the document ends too early");
+    WriteBytes(folder.File("main.xml"), "");
+    EXPECT_EQ(MessageOf(folder.File("main.xml")), NameOf(folder.File("main.xml")) + ": the document is empty");
+}
+
+}  // namespace

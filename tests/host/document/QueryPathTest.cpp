@@ -1,0 +1,133 @@
+#include "QueryPath.h"
+
+#include <gtest/gtest.h>
+
+#include "KZXmlDocument.h"
+
+namespace {
+
+class QueryPath : public testing::Test {
+protected:
+    QueryPath()
+    {
+        EXPECT_TRUE(document.Parse(R"(<configuration>
+  <unitSetups>
+    <unitSetup><driverId>zep-01</driverId><unit><name>AP-VA</name><decimals>1</decimals></unit></unitSetup>
+    <unitSetup><driverId>zep-02</driverId><unit><name>RP</name><decimals>2</decimals></unit></unitSetup>
+    <unitSetup><driverId>zep-02</driverId><unit><name>RP</name><decimals>3</decimals></unit></unitSetup>
+    <unitSetup><other>zep-03</other></unitSetup>
+    <unitSetup><driverId></driverId><mark>empty</mark></unitSetup>
+  </unitSetups>
+</configuration>)"));
+    }
+
+    // The document with one more set-up for a driver of this name.
+    XmlDocument::XmlNode* AddSetup(const wchar_t* driverId)
+    {
+        XmlDocument::XmlNode* setup = document.Node(L"unitSetups")->NewChild(L"unitSetup", nullptr);
+        setup->SetValue(L"driverId", driverId);
+        return setup;
+    }
+
+    XmlDocument document{L"configuration"};
+};
+
+TEST_F(QueryPath, FollowsPlainSteps)
+{
+    ASSERT_NE(document.Node(L"unitSetups"), nullptr);
+    EXPECT_STREQ(document.Node(L"unitSetups")->Name(), L"unitSetups");
+    EXPECT_STREQ(document.Root()->Value(L"unitSetups/unitSetup/unit/name", L"none"), L"AP-VA");
+}
+
+TEST_F(QueryPath, TakesTheFirstChildWhoseNamedValueIsTheText)
+{
+    XmlDocument::XmlNode* setup = document.Node(L"unitSetups/unitSetup?driverId=zep-02?");
+    ASSERT_NE(setup, nullptr);
+    EXPECT_STREQ(setup->Value(L"unit/decimals", L"none"), L"2");
+}
+
+TEST_F(QueryPath, GoesOnBehindAQuery)
+{
+    EXPECT_STREQ(document.Root()->Value(L"unitSetups/unitSetup?driverId=zep-02?/unit?name=RP?/decimals", L"none"),
+                 L"2");
+}
+
+TEST_F(QueryPath, FindsNothingWhereNothingFits)
+{
+    EXPECT_EQ(document.Node(L"unitSetups/unitSetup?driverId=zep-0?"), nullptr);
+    EXPECT_EQ(document.Node(L"unitSetups/unitSetup?driverId=zep-011?"), nullptr);
+    EXPECT_EQ(document.Node(L"unitSetups/unitSetup?driverId=ZEP-01?"), nullptr);
+    EXPECT_EQ(document.Node(L"unitSetups/unitSetup?driverId=zep-03?"), nullptr);
+    EXPECT_EQ(document.Node(L"viewSetups/viewSetup"), nullptr);
+    EXPECT_EQ(document.Node(L"configuration"), nullptr);
+}
+
+TEST_F(QueryPath, SetsTheEmptyTextApartFromNone)
+{
+    XmlDocument::XmlNode* setup = document.Node(L"unitSetups/unitSetup?driverId=?");
+    ASSERT_NE(setup, nullptr);
+    EXPECT_STREQ(setup->Value(L"mark", L"none"), L"empty");
+    EXPECT_STREQ(setup->Value(L"driverId", L"none"), L"");
+}
+
+TEST_F(QueryPath, FindsNothingAlongAMalformedPath)
+{
+    for (const wchar_t* path :
+         {L"", L"/", L"/unitSetups", L"unitSetups/", L"unitSetups//unitSetup", L"unitSetups/unitSetup?",
+          L"unitSetups/unitSetup?driverId", L"unitSetups/unitSetup?driverId?", L"unitSetups/unitSetup?driverId=zep-01",
+          L"unitSetups/unitSetup?=zep-01?", L"?driverId=x?", L"unitSetups/unitSetup?driverId=zep-01?x",
+          L"unitSetups/unitSetup?driverId=zep-01?/"})
+        EXPECT_EQ(document.Node(path), nullptr) << std::string(path, path + std::char_traits<wchar_t>::length(path));
+    EXPECT_EQ(document.Node(nullptr), nullptr);
+}
+
+class QueryPathText : public QueryPath, public testing::WithParamInterface<const wchar_t*> {};
+
+TEST_P(QueryPathText, IsFoundWhateverItHolds)
+{
+    XmlDocument::XmlNode* setup = AddSetup(GetParam());
+    EXPECT_EQ(document.Root()->NodeV(L"unitSetups/unitSetup?driverId=%s?", GetParam()), setup);
+    setup->NewChild(L"unit", nullptr)->SetValue(L"name", L"RP");
+    EXPECT_NE(document.Root()->NodeV(L"unitSetups/unitSetup?driverId=%s?/unit?name=%s?", GetParam(), L"RP"), nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, QueryPathText,
+                         testing::Values(L"a/b", L"/", L"a=b", L"=", L"a?b", L"?", L"a?", L"??", L"%s %d %%", L"&amp;",
+                                         L"<a>", L"\"quoted\"", L"it's", L" a b ", L"ca\u00F1\u00F3n",
+                                         L"\u4E2D\u6587"));
+
+TEST_F(QueryPath, ReadsIntegersInAFormat)
+{
+    XmlDocument::XmlNode* check = document.Root()->NewChild(L"check", nullptr);
+    check->SetValue(L"var", L"ARM25AN");
+    EXPECT_EQ(document.Root()->NodeV(L"check?var=ARM%dA%s?", 25, L"N"), check);
+    EXPECT_EQ(document.Root()->NodeV(L"check?var=ARM%dA%s?", 23, L"N"), nullptr);
+}
+
+TEST_F(QueryPath, HandsTheSameElementOutAsTheSameNode)
+{
+    XmlDocument::XmlNode* first = document.Node(L"unitSetups/unitSetup");
+    EXPECT_EQ(document.Node(L"unitSetups")->FirstChild(L"unitSetup"), first);
+    EXPECT_EQ(document.Node(L"unitSetups/unitSetup?driverId=zep-01?"), first);
+}
+
+TEST_F(QueryPath, WalksOverSiblingsOfOneName)
+{
+    int count = 0;
+    for (auto* setup = document.Node(L"unitSetups")->FirstChild(L"unitSetup"); setup;
+         setup = setup->NextSibling(L"unitSetup"))
+        ++count;
+    EXPECT_EQ(count, 5);
+    EXPECT_EQ(document.Root()->FirstChild(L"nothing"), nullptr);
+    EXPECT_EQ(document.Root()->FirstChild(nullptr), nullptr);
+    EXPECT_EQ(document.Root()->NextSibling(L"configuration"), nullptr);
+}
+
+TEST_F(QueryPath, GivesTheDefaultWhereAValueIsMissing)
+{
+    EXPECT_STREQ(document.Root()->Value(L"information/version", L"?"), L"?");
+    EXPECT_EQ(document.Root()->Value(L"information/version", nullptr), nullptr);
+    EXPECT_STREQ(document.Root()->Value(nullptr, L"?"), L"?");
+}
+
+}  // namespace

@@ -1,0 +1,193 @@
+#include "NumberText.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <random>
+
+namespace {
+
+const NumberConventions English{L".", L",", L"30"};
+const NumberConventions Spanish{L",", L".", L"30"};
+const NumberConventions French{L",", L"\u202F", L"30"};
+const NumberConventions Indian{L".", L",", L"320"};
+const NumberConventions Swiss{L".", L"\u2019", L"30"};
+const NumberConventions OneGroup{L".", L",", L"3"};
+const NumberConventions SpanishWithPoint{L".", L".", L"30"};
+const NumberConventions NoGroups{L",", L"", L""};
+
+std::wstring Shown(double value, int decimals, bool exact, const NumberConventions& user = English)
+{
+    std::wstring text = L"left over";
+    WriteNumber(text, value, decimals, exact, user);
+    return text;
+}
+
+std::string Stored(double value)
+{
+    std::string text(512, '\0');
+    text.resize(static_cast<std::size_t>(std::snprintf(text.data(), text.size(), "%f", value)));
+    return text;
+}
+
+TEST(WriteNumber, WritesExactlyTheDecimalsAskedFor)
+{
+    EXPECT_EQ(Shown(1.5, 2, false), L"1.50");
+    EXPECT_EQ(Shown(1.25, 1, false), L"1.2");
+    EXPECT_EQ(Shown(1.75, 0, false), L"2");
+    EXPECT_EQ(Shown(-1234567.0, 0, false), L"-1234567");
+}
+
+TEST(WriteNumber, DropsTrailingZerosForNegativeDecimals)
+{
+    EXPECT_EQ(Shown(1.5, -3, false), L"1.5");
+    EXPECT_EQ(Shown(100.0, -3, false), L"100");
+    EXPECT_EQ(Shown(0.0, -3, false), L"0");
+    EXPECT_EQ(Shown(0.1234, -3, false), L"0.123");
+    EXPECT_EQ(Shown(0.0004, -3, false), L"0");
+}
+
+TEST(WriteNumber, AddsTheDecimalsThatTheStoredValueNeeds)
+{
+    EXPECT_EQ(Shown(0.1234, -3, true), L"0.1234");
+    EXPECT_EQ(Shown(0.123456, -3, true), L"0.123456");
+    EXPECT_EQ(Shown(0.000001, -3, true), L"0.000001");
+    EXPECT_EQ(Shown(0.1234567, -3, true), L"0.123457");
+    EXPECT_EQ(Shown(1.5, 2, true), L"1.50");
+    EXPECT_EQ(Shown(1.53125, 2, true), L"1.53125");
+    EXPECT_EQ(Shown(5.0, -3, true), L"5");
+}
+
+TEST(WriteNumber, WritesTheUsersDecimalSeparator)
+{
+    EXPECT_EQ(Shown(1.5, -3, true, Spanish), L"1,5");
+    EXPECT_EQ(Shown(1234567.5, -3, true, Spanish), L"1234567,5");
+    EXPECT_EQ(Shown(1.5, -3, true, {L"::", L"", L""}), L"1::5");
+}
+
+TEST(WriteNumber, GivesZeroNoSignUnlessItsStoredTextHasOne)
+{
+    EXPECT_EQ(Shown(-0.0001, -3, false), L"0");
+    EXPECT_EQ(Shown(-0.001, 2, false), L"0.00");
+    EXPECT_EQ(Shown(-0.0, -3, true), L"-0");
+    EXPECT_EQ(Shown(-0.01, 2, false), L"-0.01");
+}
+
+TEST(WriteNumber, GivesTheEmptyTextForWhatIsNoNumber)
+{
+    EXPECT_EQ(Shown(std::numeric_limits<double>::infinity(), -3, true), L"");
+    EXPECT_EQ(Shown(-std::numeric_limits<double>::infinity(), 2, false), L"");
+    EXPECT_EQ(Shown(std::numeric_limits<double>::quiet_NaN(), -3, true), L"");
+}
+
+TEST(WriteNumber, HoldsTheLargestNumbersAndTheMostDecimals)
+{
+    EXPECT_EQ(Shown(-std::numeric_limits<double>::max(), 99, false).size(), 1u + 309u + 1u + 99u);
+    EXPECT_EQ(Shown(1.0, std::numeric_limits<int>::max(), false).size(), 2u + 99u);
+    EXPECT_EQ(Shown(1.0, std::numeric_limits<int>::min(), false), L"1");
+}
+
+TEST(WriteNumber, BringsEveryStoredValueBack)
+{
+    std::mt19937_64 random(20240229);
+    std::uniform_real_distribution<double> mantissa(-1.0, 1.0);
+    std::uniform_int_distribution<int> exponent(-7, 14);
+    for (int run = 0; run < 20000; ++run) {
+        const std::string stored = Stored(mantissa(random) * std::pow(10.0, exponent(random)));
+        const double value = std::strtod(stored.c_str(), nullptr);
+        const std::wstring plain = PlainNumber(Shown(value, -3, true, Spanish), Spanish, L'.');
+        ASSERT_EQ(Stored(std::wcstod(plain.c_str(), nullptr)), stored);
+        ASSERT_EQ(std::wcstod(plain.c_str(), nullptr), value) << stored;
+        ASSERT_TRUE(IsNumber(Shown(value, -3, true, Spanish), -1, Spanish)) << stored;
+    }
+}
+
+TEST(PlainNumber, TakesGroupsAndBlanksOut)
+{
+    EXPECT_EQ(PlainNumber(L"1,234,567.5", English, L'.'), L"1234567.5");
+    EXPECT_EQ(PlainNumber(L" 1 234.5\t", English, L'.'), L"1234.5");
+    EXPECT_EQ(PlainNumber(L"1\u202F234,5", French, L','), L"1234,5");
+    EXPECT_EQ(PlainNumber(L"1\u00A0234,5", French, L','), L"1234,5");
+    EXPECT_EQ(PlainNumber(L"1\u2019234.5", Swiss, L'.'), L"1234.5");
+}
+
+TEST(PlainNumber, WritesTheSeparatorThatTheCLibraryReads)
+{
+    EXPECT_EQ(PlainNumber(L"1.234,5", Spanish, L','), L"1234,5");
+    EXPECT_EQ(PlainNumber(L"1.234,5", Spanish, L'.'), L"1234.5");
+    EXPECT_EQ(PlainNumber(L"1,234.5", English, L','), L"1234,5");
+}
+
+TEST(PlainNumber, PrefersTheDecimalSeparatorWhereBothAreTheSame)
+{
+    EXPECT_EQ(PlainNumber(L"1.5", SpanishWithPoint, L','), L"1,5");
+}
+
+TEST(PlainNumber, LeavesOtherTextAsItIs)
+{
+    EXPECT_EQ(PlainNumber(L"", English, L'.'), L"");
+    EXPECT_EQ(PlainNumber(L"abc", English, L'.'), L"abc");
+    EXPECT_EQ(PlainNumber(L"-12x", English, L'.'), L"-12x");
+}
+
+struct Case {
+    const wchar_t* text;
+    bool valid;
+    int decimals = -1;
+    NumberConventions user = English;
+};
+
+class IsNumberText : public testing::TestWithParam<Case> {};
+
+TEST_P(IsNumberText, IsJudged)
+{
+    EXPECT_EQ(IsNumber(GetParam().text, GetParam().decimals, GetParam().user), GetParam().valid);
+}
+
+INSTANTIATE_TEST_SUITE_P(Plain, IsNumberText,
+                         testing::Values(Case{L"0", true}, Case{L"1.5", true}, Case{L"-1.5", true}, Case{L"+1.5", true},
+                                         Case{L".5", true}, Case{L"5.", true}, Case{L"007", true},
+                                         Case{L"  1.5 ", true}, Case{L"99.9", true}, Case{L"0.123456789", true}));
+
+INSTANTIATE_TEST_SUITE_P(NoNumbers, IsNumberText,
+                         testing::Values(Case{L"", false}, Case{L"   ", false}, Case{L".", false}, Case{L"-", false},
+                                         Case{L"-.", false}, Case{L"x", false}, Case{L"12x", false},
+                                         Case{L"12 x", false}, Case{L"x12", false}, Case{L"1.5.5", false},
+                                         Case{L"--1", false}, Case{L"- 1", false}, Case{L"1-", false},
+                                         Case{L"inf", false}, Case{L"-infinity", false}, Case{L"nan", false},
+                                         Case{L"1e5", false}, Case{L"0x10", false}, Case{L"\u0661", false},
+                                         Case{L"1.5 5", false}));
+
+INSTANTIATE_TEST_SUITE_P(Groups, IsNumberText,
+                         testing::Values(Case{L"1,234", true}, Case{L"1,234,567.5", true}, Case{L"12 345", true},
+                                         Case{L"1,23", false}, Case{L"1,2345", false}, Case{L"1234,567", false},
+                                         Case{L",123", false}, Case{L"1,,234", false}, Case{L"1,", false},
+                                         Case{L"1.234,567", false}, Case{L"-1,234", true}));
+
+INSTANTIATE_TEST_SUITE_P(Conventions, IsNumberText,
+                         testing::Values(Case{L"1,5", true, -1, Spanish}, Case{L"1.5", false, -1, Spanish},
+                                         Case{L"1.500", true, -1, Spanish}, Case{L"1.234.567,25", true, -1, Spanish},
+                                         Case{L"1\u202F234,5", true, -1, French},
+                                         Case{L"1\u00A0234,5", true, -1, French},
+                                         Case{L"12,34,567.5", true, -1, Indian}, Case{L"1,234,567", false, -1, Indian},
+                                         Case{L"1\u2019234.5", true, -1, Swiss}, Case{L"1234,567", true, -1, OneGroup},
+                                         Case{L"1,234,567", false, -1, OneGroup},
+                                         Case{L"1.5", true, -1, SpanishWithPoint},
+                                         Case{L"1.234.567", false, -1, SpanishWithPoint},
+                                         Case{L"1234,5", true, -1, NoGroups}, Case{L"1 234,5", false, -1, NoGroups}));
+
+INSTANTIATE_TEST_SUITE_P(Decimals, IsNumberText,
+                         testing::Values(Case{L"1.5", true, 1}, Case{L"1.55", false, 1}, Case{L"1.", true, 1},
+                                         Case{L"1", true, 0}, Case{L"1.", false, 0}, Case{L"1.5", false, 0},
+                                         Case{L"1.5", true, -3}, Case{L"1.23456", true, -3}));
+
+TEST(IsNumber, RefusesWhatIsBeyondADouble)
+{
+    EXPECT_TRUE(IsNumber(std::wstring(308, L'9'), -1, English));
+    EXPECT_FALSE(IsNumber(std::wstring(310, L'9'), -1, English));
+    EXPECT_TRUE(IsNumber(L"0." + std::wstring(400, L'0') + L"1", -1, English));
+}
+
+}  // namespace
