@@ -16,6 +16,7 @@ target_sources(KZHost PRIVATE
   layout/TextMeter.cpp
   images/CImageButton.cpp
   images/GdiPicture.cpp
+  images/PictureFiles.cpp
   images/PictureStore.cpp
   images/PixelImage.cpp
   images/PngFile.cpp

@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "KZQuorvelantaSetup.h"
+#include "PictureFiles.h"
 #include "PictureStore.h"
-#include "PngFile.h"
 
 struct CImageButton::State {
     std::shared_ptr<PictureStore> store = PictureStore::Acquire();
@@ -65,9 +65,10 @@ Pixel WindowColour() noexcept
 
 bool LoadMaskedBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* transparentColour)
 {
-    PixelImage image = ReadPicture(WithImageFolder(path));
-    if (image.IsEmpty())
+    const std::shared_ptr<const PixelImage> source = PictureFiles::Shared().Get(WithImageFolder(path));
+    if (!source)
         return false;
+    PixelImage image = *source;
     const Pixel key = UnusedColour(image);
     Flatten(image, WindowColour(), key);
     const HBITMAP handle = MakeBitmap(image, 24);

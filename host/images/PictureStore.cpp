@@ -1,18 +1,10 @@
 #include "PictureStore.h"
 
-#include "PngFile.h"
+#include "PictureFiles.h"
 
 namespace {
 
 constexpr int FilesOwnDpi = 96;
-
-// One click sets a dozen pictures: the file is not asked after again for each of them.
-constexpr ULONGLONG TrustMilliseconds = 1000;
-
-constexpr ULONGLONG Join(DWORD high, DWORD low) noexcept
-{
-    return ULONGLONG{high} << 32 | low;
-}
 
 constexpr Pixel PixelColour(COLORREF colour) noexcept
 {
@@ -35,40 +27,24 @@ std::shared_ptr<PictureStore> PictureStore::Acquire()
 
 std::shared_ptr<const ButtonPicture> PictureStore::Get(const KZBasicString& path, COLORREF transparent, int dpi)
 {
-    const ULONGLONG now = GetTickCount64();
-    const auto [found, isNew] = m_entries.try_emplace(Key{path, transparent, dpi});
+    std::shared_ptr<const PixelImage> source = PictureFiles::Shared().Get(path);
+    if (!source)
+        return nullptr;
+    const auto found = m_entries.try_emplace(Key{path, transparent, dpi}).first;
     Entry& entry = found->second;
-    if (!isNew && now - entry.checkedAt < TrustMilliseconds)
-        return entry.picture;
-    const FileStamp stamp = StampOf(path);
-    if (isNew || stamp != entry.stamp) {
-        entry.picture = stamp == FileStamp{} ? nullptr : Load(found->first);
-        entry.stamp = stamp;
+    if (entry.source != source) {
+        entry.picture = Make(*source, found->first);
+        entry.source = std::move(source);
     }
-    entry.checkedAt = now;
     return entry.picture;
 }
 
-PictureStore::FileStamp PictureStore::StampOf(const KZBasicString& path) noexcept
+std::shared_ptr<const ButtonPicture> PictureStore::Make(PixelImage image, const Key& key)
 {
-    WIN32_FILE_ATTRIBUTE_DATA data{};
-    if (!GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) ||
-        (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
-        return {};
-    return {Join(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime),
-            Join(data.nFileSizeHigh, data.nFileSizeLow)};
-}
-
-std::shared_ptr<const ButtonPicture> PictureStore::Load(const Key& key)
-{
-    PixelImage image = ReadPicture(key.path);
-    if (image.IsEmpty())
-        return nullptr;
     if (key.transparent != CLR_INVALID)
         MakeTransparent(image, PixelColour(key.transparent));
-    if (key.dpi != FilesOwnDpi) {
+    if (key.dpi != FilesOwnDpi)
         image = Scaled(image, MulDiv(image.width, key.dpi, FilesOwnDpi), MulDiv(image.height, key.dpi, FilesOwnDpi));
-    }
     auto picture = std::make_shared<const ButtonPicture>(image);
     return picture->Handle() ? picture : nullptr;
 }

@@ -1,4 +1,4 @@
-// The button pictures that have been decoded, so that a dialog with forty equal pictures decodes one.
+// The pictures that image buttons show, so that a dialog with forty equal pictures holds one.
 #pragma once
 
 #include <map>
@@ -15,7 +15,7 @@ public:
     [[nodiscard]] static std::shared_ptr<PictureStore> Acquire();
 
     // The picture of a file at a resolution in dots per inch (96: the file's own size), or null when there is none to
-    // be had; both answers are remembered until the file changes.
+    // be had.
     //   transparent   the colour that counts as transparent; CLR_INVALID (0xFFFFFFFF) for the file's own transparency
     [[nodiscard]] std::shared_ptr<const ButtonPicture> Get(const KZBasicString& path, COLORREF transparent, int dpi);
 
@@ -26,20 +26,12 @@ private:
         int dpi;
         auto operator<=>(const Key&) const = default;
     };
-    // What tells one content of a file from the next; all 0 when there is no file.
-    struct FileStamp {
-        ULONGLONG written = 0;
-        ULONGLONG size = 0;
-        bool operator==(const FileStamp&) const = default;
-    };
     struct Entry {
-        FileStamp stamp;
-        ULONGLONG checkedAt = 0;
+        std::shared_ptr<const PixelImage> source;
         std::shared_ptr<const ButtonPicture> picture;
     };
 
-    [[nodiscard]] static FileStamp StampOf(const KZBasicString& path) noexcept;
-    [[nodiscard]] static std::shared_ptr<const ButtonPicture> Load(const Key& key);
+    [[nodiscard]] static std::shared_ptr<const ButtonPicture> Make(PixelImage image, const Key& key);
 
     std::map<Key, Entry> m_entries;
 };

@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <vector>
 
 #include "KZQuorvelantaSetup.h"
+#include "TemporaryFolder.h"
 #include "TestDialog.h"
 
 namespace fs = std::filesystem;
@@ -43,30 +43,15 @@ protected:
         m_second.SubclassDlgItem(2, m_dialog.Window());
     }
 
-    // A file that is gone with the test.
-    fs::path WriteFile(const wchar_t* name, const std::string& bytes)
+    static bool Set(CImageButton& button, const KZBasicString& path)
     {
-        const fs::path file = m_folder / name;
-        std::ofstream(file, std::ios::binary) << bytes;
-        return file;
+        return button.SetImage(path, 0xFFFFFFFF, false);
     }
-
-    static bool Set(CImageButton& button, const KZBasicString& path) { return button.SetImage(path, 0xFFFFFFFF, false); }
 
     TestDialog m_dialog{Push(1, L"OK"), Push(2, L"Cancel"), Push(3, L"")};
     CImageButton m_first;
     CImageButton m_second;
-
-private:
-    struct Folder : fs::path {
-        Folder() : fs::path(fs::temp_directory_path() / L"kz_image_button_tests") { fs::create_directories(*this); }
-        ~Folder()
-        {
-            std::error_code ignored;
-            fs::remove_all(*this, ignored);
-        }
-    };
-    Folder m_folder;
+    TemporaryFolder m_folder;
 };
 
 TEST_F(ImageButton, ShowsThePictureOfAFileBesideItsText)
@@ -145,9 +130,9 @@ TEST_F(ImageButton, ShowsItsTextAloneWhenTheFileIsMissing)
 
 TEST_F(ImageButton, ShowsItsTextAloneWhenTheFileIsNoPicture)
 {
-    EXPECT_FALSE(Set(m_first, WriteFile(L"text.png", "This is no picture.").wstring()));
-    EXPECT_FALSE(Set(m_first, WriteFile(L"empty.png", "").wstring()));
-    EXPECT_FALSE(Set(m_first, WriteFile(L"cut.png", "\x89PNG\r\n\x1a\n").wstring()));
+    EXPECT_FALSE(Set(m_first, m_folder.Write(L"text.png", "This is no picture.").wstring()));
+    EXPECT_FALSE(Set(m_first, m_folder.Write(L"empty.png", "").wstring()));
+    EXPECT_FALSE(Set(m_first, m_folder.Write(L"cut.png", "\x89PNG\r\n\x1a\n").wstring()));
     EXPECT_FALSE(Set(m_first, fs::temp_directory_path().wstring())) << "a folder";
     EXPECT_FALSE(ShownOn(m_first.m_hWnd).himl);
 }
