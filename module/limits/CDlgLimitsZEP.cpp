@@ -137,7 +137,9 @@ void CDlgLimitsZEP::SavePages()
 void CDlgLimitsZEP::OnSize(UINT type, int cx, int cy)
 {
     CDialog::OnSize(type, cx, cy);
-    if (m_tab.GetSafeHwnd())
+    // Before the pages exist there is nothing to lay out. Fitting the height to them comes here once more, with the
+    // height that fits.
+    if (m_pages.back())
         Layout();
 }
 

@@ -58,5 +58,4 @@ private:
     std::array<std::unique_ptr<LimitsPage>, PageCount> m_pages;  // in tab order
     LimitsPage* m_pCurrentPage = nullptr;
     CImageList m_imageList;
-    bool m_bLayingOut = false;
 };

@@ -5,12 +5,7 @@
 
 void CDlgLimitsZEP::Layout()
 {
-    // Fitting the height sends WM_SIZE, which comes here again: the outer call finishes with the new client area.
-    if (m_bLayingOut || m_tab.GetItemCount() == 0)
-        return;
-    m_bLayingOut = true;
     LayoutTabAndButtons();
-    m_bLayingOut = false;
 
     const CRect area = PageArea();
     for (const auto& page : m_pages)
