@@ -11,12 +11,26 @@ bool SameSize(const RECT& one, const RECT& other) noexcept
     return one.right - one.left == other.right - other.left && one.bottom - one.top == other.bottom - other.top;
 }
 
-// A drop list's height is that of its list; the closed part has the height of its font whatever one sets.
-LONG DroppedHeight(HWND list) noexcept
+void MoveTo(HWND window, const RECT& place, int height, UINT flags) noexcept
+{
+    SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, height, flags);
+}
+
+int DroppedHeight(HWND list) noexcept
 {
     RECT dropped{};
     SendMessageW(list, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
     return dropped.bottom - dropped.top;
+}
+
+// The closed part of a drop list has the height of its font; the height one sets is that of its list, with or without
+// the closed part, depending on the system.
+void ResizeDropList(HWND list, const RECT& place) noexcept
+{
+    const int before = DroppedHeight(list);
+    MoveTo(list, place, before, MoveFlags);
+    if (const int lost = before - DroppedHeight(list); lost != 0)
+        MoveTo(list, place, before + lost, MoveFlags);
 }
 
 }  // namespace
@@ -29,19 +43,19 @@ void ControlMover::Add(const DialogMetrics& dialog, HWND window, ControlKind kin
         wanted.bottom = wanted.top + (present.bottom - present.top);
     if (EqualRect(&present, &wanted))
         return;
-    const bool sameSize = SameSize(present, wanted);
-    if (kind == ControlKind::DropList)
-        wanted.bottom = wanted.top + DroppedHeight(window);
-    m_moves.push_back({dialog.Dialog(), window, wanted, sameSize});
+    m_moves.push_back({dialog.Dialog(), window, wanted, SameSize(present, wanted), kind == ControlKind::DropList});
 }
 
 void ControlMover::Apply() noexcept
 {
     HWND lastParent = nullptr;
     for (const Move& move : m_moves) {
-        const RECT& place = move.place;
-        SetWindowPos(move.window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                     move.sameSize ? MoveFlags | SWP_NOSIZE : MoveFlags);
+        if (move.sameSize)
+            MoveTo(move.window, move.place, 0, MoveFlags | SWP_NOSIZE);
+        else if (move.isDropList)
+            ResizeDropList(move.window, move.place);
+        else
+            MoveTo(move.window, move.place, move.place.bottom - move.place.top, MoveFlags);
         if (move.parent != lastParent && IsWindowVisible(move.parent))
             RedrawWindow(move.parent, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
         lastParent = move.parent;

@@ -19,6 +19,7 @@ private:
         HWND window;
         RECT place;
         bool sameSize;
+        bool isDropList;
     };
     std::vector<Move> m_moves;
 };

