@@ -3,6 +3,13 @@
 // Sizes are ints. n > 0 is a share of the space that is left, in proportion to the other shares of the row or column;
 // 0 is the item's natural size; KZLayout::Pixels2Size makes sizes in pixels (negative); the named sizes below are in
 // dialog units of the dialog's font and so follow font and DPI.
+//
+// Along a row shares are strictly in proportion, so that equal shares line up below each other whatever their rows
+// hold. Down a column no share gets less than the height of what it holds while there is room, so that lines stay
+// whole. The natural size of a control is that of its kind in the dialog's font (a line of text, an edit, a closed drop
+// list, a button with its picture), of anything else the size that it has. Across the layout an item fills the space;
+// text, check boxes, edits and drop lists keep their height and stand on the middle of their row. Hidden controls keep
+// their place. A space smaller than FixedSize takes from the shares first; no size becomes negative.
 #pragma once
 
 #include <afxwin.h>
@@ -13,7 +20,8 @@
 
 enum KZLayoutSize : int {
     KZSizeNatural = 0,
-    KZSizeStandard = -16777216,     // 0xFF000000: the standard gap, border or natural size
+    KZSizeStandard = -16777216,  // 0xFF000000: the standard gap or border; of an item: its natural size
+    // As an item's height, a line of that kind, or higher when what it holds needs more; as an item's width, natural.
     KZSizeTextLine = -16777217,     // 0xFEFFFFFF: a line of static text; as a gap: the narrow gap between columns
     KZSizeCentringGap = -16777220,  // 0xFEFFFFFC: the wide gap that centres a row of buttons
     KZSizeCheckLine = -16777221,    // 0xFEFFFFFB: a line of check boxes or a drop list
@@ -21,7 +29,8 @@ enum KZLayoutSize : int {
 };
 
 // One row or column. A layout is a plan: it touches windows in Layout() alone. Nested layouts are referred to, not
-// copied, and must live as long as the layout that holds them.
+// copied, and must live as long as the layout that holds them. The first FixedSize() or Layout() looks the controls up;
+// those created afterwards are not seen. Adding may throw std::bad_alloc.
 class KZ_API KZLayout {
 public:
     virtual ~KZLayout();
@@ -41,19 +50,23 @@ public:
     // on a line of its own. size applies to the whole item; ids end with the given count.
     void AddControlsAndLabel(int labelId, int size, const int* controlIds, int count);
 
-    // Draws this layout inside a group box: its frame and caption are reserved, border is the space inside the frame,
-    // and the box is moved around the content. With alignTop the content keeps to the top of the frame, otherwise it
-    // is centred.
+    // Puts this layout inside a group box: its frame and caption are reserved, border is the space inside the frame,
+    // and the box is moved around the content. With alignTop content without vertical shares keeps to the top of the
+    // frame, otherwise it is centred.
     void SetBoxControl(int boxId, int border, bool alignTop);
-    // Space left and right (x), above and below (y) the content.
+    // Space left and right (x), above and below (y) the content, inside the box if there is one: named sizes or pixels,
+    // shares count as none.
     void SetBorders(int x, int y) noexcept;
 
-    // What the layout needs, in pixels, with every share at its smallest.
+    // What the layout needs, in pixels, with every share at its smallest: the height at which every line is whole, the
+    // width at which no text is cut. A gap's smallest size is 0; what has no natural size of its own, a tab control or
+    // a list, can shrink to nothing.
     [[nodiscard]] CSize FixedSize() const;
     // Moves every control so that the layout fills the rectangle, in client coordinates of the dialog.
     void Layout(const CRect& area) const;
 
-    // The size code for a number of pixels (0 or more): cx for a horizontal size, cy for a vertical one.
+    // The size code for a number of pixels (0 to 0xFFFFFF, others become the nearest): cx for a horizontal size, cy for
+    // a vertical one. 0 pixels is 0, which is no space for a gap or border.
     [[nodiscard]] static CSize Pixels2Size(int pixels) noexcept;
 
     struct State;
