@@ -1,0 +1,213 @@
+#include <cstring>
+#include <string>
+
+#include "ThreadState.h"
+
+IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
+IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
+
+namespace {
+
+CWinApp* theApplication = nullptr;
+
+bool PreTranslate(MSG& message)
+{
+    if (CWinThread* thread = AfxGetThread())
+        return thread->PreTranslateMessage(&message) != FALSE;
+    return CWnd::WalkPreTranslateTree(nullptr, &message) != FALSE;
+}
+
+}  // namespace
+
+CWinApp* AFXAPI AfxGetApp() noexcept
+{
+    return theApplication;
+}
+
+CWinThread* AFXAPI AfxGetThread() noexcept
+{
+    return theApplication && theApplication->m_nThreadID == ::GetCurrentThreadId() ? theApplication : nullptr;
+}
+
+CWnd* AFXAPI AfxGetMainWnd()
+{
+    CWinThread* thread = AfxGetThread();
+    return thread ? thread->GetMainWnd() : CWnd::GetActiveWindow();
+}
+
+LPCWSTR AFXAPI AfxGetAppName() noexcept
+{
+    if (theApplication && theApplication->m_pszAppName)
+        return theApplication->m_pszAppName;
+    static wchar_t name[MAX_PATH];
+    if (!name[0] && ::GetModuleFileNameW(nullptr, name, MAX_PATH) != 0) {
+        const wchar_t* slash = std::wcsrchr(name, L'\\');
+        const wchar_t* start = slash ? slash + 1 : name;
+        std::wmemmove(name, start, std::wcslen(start) + 1);
+        if (wchar_t* extension = std::wcsrchr(name, L'.'))
+            *extension = L'\0';
+    }
+    return name;
+}
+
+BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPWSTR lpCmdLine, int nCmdShow)
+{
+    AFX_MODULE_STATE* state = AfxGetModuleState();
+    state->m_hCurrentInstanceHandle = hInstance;
+    state->m_hCurrentResourceHandle = hInstance;
+    if (theApplication) {
+        theApplication->m_hInstance = hInstance;
+        theApplication->m_lpCmdLine = lpCmdLine;
+        theApplication->m_nCmdShow = nCmdShow;
+        theApplication->m_nThreadID = ::GetCurrentThreadId();
+    }
+    return TRUE;
+}
+
+int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPWSTR lpCmdLine, int nCmdShow)
+{
+    CWinApp* application = AfxGetApp();
+    if (!application || !AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow))
+        return -1;
+    if (!application->InitInstance()) {
+        if (application->m_pMainWnd)
+            application->m_pMainWnd->DestroyWindow();
+        return application->ExitInstance();
+    }
+    return application->Run();
+}
+
+void AFXAPI AfxPostQuitMessage(int nExitCode) noexcept
+{
+    ::PostQuitMessage(nExitCode);
+}
+
+BOOL AFXAPI AfxPumpMessage()
+{
+    if (CWinThread* thread = AfxGetThread())
+        return thread->PumpMessage();
+    MSG& message = CurrentThread().pumpedMessage;
+    if (::GetMessageW(&message, nullptr, 0, 0) <= 0)
+        return FALSE;
+    if (!PreTranslate(message)) {
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+    }
+    return TRUE;
+}
+
+BOOL CWinThread::InitInstance()
+{
+    return FALSE;
+}
+
+int CWinThread::ExitInstance()
+{
+    return static_cast<int>(CurrentThread().pumpedMessage.wParam);
+}
+
+int CWinThread::Run()
+{
+    LONG idleCount = 0;
+    bool idle = true;
+    for (;;) {
+        MSG peeked;
+        while (idle && !::PeekMessageW(&peeked, nullptr, 0, 0, PM_NOREMOVE))
+            idle = OnIdle(idleCount++) != FALSE;
+        if (!PumpMessage())
+            return ExitInstance();
+        if (IsIdleMessage(&CurrentThread().pumpedMessage)) {
+            idle = true;
+            idleCount = 0;
+        }
+    }
+}
+
+BOOL CWinThread::PumpMessage()
+{
+    MSG& message = CurrentThread().pumpedMessage;
+    if (::GetMessageW(&message, nullptr, 0, 0) <= 0)
+        return FALSE;
+    if (!PreTranslateMessage(&message)) {
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+    }
+    return TRUE;
+}
+
+BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
+{
+    if (!pMsg->hwnd)
+        return FALSE;
+    CWnd* main = GetMainWnd();
+    if (CWnd::WalkPreTranslateTree(main ? main->m_hWnd : nullptr, pMsg))
+        return TRUE;
+    // Windows that the main window does not own: its accelerators work there too.
+    const bool elsewhere = main && CWnd::FromHandle(pMsg->hwnd)->GetTopLevelParent() != main;
+    return elsewhere && main->PreTranslateMessage(pMsg);
+}
+
+BOOL CWinThread::OnIdle(LONG)
+{
+    CWnd::DeleteTempMap();
+    CMenu::DeleteTempMap();
+    CDC::DeleteTempMap();
+    CGdiObject::DeleteTempMap();
+    CImageList::DeleteTempMap();
+    return FALSE;
+}
+
+BOOL CWinThread::IsIdleMessage(MSG* pMsg)
+{
+    constexpr UINT CaretTimer = 0x0118;
+    return pMsg->message != WM_PAINT && pMsg->message != CaretTimer && pMsg->message != WM_MOUSEMOVE &&
+           pMsg->message != WM_NCMOUSEMOVE;
+}
+
+CWnd* CWinThread::GetMainWnd()
+{
+    return m_pMainWnd ? m_pMainWnd : CWnd::GetActiveWindow();
+}
+
+LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg)
+{
+    if (pMsg->message == WM_CREATE || pMsg->message == WM_PAINT) {
+        // Left invalid, the window would be asked to paint for ever; and each time would report.
+        if (pMsg->message == WM_PAINT)
+            ::ValidateRect(pMsg->hwnd, nullptr);
+    }
+    if (!e->IsKindOf(RUNTIME_CLASS(CUserException)))
+        e->ReportError(e->IsKindOf(RUNTIME_CLASS(CMemoryException)) ? MB_ICONEXCLAMATION | MB_SYSTEMMODAL
+                                                                    : MB_ICONSTOP);
+    switch (pMsg->message) {
+    case WM_CREATE:
+        return -1;
+    case WM_COMMAND:
+        return TRUE;
+    default:
+        return 0;
+    }
+}
+
+CWinApp::CWinApp(LPCWSTR lpszAppName) noexcept : m_pszAppName(lpszAppName)
+{
+    theApplication = this;
+}
+
+CWinApp::~CWinApp()
+{
+    if (theApplication == this)
+        theApplication = nullptr;
+}
+
+HICON CWinApp::LoadIcon(UINT nIDResource) const
+{
+    const LPCWSTR name = MAKEINTRESOURCEW(nIDResource);
+    return ::LoadIconW(AfxFindResourceHandle(name, reinterpret_cast<LPCWSTR>(RT_GROUP_ICON)), name);
+}
+
+HCURSOR CWinApp::LoadCursor(UINT nIDResource) const
+{
+    const LPCWSTR name = MAKEINTRESOURCEW(nIDResource);
+    return ::LoadCursorW(AfxFindResourceHandle(name, reinterpret_cast<LPCWSTR>(RT_GROUP_CURSOR)), name);
+}
