@@ -1,0 +1,119 @@
+#include "DialogLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <afxwin.h>
+
+#include <string>
+#include <vector>
+
+#include "Controls.h"
+
+namespace kztest {
+
+namespace {
+
+struct Placed {
+    HWND window;
+    std::wstring kind;
+    CRect place;
+};
+
+DWORD StyleOf(HWND window)
+{
+    return static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_STYLE));
+}
+
+DWORD ButtonType(HWND button)
+{
+    return StyleOf(button) & BS_TYPEMASK;
+}
+
+// What may hold other controls.
+bool IsFrame(const Placed& control)
+{
+    if (control.kind == L"Button")
+        return ButtonType(control.window) == BS_GROUPBOX;
+    if (control.kind == L"Static")
+        return (StyleOf(control.window) & SS_TYPEMASK) == SS_ETCHEDFRAME;
+    return control.kind == L"SysTabControl32";
+}
+
+// Space that a button takes beside its text: the mark of check boxes and radio buttons.
+int MarkWidth(HWND button)
+{
+    switch (ButtonType(button)) {
+    case BS_CHECKBOX:
+    case BS_AUTOCHECKBOX:
+    case BS_3STATE:
+    case BS_AUTO3STATE:
+    case BS_RADIOBUTTON:
+    case BS_AUTORADIOBUTTON:
+        return ::GetSystemMetrics(SM_CXMENUCHECK);
+    default:
+        return 0;
+    }
+}
+
+CSize TextSize(HWND window, const std::wstring& text, int width)
+{
+    const bool wraps = ClassOf(window) == L"Static" || (StyleOf(window) & BS_MULTILINE) != 0;
+    CRect rectangle(0, 0, width, 0);
+    const HDC dc = ::GetDC(window);
+    const HGDIOBJ before = ::SelectObject(dc, reinterpret_cast<HFONT>(::SendMessageW(window, WM_GETFONT, 0, 0)));
+    ::DrawTextW(dc, text.c_str(), -1, &rectangle, DT_CALCRECT | (wraps ? DT_WORDBREAK : DT_SINGLELINE));
+    ::SelectObject(dc, before);
+    ::ReleaseDC(window, dc);
+    return rectangle.Size();
+}
+
+void ExpectTextFits(const Placed& control)
+{
+    const bool isStatic = control.kind == L"Static";
+    const std::wstring text = control.kind == L"Button" || isStatic ? TextOf(control.window) : std::wstring();
+    if (text.empty() || (isStatic && (StyleOf(control.window) & SS_ELLIPSISMASK) != 0))
+        return;
+    const int mark = isStatic ? 0 : MarkWidth(control.window);
+    const CSize needed = TextSize(control.window, text, control.place.Width() - mark);
+    EXPECT_LE(needed.cx + mark, control.place.Width())
+        << "text of control " << ::GetDlgCtrlID(control.window) << ": " << testing::PrintToString(text);
+    EXPECT_LE(needed.cy, control.place.Height() + 1)
+        << "text of control " << ::GetDlgCtrlID(control.window) << ": " << testing::PrintToString(text);
+}
+
+void ExpectApart(const Placed& one, const Placed& other)
+{
+    CRect common;
+    if (!common.IntersectRect(&one.place, &other.place))
+        return;
+    const bool held = (IsFrame(one) && common == other.place) || (IsFrame(other) && common == one.place);
+    EXPECT_TRUE(held) << "controls " << ::GetDlgCtrlID(one.window) << " and " << ::GetDlgCtrlID(other.window)
+                      << " lie over each other";
+}
+
+}  // namespace
+
+void ExpectNothingClippedOrOverlapping(HWND dialog)
+{
+    CRect client;
+    ::GetClientRect(dialog, &client);
+    std::vector<Placed> controls;
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        if ((StyleOf(child) & WS_VISIBLE) == 0)
+            continue;
+        Placed control{child, ClassOf(child), {}};
+        ::GetWindowRect(child, &control.place);
+        ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(static_cast<RECT*>(&control.place)), 2);
+        CRect inside;
+        EXPECT_TRUE(inside.IntersectRect(&control.place, &client) && inside == control.place)
+            << "control " << ::GetDlgCtrlID(child) << " leaves its dialog";
+        ExpectTextFits(control);
+        for (const Placed& other : controls)
+            ExpectApart(control, other);
+        if (control.kind == L"#32770")
+            ExpectNothingClippedOrOverlapping(child);
+        controls.push_back(control);
+    }
+}
+
+}  // namespace kztest
