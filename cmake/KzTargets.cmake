@@ -30,10 +30,12 @@ function(kz_dll target)
   target_link_options(${target} PRIVATE $<$<CONFIG:Release>:-s>)
 endfunction()
 
-# Resource scripts are UTF-8; includes are searched in the given folders.
+# Resource scripts are UTF-8. CMake does not hand a target's compile options to the resource compiler.
+set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} --codepage=65001")
+
+# The folders in which a target's resource scripts find what they include.
 function(kz_resources target)
   foreach(folder ${ARGN})
     set_property(TARGET ${target} APPEND PROPERTY INCLUDE_DIRECTORIES ${folder})
   endforeach()
-  target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:RC>:--codepage=65001>)
 endfunction()
