@@ -1,0 +1,34 @@
+// Answers the message boxes of this thread as they open, and remembers what they said and offered.
+#pragma once
+
+#include <afxwin.h>
+
+#include <string>
+#include <vector>
+
+struct SeenMessage {
+    std::wstring text;
+    bool asksYesNo = false;
+
+    friend bool operator==(const SeenMessage&, const SeenMessage&) = default;
+};
+
+class MessageBoxes {
+public:
+    // answer is the button that is pressed in every box that has it; in the others it is OK.
+    explicit MessageBoxes(int answer = IDOK);
+    ~MessageBoxes();
+    MessageBoxes(const MessageBoxes&) = delete;
+    MessageBoxes& operator=(const MessageBoxes&) = delete;
+
+    // What was said since the last call.
+    [[nodiscard]] std::vector<SeenMessage> Take();
+
+private:
+    static LRESULT CALLBACK Hook(int code, WPARAM wParam, LPARAM lParam);
+
+    int m_answer;
+    HHOOK m_hook;
+    std::vector<SeenMessage> m_seen;
+    HWND m_last = nullptr;
+};

@@ -1,0 +1,301 @@
+#include "LimitsDialogFixture.h"
+
+#include "KZStringIds.h"
+#include "Tidiness.h"
+
+namespace {
+
+using limits_testing::Typed;
+
+std::wstring Text(unsigned id)
+{
+    return KZLoadString(id).c_str();
+}
+
+TEST_F(LimitsDialog, ShowsTheStartValuesWithoutAViewSetup)
+{
+    Run([&] {
+        for (const int id : {5368, 5370, 5371, 5372})
+            EXPECT_EQ(TextOf(Power, id), L"0") << id;
+        for (const int id : {5392, 5394, 5395, 5396, 5404, 5406, 5407, 5408, 5344, 5348})
+            EXPECT_EQ(TextOf(Power, id), L"1") << id;
+        for (const Page page : {Net, Load})
+            for (int row = 0; row < 13; ++row) {
+                EXPECT_EQ(TextOf(page, 5461 + row), L"0");
+                EXPECT_EQ(TextOf(page, 5499 + row), L"1");
+                EXPECT_EQ(TextOf(page, 5534 + row), L"1");
+            }
+    });
+}
+
+TEST_F(LimitsDialog, LoadsEveryPageFromTheViewSetup)
+{
+    auto* viewSetup = Configure(
+        "<check><var>PF</var><nominal>1</nominal><maxW>0.95</maxW><maxD>-0.98</maxD><minW>0.9</minW><minD>0.8</minD>"
+        "</check><check><var>RP</var><nominal>12.5</nominal></check>"
+        "<check><var>ARM7AN</var><maxD>55.125</maxD></check><check><var>ARM25AL</var><maxW>0.5</maxW></check>");
+    Run(
+        [&] {
+            EXPECT_EQ(TextOf(Power, IDC_PF_NOMINAL), L"1");
+            EXPECT_EQ(TextOf(Power, IDC_PF_MAXW), Typed(L"0.95"));
+            EXPECT_EQ(TextOf(Power, IDC_PF_MAXD), Typed(L"-0.98"));
+            EXPECT_EQ(TextOf(Power, IDC_PF_MINW), Typed(L"0.9"));
+            EXPECT_EQ(TextOf(Power, IDC_PF_MIND), Typed(L"0.8"));
+            EXPECT_EQ(TextOf(Power, IDC_RP_NOMINAL), Typed(L"12.5"));
+            EXPECT_EQ(TextOf(Power, IDC_RP_MAXW), L"1");
+            EXPECT_EQ(TextOf(Net, IDC_HARMONIC_MAXD + 3), Typed(L"55.125"));
+            EXPECT_EQ(TextOf(Load, IDC_HARMONIC_MAXD + 3), L"1");
+            EXPECT_EQ(TextOf(Load, IDC_HARMONIC_MAXW + 12), Typed(L"0.5"));
+        },
+        viewSetup);
+}
+
+TEST_F(LimitsDialog, LeavesTheConfigurationAloneOnOkWithoutAChange)
+{
+    const auto empty = Plant::Configuration();
+    EXPECT_EQ(RunAndPressOk([] {}), IDOK);
+    EXPECT_EQ(Plant::Configuration(), empty);
+
+    auto* viewSetup = Configure("<check><var>AP</var><nominal>0.123456</nominal><maxW>1.000001</maxW><maxD>2</maxD>"
+                                "</check>");
+    const auto before = Plant::Configuration();
+    EXPECT_EQ(RunAndPressOk([] {}, viewSetup), IDOK);
+    EXPECT_EQ(Plant::Configuration(), before);
+    EXPECT_FALSE(Plant::IsDirty());
+}
+
+TEST_F(LimitsDialog, MakesAViewSetupForTheDriverAtTheFirstSave)
+{
+    Plant::Configure("<viewSetups><viewSetup><driverId>other</driverId></viewSetup></viewSetups>");
+    EXPECT_EQ(RunAndPressOk([&] { Type(Power, IDC_AP_NOMINAL, L"1.5"); }), IDOK);
+    EXPECT_EQ(Stored(L"AP", L"nominal"), L"1.500000");
+    EXPECT_EQ(Stored(L"VA", L"maxD"), L"1.000000");
+    EXPECT_TRUE(Plant::IsDirty());
+    EXPECT_EQ(Plant::Value(KZMainCfg::Get()->Node(L"viewSetups/viewSetup"), L"driverId"), L"other");
+}
+
+TEST_F(LimitsDialog, SavesThePowerPageWithAChangedHarmonicPageAndNotTheOtherOne)
+{
+    EXPECT_EQ(RunAndPressOk([&] { Type(Net, IDC_HARMONIC_NOMINAL + 1, L"5"); }), IDOK);
+    EXPECT_EQ(Stored(L"ARM3AN", L"nominal"), L"5.000000");
+    EXPECT_EQ(Stored(L"ARM25AN", L"maxW"), L"1.000000");
+    EXPECT_EQ(Stored(L"PF", L"minD"), L"1.000000");
+    EXPECT_EQ(Stored(L"ARM3AL", L"nominal"), L"(no element)");
+}
+
+TEST_F(LimitsDialog, SavesTheLoadSideUnderItsOwnNames)
+{
+    EXPECT_EQ(RunAndPressOk([&] { Type(Load, IDC_HARMONIC_NOMINAL, L"250"); }), IDOK);
+    EXPECT_EQ(Stored(L"ARM1AL", L"nominal"), L"250.000000");
+    EXPECT_EQ(Stored(L"ARM25AL", L"maxD"), L"1.000000");
+    EXPECT_EQ(Stored(L"ARM1AN", L"nominal"), L"(no element)");
+}
+
+TEST_F(LimitsDialog, SavesIntoTheViewSetupThatItWasOpenedWith)
+{
+    auto* viewSetup = Configure("<check><var>VA</var><maxD>3</maxD></check>");
+    EXPECT_EQ(RunAndPressOk([&] { Type(Power, IDC_VA_MAXD, L"4"); }, viewSetup), IDOK);
+    EXPECT_EQ(Stored(L"VA", L"maxD"), L"4.000000");
+    EXPECT_EQ(ViewSetup()->NextSibling(L"viewSetup"), nullptr);
+}
+
+TEST_F(LimitsDialog, WritesNothingOnCancelEscapeAndTheCloseBox)
+{
+    const auto change = [&] { Type(Power, IDC_AP_NOMINAL, L"5"); };
+    EXPECT_EQ(Run([&] {
+                  change();
+                  Press(IDCANCEL);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(Run([&] {
+                  change();
+                  m_dialog->SendMessage(WM_CLOSE);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(Run([&] {
+                  change();
+                  ::SetFocus(Edit(Power, IDC_AP_NOMINAL));
+                  TypeKey(VK_ESCAPE);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(ViewSetup(), nullptr);
+    EXPECT_FALSE(Plant::IsDirty());
+}
+
+TEST_F(LimitsDialog, TakesEnterInsideAPageForOk)
+{
+    EXPECT_EQ(Run([&] {
+                  Type(Power, IDC_AP_NOMINAL, L"5");
+                  ::SetFocus(Edit(Power, IDC_AP_NOMINAL));
+                  TypeKey(VK_RETURN);
+              }),
+              IDOK);
+    EXPECT_EQ(Stored(L"AP", L"nominal"), L"5.000000");
+}
+
+TEST_F(LimitsDialog, TakesOkAndCancelThatAPageItselfGets)
+{
+    EXPECT_EQ(Run([&] { ::SendMessageW(m_pages[Net], WM_COMMAND, IDOK, 0); }), IDOK);
+    EXPECT_EQ(Run([&] { ::SendMessageW(m_pages[Load], WM_COMMAND, IDCANCEL, 0); }), IDCANCEL);
+}
+
+TEST_F(LimitsDialog, ShowsThePageOfTheSelectedTab)
+{
+    Run([&] {
+        for (const Page page : {Load, Power, Net, Power}) {
+            SelectTab(page);
+            for (const Page other : {Power, Net, Load})
+                EXPECT_EQ(::IsWindowVisible(m_pages[other]) != FALSE, other == page) << page << " " << other;
+            EXPECT_EQ(::GetWindow(m_dialog->m_hWnd, GW_CHILD), m_pages[page]);
+        }
+        SelectTab(-1);
+        for (const Page page : {Power, Net, Load})
+            EXPECT_FALSE(::IsWindowVisible(m_pages[page])) << page;
+    });
+}
+
+TEST_F(LimitsDialog, WalksWithTabThroughThePageInTheOrderOfItsFields)
+{
+    Run([&] {
+        SelectTab(Net);
+        std::vector<int> order;
+        ::SetFocus(Edit(Net, IDC_HARMONIC_NOMINAL));
+        for (int i = 0; i < 39; ++i) {
+            order.push_back(::GetDlgCtrlID(::GetFocus()));
+            m_dialog->NextDlgCtrl();
+        }
+        std::vector<int> expected;
+        for (int row = 0; row < 13; ++row)
+            for (const int first : {IDC_HARMONIC_NOMINAL, IDC_HARMONIC_MAXW, IDC_HARMONIC_MAXD})
+                expected.push_back(first + row);
+        EXPECT_EQ(order, expected);
+    });
+}
+
+class LimitsDialogRefusal : public LimitsDialog {
+protected:
+    struct Outcome {
+        std::vector<std::wstring> messages;
+        HWND focus = nullptr;
+        DWORD selectionStart = 1;
+        DWORD selectionEnd = 0;
+    };
+
+    Outcome PressOk(const std::function<void()>& step, const std::function<void(Outcome&)>& look = {})
+    {
+        Outcome outcome;
+        MessageBoxes boxes;
+        EXPECT_EQ(Run([&] {
+                      step();
+                      Press(IDOK);
+                      outcome.focus = ::GetFocus();
+                      if (look)
+                          look(outcome);
+                  }),
+                  StillOpen);
+        for (const SeenMessage& seen : boxes.Take()) {
+            EXPECT_FALSE(seen.asksYesNo);
+            outcome.messages.push_back(seen.text);
+        }
+        EXPECT_EQ(ViewSetup(), nullptr);
+        EXPECT_FALSE(Plant::IsDirty());
+        return outcome;
+    }
+    [[nodiscard]] static std::vector<std::wstring> Lines(std::initializer_list<std::wstring> lines)
+    {
+        std::wstring text;
+        for (const auto& line : lines)
+            text += (text.empty() ? L"" : L"\n") + line;
+        return {text};
+    }
+    [[nodiscard]] static std::wstring Order(int order)
+    {
+        return KZBasicString::Format(Text(KZS_HARMONIC_ORDER).c_str(), order).c_str();
+    }
+};
+
+TEST_F(LimitsDialogRefusal, NamesGroupFieldAndReasonOfAPower)
+{
+    EXPECT_EQ(PressOk([&] { Type(Power, IDC_AP_MAXD, L"100"); }).messages,
+              Lines({Text(24535), Text(32274), Text(351)}));
+    EXPECT_EQ(PressOk([&] { Type(Power, IDC_PF_NOMINAL, L"0.5"); }).messages,
+              Lines({Text(133), Text(32276), Text(32277)}));
+}
+
+TEST_F(LimitsDialogRefusal, NamesNoFieldWhenAPowersLimitsAreInTheWrongOrder)
+{
+    EXPECT_EQ(PressOk([&] {
+                  Type(Power, IDC_VA_MAXW, L"60");
+                  Type(Power, IDC_VA_MAXD, L"50");
+              }).messages,
+              Lines({Text(241), Text(352)}));
+}
+
+TEST_F(LimitsDialogRefusal, LeavesTheFocusWhereItWasOnThePowerPage)
+{
+    EXPECT_EQ(PressOk([&] {
+                  ::SetFocus(Edit(Power, IDC_PF_NOMINAL));
+                  Type(Power, IDC_VA_MAXW, L"");
+              }).focus != nullptr,
+              true);
+    HWND expected = nullptr;
+    const auto outcome = PressOk([&] {
+        expected = Edit(Power, IDC_PF_NOMINAL);
+        ::SetFocus(expected);
+        Type(Power, IDC_VA_MAXW, L"");
+    });
+    EXPECT_EQ(outcome.focus, expected);
+}
+
+TEST_F(LimitsDialogRefusal, NamesTheOrderAndSelectsTheFieldOfAHarmonic)
+{
+    HWND expected = nullptr;
+    const auto outcome = PressOk(
+        [&] {
+            SelectTab(Net);
+            expected = Edit(Net, IDC_HARMONIC_MAXD + 5);
+            ::SetWindowTextW(expected, L"abc");
+        },
+        [&](Outcome& seen) {
+            ::SendMessageW(expected, EM_GETSEL, reinterpret_cast<WPARAM>(&seen.selectionStart),
+                           reinterpret_cast<LPARAM>(&seen.selectionEnd));
+        });
+    EXPECT_EQ(outcome.messages, Lines({Text(809), Order(11), Text(349)}));
+    EXPECT_EQ(outcome.focus, expected);
+    EXPECT_EQ(outcome.selectionStart, 0U);
+    EXPECT_EQ(outcome.selectionEnd, 3U);
+}
+
+TEST_F(LimitsDialogRefusal, NamesTheFundamental)
+{
+    EXPECT_EQ(PressOk([&] { Type(Load, IDC_HARMONIC_NOMINAL, L"-1"); }).messages,
+              Lines({Text(809), Text(816), Text(817)}));
+}
+
+TEST_F(LimitsDialogRefusal, ReportsAPageThatIsNotShownAndKeepsTheTab)
+{
+    const auto outcome = PressOk([&] { Type(Load, IDC_HARMONIC_MAXW + 12, L"0"); },
+                                 [&](Outcome&) {
+                                     EXPECT_EQ(m_dialog->GetDlgItem(IDC_LIMITS_TAB)->SendMessage(TCM_GETCURSEL), 0);
+                                     EXPECT_TRUE(::IsWindowVisible(m_pages[Power]));
+                                     EXPECT_FALSE(::IsWindowVisible(m_pages[Load]));
+                                 });
+    EXPECT_EQ(outcome.messages, Lines({Text(809), Order(25), Text(351)}));
+}
+
+TEST_F(LimitsDialogRefusal, ChecksPowerThenNetThenLoadAndStopsAtTheFirst)
+{
+    EXPECT_EQ(PressOk([&] {
+                  Type(Load, IDC_HARMONIC_NOMINAL, L"x");
+                  Type(Net, IDC_HARMONIC_MAXD + 1, L"0");
+                  Type(Power, IDC_RP_NOMINAL, L"");
+              }).messages,
+              Lines({Text(933), Text(32276), Text(349)}));
+    EXPECT_EQ(PressOk([&] {
+                  Type(Load, IDC_HARMONIC_NOMINAL, L"x");
+                  Type(Net, IDC_HARMONIC_MAXD + 1, L"0");
+              }).messages,
+              Lines({Text(809), Order(3), Text(351)}));
+}
+
+}  // namespace

@@ -1,0 +1,254 @@
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include "CDlgUnitsZEP.h"
+#include "ControlText.h"
+#include "DialogRun.h"
+#include "KZLoadString.h"
+#include "KZStringIds.h"
+#include "MessageBoxes.h"
+#include "Plant.h"
+#include "Tidiness.h"
+#include "UnitsControls.h"
+
+namespace {
+
+constexpr int ApparentDecimals[] = {8049, 8059, 8065, 8071};
+constexpr int ReactiveDecimals[] = {8050, 8060, 8066, 8072};
+constexpr int ApparentUnits[] = {8020, 8027};
+constexpr int ReactiveUnits[] = {8021, 8028};
+
+std::string SetupWith(const std::string& units)
+{
+    return "<unitSetups><unitSetup><driverId>zep1</driverId>" + units + "</unitSetup></unitSetups>";
+}
+
+class UnitsDialog : public testing::Test {
+protected:
+    INT_PTR Run(const std::function<void()>& step)
+    {
+        CDlgUnitsZEP dialog(nullptr, m_plant.Device());
+        m_dialog = &dialog;
+        const INT_PTR result = RunModal(dialog, step);
+        m_dialog = nullptr;
+        return result;
+    }
+    INT_PTR RunAndPressOk(const std::function<void()>& step)
+    {
+        return Run([&] {
+            step();
+            Press(IDOK);
+        });
+    }
+
+    [[nodiscard]] CWnd& Item(int id) const { return *m_dialog->GetDlgItem(id); }
+    [[nodiscard]] std::wstring TextOf(int id) const { return ControlText(Item(id)).c_str(); }
+    void Click(int id) const { Item(id).SendMessage(BM_CLICK); }
+    void Press(int id) const { m_dialog->SendMessage(WM_COMMAND, static_cast<WPARAM>(id)); }
+
+    // The index of the checked radio, -1 for none.
+    template <std::size_t Count>
+    [[nodiscard]] int Checked(const int (&radios)[Count]) const
+    {
+        int checked = -1;
+        for (std::size_t i = 0; i < Count; ++i)
+            if (Item(radios[i]).SendMessage(BM_GETCHECK) == BST_CHECKED)
+                checked = checked == -1 ? static_cast<int>(i) : 99;
+        return checked;
+    }
+    void ExpectShown(int apparentDecimals, int apparentUnit, int reactiveDecimals, int reactiveUnit)
+    {
+        Run([&] {
+            EXPECT_EQ(Checked(ApparentDecimals), apparentDecimals);
+            EXPECT_EQ(Checked(ApparentUnits), apparentUnit);
+            EXPECT_EQ(Checked(ReactiveDecimals), reactiveDecimals);
+            EXPECT_EQ(Checked(ReactiveUnits), reactiveUnit);
+        });
+    }
+    [[nodiscard]] static std::wstring Stored(const wchar_t* unit, const wchar_t* name)
+    {
+        const auto* root = KZMainCfg::Get()->Root();
+        return Plant::Value(root->NodeV(L"unitSetups/unitSetup?driverId=zep1?/unit?name=%s?", unit), name);
+    }
+
+    Plant m_plant;
+    CDlgUnitsZEP* m_dialog = nullptr;
+};
+
+TEST_F(UnitsDialog, ShowsPlainUnitsAndOneDecimalAtFirstUse)
+{
+    ExpectShown(1, 1, 1, 1);
+}
+
+TEST_F(UnitsDialog, ShowsWhatIsStored)
+{
+    Plant::Configure(SetupWith("<unit><name>AP-VA</name><decimals>0</decimals><factor>3</factor></unit>"
+                               "<unit><name>RP</name><decimals>3</decimals><factor>0</factor></unit>"));
+    ExpectShown(0, 0, 3, 1);
+}
+
+TEST_F(UnitsDialog, ShowsKiloUnitsWithoutAFactorAndPlainUnitsWithoutAUnit)
+{
+    Plant::Configure(SetupWith("<unit><name>AP-VA</name><decimals>2</decimals></unit>"));
+    ExpectShown(2, 0, 1, 1);
+    Plant::Configure(SetupWith("<unit><name>RP</name><factor>1</factor></unit>"));
+    ExpectShown(1, 1, 1, 0);
+}
+
+TEST_F(UnitsDialog, ChecksNoRadioForDecimalsThatItDoesNotOffer)
+{
+    Plant::Configure(SetupWith("<unit><name>RP</name><decimals>7</decimals></unit>"));
+    ExpectShown(1, 1, -1, 0);
+    Plant::Configure(SetupWith("<unit><name>RP</name><decimals>-1</decimals></unit>"));
+    ExpectShown(1, 1, -1, 0);
+}
+
+TEST_F(UnitsDialog, WritesMinusOneForThemWhenSomethingElseChanges)
+{
+    Plant::Configure(SetupWith("<unit><name>RP</name><decimals>7</decimals></unit>"));
+    EXPECT_EQ(RunAndPressOk([&] { Click(ApparentDecimals[2]); }), IDOK);
+    EXPECT_EQ(Stored(L"RP", L"decimals"), L"-1");
+    EXPECT_EQ(Stored(L"RP", L"factor"), L"3");
+    EXPECT_EQ(Stored(L"AP-VA", L"decimals"), L"2");
+}
+
+TEST_F(UnitsDialog, EndsOkWithoutAChangeAsCancelAndWritesNothing)
+{
+    const auto before = Plant::Configuration();
+    EXPECT_EQ(RunAndPressOk([] {}), IDCANCEL);
+    EXPECT_EQ(RunAndPressOk([&] {
+                  Click(ApparentUnits[0]);
+                  Click(ApparentUnits[1]);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(Plant::Configuration(), before);
+    EXPECT_FALSE(Plant::IsDirty());
+}
+
+TEST_F(UnitsDialog, WritesBothUnitsAfterAChangeInOne)
+{
+    EXPECT_EQ(RunAndPressOk([&] { Click(ReactiveUnits[0]); }), IDOK);
+    EXPECT_TRUE(Plant::IsDirty());
+    EXPECT_EQ(Stored(L"AP-VA", L"decimals"), L"1");
+    EXPECT_EQ(Stored(L"AP-VA", L"factor"), L"0");
+    EXPECT_EQ(Stored(L"RP", L"decimals"), L"1");
+    EXPECT_EQ(Stored(L"RP", L"factor"), L"3");
+}
+
+TEST_F(UnitsDialog, NoticesAChangeInEveryGroup)
+{
+    const auto clickAndPress = [&](int id) {
+        Plant::Configure("");
+        return RunAndPressOk([&] { Click(id); });
+    };
+    for (const auto* decimals : {ApparentDecimals, ReactiveDecimals})
+        for (const int index : {0, 2, 3}) {
+            EXPECT_EQ(clickAndPress(decimals[index]), IDOK);
+            EXPECT_EQ(Stored(decimals == ApparentDecimals ? L"AP-VA" : L"RP", L"decimals"), std::to_wstring(index));
+        }
+    EXPECT_EQ(clickAndPress(ApparentUnits[0]), IDOK);
+    EXPECT_EQ(Stored(L"AP-VA", L"factor"), L"3");
+    EXPECT_EQ(Stored(L"RP", L"factor"), L"0");
+}
+
+TEST_F(UnitsDialog, AppendsItsRecordBesideAnotherDrivers)
+{
+    Plant::Configure("<unitSetups><unitSetup><driverId>other</driverId></unitSetup></unitSetups>");
+    EXPECT_EQ(RunAndPressOk([&] { Click(ApparentUnits[0]); }), IDOK);
+    const auto* first = KZMainCfg::Get()->Node(L"unitSetups/unitSetup");
+    EXPECT_EQ(Plant::Value(first, L"driverId"), L"other");
+    EXPECT_EQ(Plant::Value(first->NextSibling(L"unitSetup"), L"driverId"), L"zep1");
+}
+
+TEST_F(UnitsDialog, WritesNothingOnCancelEscapeAndTheCloseBox)
+{
+    const auto change = [&] { Click(ApparentUnits[0]); };
+    EXPECT_EQ(Run([&] {
+                  change();
+                  Press(IDCANCEL);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(Run([&] {
+                  change();
+                  TypeKey(VK_ESCAPE);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(Run([&] {
+                  change();
+                  m_dialog->SendMessage(WM_CLOSE);
+              }),
+              IDCANCEL);
+    EXPECT_FALSE(Plant::IsDirty());
+}
+
+TEST_F(UnitsDialog, ChoosesWithTheArrowKeys)
+{
+    EXPECT_EQ(Run([&] {
+                  Item(ApparentUnits[1]).SetFocus();
+                  TypeKey(VK_UP);
+                  TypeKey(VK_RETURN);
+              }),
+              IDOK);
+    EXPECT_EQ(Stored(L"AP-VA", L"factor"), L"3");
+}
+
+class UnitsDialogLanguages : public UnitsDialog, public testing::WithParamInterface<KZLanguage> {
+protected:
+    UnitsDialogLanguages() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
+
+    [[nodiscard]] static std::wstring Decimals(unsigned id, int count)
+    {
+        return KZBasicString::Format(KZLoadString(id).c_str(), count).c_str();
+    }
+};
+
+TEST_P(UnitsDialogLanguages, TakesItsTextsFromTheHostButForTheUnits)
+{
+    Run([&] {
+        const auto text = [](unsigned id) { return std::wstring(KZLoadString(id).c_str()); };
+        EXPECT_EQ(TextOf(IDC_APPARENT_GROUP), text(399));
+        EXPECT_EQ(TextOf(IDC_REACTIVE_GROUP), text(400));
+        for (const int id : {8015, 8016})
+            EXPECT_EQ(TextOf(id), text(407));
+        for (const int id : {8039, 8040})
+            EXPECT_EQ(TextOf(id), text(408));
+        for (const auto& radios : {ApparentDecimals, ReactiveDecimals}) {
+            EXPECT_EQ(TextOf(radios[0]), text(403));
+            EXPECT_EQ(TextOf(radios[1]), Decimals(404, 1));
+            EXPECT_EQ(TextOf(radios[2]), Decimals(32330, 2));
+            EXPECT_EQ(TextOf(radios[3]), Decimals(32330, 3));
+        }
+        EXPECT_EQ(TextOf(8020), L"kW / kVA");
+        EXPECT_EQ(TextOf(8027), L"W / VA");
+        EXPECT_EQ(TextOf(8021), L"kVAR");
+        EXPECT_EQ(TextOf(8028), L"VAR");
+        EXPECT_EQ(TextOf(IDOK), text(311));
+        EXPECT_EQ(TextOf(IDCANCEL), text(312));
+        EXPECT_EQ(ControlText(*m_dialog), KZBasicString::Format(text(532).c_str(), Plant::Model().c_str()));
+    });
+}
+
+TEST_P(UnitsDialogLanguages, IsTidy)
+{
+    Run([&] { ExpectTidy(*m_dialog); });
+}
+
+TEST_P(UnitsDialogLanguages, SetsTheTwoUnitsSideBySide)
+{
+    Run([&] {
+        const CRect apparent = PlaceOf(Item(IDC_APPARENT_GROUP));
+        const CRect reactive = PlaceOf(Item(IDC_REACTIVE_GROUP));
+        EXPECT_EQ(apparent.top, reactive.top);
+        EXPECT_EQ(apparent.bottom, reactive.bottom);
+        EXPECT_LT(apparent.right, reactive.left);
+        EXPECT_LE(std::abs(apparent.Width() - reactive.Width()), 1);
+        for (int i = 0; i < 4; ++i)
+            EXPECT_EQ(PlaceOf(Item(ApparentDecimals[i])).top, PlaceOf(Item(ReactiveDecimals[i])).top);
+        EXPECT_LT(apparent.bottom, PlaceOf(Item(IDOK)).top);
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, UnitsDialogLanguages, testing::Values(KZLanguage::English, KZLanguage::Spanish),
+                         LanguageName);
+
+}  // namespace
