@@ -67,10 +67,9 @@ std::size_t SourceWriter::WriteElement(pugi::xml_node element)
 
 std::size_t SourceWriter::WriteReplaced(pugi::xml_node text, const ReplacedText& old)
 {
-    const auto offset = static_cast<std::size_t>(old.offset);
-    CopyTo(offset - PrefixLength(old.type));
+    CopyTo(static_cast<std::size_t>(old.firstOffset) - PrefixLength(old.firstType));
     WriteNew(text);
-    m_copied = EndOf(old.type, offset);
+    m_copied = EndOf(old.lastType, static_cast<std::size_t>(old.lastOffset));
     return m_copied;
 }
 

@@ -38,10 +38,21 @@ std::wstring Storable(std::wstring_view text)
     return storable;
 }
 
+bool IsText(pugi::xml_node node) noexcept
+{
+    return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
+}
+
+// Whether a node is text that stands in the source.
+bool WasRead(pugi::xml_node node) noexcept
+{
+    return IsText(node) && node.offset_debug() >= 0;
+}
+
 pugi::xml_node TextNodeOf(pugi::xml_node element) noexcept
 {
     pugi::xml_node child = element.first_child();
-    while (child && child.type() != pugi::node_pcdata && child.type() != pugi::node_cdata)
+    while (child && !IsText(child))
         child = child.next_sibling();
     return child;
 }
@@ -110,19 +121,23 @@ bool SetText(pugi::xml_node element, std::wstring_view text, ReplacedTexts& repl
     pugi::xml_node old = TextNodeOf(element);
     if (storable == old.value())
         return false;
-    const std::ptrdiff_t offset = old.offset_debug();
-    if (old && offset < 0) {
+    if (old && !WasRead(old)) {
         MustSucceed(old.set_value(storable.c_str()));
         return true;
     }
 
     // A text that was read is not changed but replaced: pugixml would write into the place whose offset says where the
-    // text stands in the source.
-    NewNode node(old ? element.insert_child_after(pugi::node_pcdata, old) : element.append_child(pugi::node_pcdata));
+    // text stands in the source. Texts next to it go with it; they would run into the new one.
+    NewNode node(old ? element.insert_child_before(pugi::node_pcdata, old) : element.append_child(pugi::node_pcdata));
     MustSucceed(node.Get().set_value(storable.c_str()));
     if (old) {
-        replaced.emplace(node.Get().internal_object(), ReplacedText{offset, old.type()});
-        element.remove_child(old);
+        pugi::xml_node last = old;
+        while (WasRead(last.next_sibling()))
+            last = last.next_sibling();
+        replaced.emplace(node.Get().internal_object(),
+                         ReplacedText{old.offset_debug(), old.type(), last.offset_debug(), last.type()});
+        while (WasRead(node.Get().next_sibling()))
+            element.remove_child(node.Get().next_sibling());
     }
     node.Keep();
     return true;

@@ -7,10 +7,13 @@
 #include <unordered_map>
 #include <utility>
 
-// Texts that took the place of others, each with the place in the tree of the node that it replaced.
+// Texts that took the place of others, each with the places in the tree of the first and the last node that it
+// replaced.
 struct ReplacedText {
-    std::ptrdiff_t offset;
-    pugi::xml_node_type type;
+    std::ptrdiff_t firstOffset;
+    pugi::xml_node_type firstType;
+    std::ptrdiff_t lastOffset;
+    pugi::xml_node_type lastType;
 };
 using ReplacedTexts = std::unordered_map<const void*, ReplacedText>;
 

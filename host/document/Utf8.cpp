@@ -1,5 +1,8 @@
 #include "Utf8.h"
 
+#include <algorithm>
+#include <type_traits>
+
 namespace {
 
 constexpr char32_t Replacement = 0xFFFD;
@@ -12,6 +15,13 @@ bool IsHighSurrogate(char32_t unit) noexcept
 bool IsLowSurrogate(char32_t unit) noexcept
 {
     return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+template <typename View>
+std::size_t AsciiLength(View text) noexcept
+{
+    const auto isAscii = [](auto unit) { return static_cast<std::make_unsigned_t<decltype(+unit)>>(unit) < 0x80; };
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isAscii) - text.begin());
 }
 
 struct Decoded {
@@ -90,12 +100,19 @@ void AppendUtf8(std::string& bytes, char32_t character)
 
 }  // namespace
 
+// Nearly all of a document is ASCII, which needs no more than widening.
 std::size_t DecodeUtf8(std::string_view bytes, std::wstring& text)
 {
     text.clear();
     text.reserve(bytes.size());
     std::size_t done = 0;
     while (done < bytes.size()) {
+        const std::size_t run = AsciiLength(bytes.substr(done));
+        text.resize(text.size() + run);
+        std::copy_n(bytes.data() + done, run, text.end() - static_cast<std::ptrdiff_t>(run));
+        done += run;
+        if (done == bytes.size())
+            break;
         const Decoded decoded = DecodeOne(bytes.substr(done));
         if (decoded.length == 0)
             break;
@@ -109,7 +126,15 @@ std::string EncodeUtf8(std::wstring_view text)
 {
     std::string bytes;
     bytes.reserve(text.size() + text.size() / 8);
-    while (!text.empty())
-        AppendUtf8(bytes, TakeCharacter(text));
+    while (!text.empty()) {
+        const std::size_t run = AsciiLength(text);
+        bytes.resize(bytes.size() + run);
+        std::transform(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(run),
+                       bytes.end() - static_cast<std::ptrdiff_t>(run),
+                       [](wchar_t unit) { return static_cast<char>(unit); });
+        text.remove_prefix(run);
+        if (!text.empty())
+            AppendUtf8(bytes, TakeCharacter(text));
+    }
     return bytes;
 }

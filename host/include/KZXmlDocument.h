@@ -25,7 +25,8 @@ public:
         [[nodiscard]] const wchar_t* Name() const noexcept;
 
         // The text at a path of named values below this element ("information/mode"), or the default when there is no
-        // such element. The pointer is valid until that value or the document changes.
+        // such element. Where comments or elements divide an element's text, its first piece counts. The pointer is
+        // valid until that value or the document changes.
         [[nodiscard]] const wchar_t* Value(const wchar_t* path, const wchar_t* defaultText) const noexcept;
 
         // The first element that a query path names, or null. Steps are separated by "/"; a step "name?value=text?"

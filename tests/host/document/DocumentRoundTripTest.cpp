@@ -70,6 +70,14 @@ TEST(RoundTripDocument, ReplacesACharacterDataSectionByText)
     EXPECT_EQ(document.Serialize(), "<r>\n  <v>&lt;new&gt;</v> <!-- kept -->\n</r>");
 }
 
+TEST(RoundTripDocument, ReplacesTextsThatAdjoinAsOne)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse("<r><v><![CDATA[a]]>b<![CDATA[c]]></v></r>"));
+    document.Root()->SetValue(L"v", L"new");
+    EXPECT_EQ(document.Serialize(), "<r><v>new</v></r>");
+}
+
 TEST(RoundTripDocument, OpensAnEmptyElementForItsFirstText)
 {
     XmlDocument document(L"r");
