@@ -21,6 +21,7 @@ target_sources(KZHost PRIVATE
   images/PixelImage.cpp
   images/PngFile.cpp
   dialogs/DialogTemplate.cpp
+  dialogs/DllMain.cpp
   dialogs/DocumentName.cpp
   dialogs/KZBaseDeviceCfg.cpp
   dialogs/KZBaseDlg.cpp

@@ -46,7 +46,7 @@ INT_PTR KZBaseDeviceCfg::DoModal()
     try {
         ReadDocument();
     } catch (const std::exception&) {
-        AfxMessageBox(KZ_IDS_OPTIONS_SECTION_FAILED);
+        AfxMessageBox(KZLoadString(KZ_IDS_OPTIONS_SECTION_FAILED).c_str());
         return -1;
     }
     return KZBaseDlg::DoModal();
@@ -99,7 +99,7 @@ bool KZBaseDeviceCfg::writeCfg(bool quiet)
         return saved ? true : fail(KZ_IDS_DEVICE_NOT_SAVED, saved.message);
     } catch (const std::exception&) {
         if (!quiet)
-            AfxMessageBox(KZ_IDS_OPTIONS_SECTION_FAILED);
+            AfxMessageBox(KZLoadString(KZ_IDS_OPTIONS_SECTION_FAILED).c_str());
         return false;
     }
 }

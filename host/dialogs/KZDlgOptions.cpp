@@ -63,12 +63,22 @@ int KZDlgOptions::Create(CWnd* parent)
     if (m_hWnd || !parent || !::IsWindow(parent->m_hWnd))
         return 0;
     m_bChild = true;
+    if (CreateChild(parent))
+        return 1;
+    // Windows may have refused a window that this object had met already.
+    if (m_hWnd && !::IsWindow(m_hWnd))
+        Detach();
+    DestroyWindow();
+    return 0;
+}
+
+bool KZDlgOptions::CreateChild(CWnd* parent) noexcept
+{
     try {
         const std::vector<std::byte> bytes = LoadChildTemplate(KZ_IDD_OPTIONS);
-        return !bytes.empty() && CreateIndirect(reinterpret_cast<LPCDLGTEMPLATE>(bytes.data()), parent) ? 1 : 0;
+        return !bytes.empty() && CreateIndirect(reinterpret_cast<LPCDLGTEMPLATE>(bytes.data()), parent);
     } catch (const std::exception&) {
-        DestroyWindow();
-        return 0;
+        return false;  // Create reports it
     }
 }
 

@@ -21,7 +21,7 @@ void KZDlgOptions::OnSection(UINT id)
     try {
         (this->*Handlers[section])();
     } catch (const std::exception&) {
-        AfxMessageBox(KZ_IDS_OPTIONS_SECTION_FAILED);
+        AfxMessageBox(KZLoadString(KZ_IDS_OPTIONS_SECTION_FAILED).c_str());
     }
 }
 

@@ -87,6 +87,7 @@ private:
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
 
+    bool CreateChild(CWnd* parent) noexcept;
     void SetTexts();
     void SetPictures();
     void AdaptToChild();

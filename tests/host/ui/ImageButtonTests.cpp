@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "GuiResources.h"
 #include "KZQuorvelantaSetup.h"
 #include "TemporaryFolder.h"
 #include "TestDialog.h"
@@ -141,6 +142,50 @@ TEST_F(ImageButton, RefusesAPictureBeforeItHasAWindow)
 {
     CImageButton button;
     EXPECT_FALSE(Set(button, ImageFile(L"OK-16.png")));
+}
+
+TEST_F(ImageButton, LeavesNothingBehindHoweverOftenItsPictureChanges)
+{
+    const auto change = [this] {
+        for (const wchar_t* name : {L"OK-16.png", L"no-such-picture.png", L"CANCEL-16.png"})
+            Set(m_first, ImageFile(name));
+    };
+    change();
+    const kztest::GuiResources before = kztest::CountGuiResources();
+    for (int i = 0; i < 1000; ++i)
+        change();
+    EXPECT_EQ(kztest::CountGuiResources(), before);
+}
+
+TEST(ImageButtonLifetime, FreesItsPicturesWithTheLastButton)
+{
+    const auto openAndClose = [] {
+        TestDialog dialog{Push(1), Push(2)};
+        CImageButton first;
+        CImageButton second;
+        first.SubclassDlgItem(1, dialog.Window());
+        second.SubclassDlgItem(2, dialog.Window());
+        EXPECT_TRUE(first.SetImage(ImageFile(L"OK-16.png"), 0xFFFFFFFF, false));
+        EXPECT_TRUE(second.SetImage(ImageFile(L"ZEP-50.png"), 0xFFFFFFFF, true));
+    };
+    openAndClose();
+    const kztest::GuiResources before = kztest::CountGuiResources();
+    for (int i = 0; i < 50; ++i)
+        openAndClose();
+    EXPECT_EQ(kztest::CountGuiResources(), before);
+}
+
+TEST(ImageButtonBitmap, LeavesNothingBehind)
+{
+    const auto load = [] {
+        CBitmap bitmap;
+        EXPECT_TRUE(CImageButton::GetBitmap(L"ZEP-var_power.png", bitmap, nullptr));
+    };
+    load();
+    const kztest::GuiResources before = kztest::CountGuiResources();
+    for (int i = 0; i < 1000; ++i)
+        load();
+    EXPECT_EQ(kztest::CountGuiResources(), before);
 }
 
 std::vector<DWORD> Drawn(HIMAGELIST list, int size, DWORD background)

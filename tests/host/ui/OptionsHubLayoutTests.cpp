@@ -7,6 +7,8 @@
 #include <memory>
 #include <set>
 
+#include "DialogLayout.h"
+#include "GuiResources.h"
 #include "KZDriverDeviceZEP.h"
 #include "KZQuorvelantaSetup.h"
 #include "TestDialog.h"
@@ -20,39 +22,6 @@ CRect PlaceIn(const CWnd& dialog, HWND window)
     ::GetWindowRect(window, &place);
     ::MapWindowPoints(nullptr, dialog.m_hWnd, reinterpret_cast<POINT*>(&place), 2);
     return place;
-}
-
-int TextWidth(HWND button)
-{
-    wchar_t text[128];
-    const int length = ::GetWindowTextW(button, text, static_cast<int>(std::size(text)));
-    const HDC dc = ::GetDC(button);
-    const HGDIOBJ old = ::SelectObject(dc, reinterpret_cast<HFONT>(::SendMessageW(button, WM_GETFONT, 0, 0)));
-    SIZE size{};
-    ::GetTextExtentPoint32W(dc, text, length, &size);
-    ::SelectObject(dc, old);
-    ::ReleaseDC(button, dc);
-    return size.cx;
-}
-
-// Everything that shows lies inside the dialog, whole, and over nothing else that shows.
-void ExpectTidy(const CWnd& dialog)
-{
-    CRect client;
-    dialog.GetClientRect(&client);
-    std::vector<CRect> places;
-    for (HWND child = ::GetWindow(dialog.m_hWnd, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        if (!(::GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE))
-            continue;
-        const CRect place = PlaceIn(dialog, child);
-        CRect common;
-        EXPECT_TRUE(::IntersectRect(&common, &place, &client) && common == place) << ::GetDlgCtrlID(child);
-        for (const CRect& other : places)
-            EXPECT_FALSE(::IntersectRect(&common, &place, &other)) << ::GetDlgCtrlID(child);
-        EXPECT_LE(TextWidth(child), place.Width()) << ::GetDlgCtrlID(child);
-        places.push_back(place);
-    }
-    EXPECT_GE(places.size(), std::size_t{KZSectionCount});
 }
 
 std::size_t Rows(const CWnd& dialog)
@@ -76,10 +45,11 @@ protected:
 TEST_P(OptionsHubLayout, IsTidyInTwoRowsWhenModal)
 {
     m_hub.Run([this] {
-        ExpectTidy(m_hub);
+        m_hub.ShowWindow(SW_SHOW);
+        kztest::ExpectNothingClippedOrOverlapping(m_hub.m_hWnd);
         EXPECT_EQ(Rows(m_hub), 2u);
         for (const int id : {IDOK, IDCANCEL})
-            EXPECT_TRUE(m_hub.GetDlgItem(id)->IsWindowVisible());
+            EXPECT_TRUE(m_hub.GetDlgItem(id)->GetStyle() & WS_VISIBLE);
     });
 }
 
@@ -97,10 +67,12 @@ TEST_P(OptionsHubLayout, IsAsHighAsItsContentWhenModal)
 TEST_P(OptionsHubLayout, UsesAsFewRowsAsAChildsWidthAllows)
 {
     ASSERT_TRUE(m_hub.Create(m_owner.Window()));
+    m_owner.Window()->MoveWindow(0, 0, 3000, 3000);
+    m_owner.Window()->ShowWindow(SW_SHOW);
     std::size_t lastRows = 1;
     for (const int width : {1600, 800, 400, 200}) {
         m_hub.MoveWindow(0, 0, width * m_owner.X(4) / 6, 1400 * m_owner.X(4) / 6);
-        ExpectTidy(m_hub);
+        kztest::ExpectNothingClippedOrOverlapping(m_hub.m_hWnd);
         EXPECT_GE(Rows(m_hub), lastRows) << width;
         lastRows = Rows(m_hub);
     }
@@ -110,7 +82,9 @@ TEST_P(OptionsHubLayout, UsesAsFewRowsAsAChildsWidthAllows)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, OptionsHubLayout, testing::Values(KZLanguage::English, KZLanguage::Spanish),
-                         [](const auto& info) { return info.param == KZLanguage::English ? "English" : "Spanish"; });
+                         [](const auto& language) {
+                             return language.param == KZLanguage::English ? "English" : "Spanish";
+                         });
 
 class ChildHub : public testing::Test {
 protected:
@@ -228,6 +202,20 @@ TEST_F(ChildHub, TakesItsWindowWithItWhenItIsDeleted)
     const HWND window = m_hub->m_hWnd;
     m_hub.reset();
     EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST_F(ChildHub, LeavesNothingBehind)
+{
+    const auto run = [this] {
+        auto hub = std::make_unique<TestHub>(m_parent->Window(), &m_device);
+        hub->SetBackgroundColor(RGB(255, 255, 255));
+        hub->Create(m_parent->Window());
+    };
+    run();
+    const kztest::GuiResources before = kztest::CountGuiResources();
+    for (int i = 0; i < 20; ++i)
+        run();
+    EXPECT_EQ(kztest::CountGuiResources(), before);
 }
 
 TEST_F(ChildHub, OutlivesItsParentsWindow)

@@ -68,7 +68,7 @@ TEST_F(OptionsHub, ClosesWithCancelAndWithTheCloseBox)
 TEST_F(OptionsHub, ClosesWithOkOnEnterAtOk)
 {
     const auto enterAtOk = [this] {
-        m_hub.GetDlgItem(IDOK)->SetFocus();
+        m_hub.GotoDlgCtrl(m_hub.GetDlgItem(IDOK));
         TestHub::Type(VK_RETURN);
     };
     EXPECT_EQ(m_hub.Run(enterAtOk), IDOK);
@@ -82,7 +82,7 @@ TEST_F(OptionsHub, ClosesWithCancelOnEscape)
 TEST_F(OptionsHub, OpensTheFocusedSectionOnEnter)
 {
     const auto enterAtUnits = [this] {
-        m_hub.GetDlgItem(KZSectionButtonBase + KZSectionUnits)->SetFocus();
+        m_hub.GotoDlgCtrl(m_hub.GetDlgItem(KZSectionButtonBase + KZSectionUnits));
         TestHub::Type(VK_RETURN);
     };
     EXPECT_EQ(m_hub.Run(enterAtUnits), TestHub::StillOpen);
@@ -94,7 +94,7 @@ TEST_F(OptionsHub, WalksThroughTheSectionsWithTab)
 {
     int focused = 0;
     m_hub.Run([&] {
-        m_hub.GetDlgItem(KZSectionButtonBase + KZSectionLimits)->SetFocus();
+        m_hub.GotoDlgCtrl(m_hub.GetDlgItem(KZSectionButtonBase + KZSectionLimits));
         m_hub.NextDlgCtrl();
         focused = ::GetDlgCtrlID(::GetFocus());
     });
