@@ -67,6 +67,14 @@ int EditorApp::RunWindow(const Arguments& arguments)
     if (!window.Create())
         throw EditorError(EditorText(IDS_NO_WINDOW));
     m_pMainWnd = &window;
+    m_window = &window;
     Run();
+    m_window = nullptr;
     return ExitTrue;
+}
+
+// The window's shortcuts come first: a dialog that is embedded in it would take the keys before they reach the window.
+BOOL EditorApp::PreTranslateMessage(MSG* message)
+{
+    return (m_window && m_window->TranslateShortcut(message)) || CWinApp::PreTranslateMessage(message);
 }

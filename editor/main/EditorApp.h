@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 struct Arguments;
+class MainWindow;
 
 class EditorApp : public CWinApp {
 public:
@@ -12,7 +13,11 @@ public:
     // Runs what the command line asks for and returns the exit status (command/Commands.h).
     int RunProgram() noexcept;
 
+    BOOL PreTranslateMessage(MSG* message) override;
+
 private:
     int RunArguments(const Arguments& arguments);
     int RunWindow(const Arguments& arguments);
+
+    MainWindow* m_window = nullptr;  // while it runs
 };

@@ -307,9 +307,10 @@ LRESULT MainWindow::OnOptionsChanged(WPARAM, LPARAM)
     return 0;
 }
 
-BOOL MainWindow::PreTranslateMessage(MSG* message)
+bool MainWindow::TranslateShortcut(MSG* message)
 {
-    return ::TranslateAcceleratorW(m_hWnd, m_accelerators, message) || CDialog::PreTranslateMessage(message);
+    const bool isOurs = message->hwnd == m_hWnd || ::IsChild(m_hWnd, message->hwnd);
+    return isOurs && ::IsWindowEnabled(m_hWnd) && ::TranslateAcceleratorW(m_hWnd, m_accelerators, message) != 0;
 }
 
 BOOL MainWindow::OnCommand(WPARAM wParam, LPARAM lParam)

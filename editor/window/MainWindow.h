@@ -16,7 +16,9 @@ public:
     // Creates and shows the window, whose end ends the program's message loop. Returns false when it cannot be created.
     bool Create();
 
-    BOOL PreTranslateMessage(MSG* message) override;
+    // Runs the command of a shortcut that was pressed in this window or in what it embeds. Returns false for any other
+    // message, and for all while a dialog is open.
+    bool TranslateShortcut(MSG* message);
 
 protected:
     BOOL OnInitDialog() override;

@@ -14,8 +14,10 @@ struct TemplateHead {
 };
 constexpr WORD ExtendedSignature = 0xFFFF;
 
-constexpr DWORD FrameStyles = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | DS_MODALFRAME | DS_CENTER;
-constexpr DWORD ChildStyles = WS_CHILD | WS_VISIBLE | DS_CONTROL;
+// A child that is visible from the start would take the focus from the window that it is put into.
+constexpr DWORD FrameStyles =
+    WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_VISIBLE | DS_MODALFRAME | DS_CENTER;
+constexpr DWORD ChildStyles = WS_CHILD | DS_CONTROL;
 
 std::vector<std::byte> LoadTemplate(unsigned id)
 {

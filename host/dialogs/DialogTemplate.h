@@ -6,6 +6,6 @@
 #include <cstddef>
 #include <vector>
 
-// A copy of the extended dialog template (DIALOGEX) of that id with the styles of an embedded child; empty when there
-// is no such template.
+// A copy of the extended dialog template (DIALOGEX) of that id with the styles of an embedded child, not yet visible;
+// empty when there is no such template.
 [[nodiscard]] std::vector<std::byte> LoadChildTemplate(unsigned id);

@@ -76,7 +76,10 @@ bool KZDlgOptions::CreateChild(CWnd* parent) noexcept
 {
     try {
         const std::vector<std::byte> bytes = LoadChildTemplate(KZ_IDD_OPTIONS);
-        return !bytes.empty() && CreateIndirect(reinterpret_cast<LPCDLGTEMPLATE>(bytes.data()), parent);
+        if (bytes.empty() || !CreateIndirect(reinterpret_cast<LPCDLGTEMPLATE>(bytes.data()), parent))
+            return false;
+        ShowWindow(SW_SHOWNA);
+        return true;
     } catch (const std::exception&) {
         return false;  // Create reports it
     }
