@@ -3,13 +3,15 @@
 
 #include "ControlText.h"
 #include "DeviceControls.h"
+#include "DialogLayout.h"
 #include "DialogRun.h"
+#include "GuiResources.h"
 #include "KZDeviceCfgZEP.h"
 #include "KZLoadString.h"
 #include "KZStringIds.h"
 #include "MessageBoxes.h"
+#include "PlaceOf.h"
 #include "Plant.h"
-#include "Tidiness.h"
 
 namespace {
 
@@ -184,7 +186,7 @@ TEST_P(DeviceDialogLanguages, TakesItsTextsFromTheHost)
 
 TEST_P(DeviceDialogLanguages, IsTidy)
 {
-    Run([&] { ExpectTidy(*m_dialog); });
+    Run([&] { kztest::ExpectNothingClippedOrOverlapping(m_dialog->m_hWnd); });
 }
 
 TEST_P(DeviceDialogLanguages, StandsInTheOrderOfTheRunTimeLayout)
@@ -439,6 +441,14 @@ TEST_F(DeviceDialogRefusal, ReportsTheFirstFieldOnly)
               }),
               StillOpen);
     EXPECT_EQ(boxes.Take(), (std::vector{SeenMessage{Range(0, 200), false}}));
+}
+
+TEST_F(DeviceDialog, LeavesNoWindowMenuOrGdiObjectBehind)
+{
+    Run([] {});
+    const auto before = kztest::CountGuiResources();
+    Run([] {});
+    EXPECT_EQ(kztest::CountGuiResources(), before);
 }
 
 }  // namespace

@@ -16,11 +16,10 @@ add_library(zep_dialogs STATIC
   ${module}/shared/LayoutPlan.cpp
   ${module}/shared/TabImages.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DialogRun.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/MessageBoxes.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/Tidiness.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/MessageBoxes.cpp)
 kz_common(zep_dialogs)
 target_include_directories(zep_dialogs PUBLIC ${CMAKE_CURRENT_LIST_DIR} ${module}/resources ${module}/shared)
-target_link_libraries(zep_dialogs PUBLIC KZUsrZEPRules KZHost KZMfc gtest)
+target_link_libraries(zep_dialogs PUBLIC KZUsrZEPRules KZHost KZMfc)
 
 # A test program over the dialogs: zep_dialog_test(NAME source...)
 function(zep_dialog_test name)

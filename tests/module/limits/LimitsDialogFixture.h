@@ -54,6 +54,8 @@ protected:
     {
         ::SetWindowTextW(Edit(page, id), limits_testing::Typed(text).c_str());
     }
+    // Whether a page is the one to see; the dialog itself shows later than the test looks.
+    [[nodiscard]] static bool IsShown(HWND page) { return (::GetWindowLongW(page, GWL_STYLE) & WS_VISIBLE) != 0; }
     void Press(int id) const { m_dialog->SendMessage(WM_COMMAND, static_cast<WPARAM>(id)); }
     void SelectTab(int tab) const
     {
@@ -84,7 +86,7 @@ protected:
     std::array<HWND, 3> m_pages{};
 
 private:
-    // The pages are the dialog's child dialogs; the order of creation is kept by their handles' order in a walk.
+    // The pages are the dialog's child dialogs.
     void FindPages()
     {
         std::vector<HWND> harmonic;
@@ -98,7 +100,7 @@ private:
         ASSERT_EQ(harmonic.size(), 2U);
         // Selecting its tab brings a page to view: that tells the two sides apart.
         SelectTab(1);
-        const bool firstIsNet = ::IsWindowVisible(harmonic[0]) != FALSE;
+        const bool firstIsNet = IsShown(harmonic[0]);
         m_pages[Net] = harmonic[firstIsNet ? 0 : 1];
         m_pages[Load] = harmonic[firstIsNet ? 1 : 0];
         SelectTab(0);

@@ -1,6 +1,8 @@
 // Texts, places and tabs of the limits dialog, in both languages.
+#include "DialogLayout.h"
+#include "GuiResources.h"
 #include "LimitsDialogFixture.h"
-#include "Tidiness.h"
+#include "PlaceOf.h"
 
 namespace {
 
@@ -99,10 +101,10 @@ TEST_P(LimitsDialogLanguages, LabelsTheHarmonicPages)
 TEST_P(LimitsDialogLanguages, IsTidyOnEveryTab)
 {
     Run([&] {
-        ExpectTidy(*m_dialog);
+        kztest::ExpectNothingClippedOrOverlapping(m_dialog->m_hWnd);
         for (const Page page : {Power, Net, Load}) {
             SelectTab(page);
-            ExpectTidy(*CWnd::FromHandle(m_pages[page]));
+            kztest::ExpectNothingClippedOrOverlapping(m_dialog->m_hWnd);
         }
     });
 }
@@ -153,9 +155,17 @@ TEST_P(LimitsDialogLanguages, KeepsItsPagesWithinANewSize)
         EXPECT_EQ(window.Height(), height) << "the height follows the pages";
         for (const Page page : {Power, Net, Load}) {
             SelectTab(page);
-            ExpectTidy(*CWnd::FromHandle(m_pages[page]));
+            kztest::ExpectNothingClippedOrOverlapping(m_dialog->m_hWnd);
         }
     });
+}
+
+TEST_F(LimitsDialog, LeavesNoWindowMenuOrGdiObjectBehind)
+{
+    Run([] {});
+    const auto before = kztest::CountGuiResources();
+    Run([] {});
+    EXPECT_EQ(kztest::CountGuiResources(), before);
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "LimitsDialogFixture.h"
 
 #include "KZStringIds.h"
-#include "Tidiness.h"
 
 namespace {
 
@@ -145,12 +144,12 @@ TEST_F(LimitsDialog, ShowsThePageOfTheSelectedTab)
         for (const Page page : {Load, Power, Net, Power}) {
             SelectTab(page);
             for (const Page other : {Power, Net, Load})
-                EXPECT_EQ(::IsWindowVisible(m_pages[other]) != FALSE, other == page) << page << " " << other;
+                EXPECT_EQ(IsShown(m_pages[other]), other == page) << page << " " << other;
             EXPECT_EQ(::GetWindow(m_dialog->m_hWnd, GW_CHILD), m_pages[page]);
         }
         SelectTab(-1);
         for (const Page page : {Power, Net, Load})
-            EXPECT_FALSE(::IsWindowVisible(m_pages[page])) << page;
+            EXPECT_FALSE(IsShown(m_pages[page])) << page;
     });
 }
 
@@ -277,8 +276,8 @@ TEST_F(LimitsDialogRefusal, ReportsAPageThatIsNotShownAndKeepsTheTab)
     const auto outcome = PressOk([&] { Type(Load, IDC_HARMONIC_MAXW + 12, L"0"); },
                                  [&](Outcome&) {
                                      EXPECT_EQ(m_dialog->GetDlgItem(IDC_LIMITS_TAB)->SendMessage(TCM_GETCURSEL), 0);
-                                     EXPECT_TRUE(::IsWindowVisible(m_pages[Power]));
-                                     EXPECT_FALSE(::IsWindowVisible(m_pages[Load]));
+                                     EXPECT_TRUE(IsShown(m_pages[Power]));
+                                     EXPECT_FALSE(IsShown(m_pages[Load]));
                                  });
     EXPECT_EQ(outcome.messages, Lines({Text(809), Order(25), Text(351)}));
 }

@@ -3,12 +3,14 @@
 
 #include "CDlgUnitsZEP.h"
 #include "ControlText.h"
+#include "DialogLayout.h"
 #include "DialogRun.h"
+#include "GuiResources.h"
 #include "KZLoadString.h"
 #include "KZStringIds.h"
 #include "MessageBoxes.h"
+#include "PlaceOf.h"
 #include "Plant.h"
-#include "Tidiness.h"
 #include "UnitsControls.h"
 
 namespace {
@@ -230,7 +232,7 @@ TEST_P(UnitsDialogLanguages, TakesItsTextsFromTheHostButForTheUnits)
 
 TEST_P(UnitsDialogLanguages, IsTidy)
 {
-    Run([&] { ExpectTidy(*m_dialog); });
+    Run([&] { kztest::ExpectNothingClippedOrOverlapping(m_dialog->m_hWnd); });
 }
 
 TEST_P(UnitsDialogLanguages, SetsTheTwoUnitsSideBySide)
@@ -250,5 +252,13 @@ TEST_P(UnitsDialogLanguages, SetsTheTwoUnitsSideBySide)
 
 INSTANTIATE_TEST_SUITE_P(Languages, UnitsDialogLanguages, testing::Values(KZLanguage::English, KZLanguage::Spanish),
                          LanguageName);
+
+TEST_F(UnitsDialog, LeavesNoWindowMenuOrGdiObjectBehind)
+{
+    Run([] {});
+    const auto before = kztest::CountGuiResources();
+    Run([] {});
+    EXPECT_EQ(kztest::CountGuiResources(), before);
+}
 
 }  // namespace
