@@ -15,6 +15,7 @@ desktop_start() {
   # A session left over draws on a display that is gone.
   wine_stop
   unset WAYLAND_DISPLAY XAUTHORITY
+  export LC_ALL=C.UTF-8
   Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3> "$desktop_folder/display" > /dev/null 2>&1 &
   desktop_xvfb=$!
   trap desktop_end EXIT
@@ -48,17 +49,17 @@ desktop_wine() {
 
 probe() { desktop_wine "$desktop_probe" "$@"; }
 
-# editor ARGUMENT...: starts the editor; editor_result waits for its end, prints what it wrote and returns its exit status.
+# editor ARGUMENT...: starts the editor; editor_end waits until it has ended and stores what it wrote and its exit status.
+# Not to be called in a subshell, which could not wait for it.
 editor() {
   timeout 300 "${wine_pin[@]}" wine "$desktop_bin/KZEditor.exe" "$@" < /dev/null > "$desktop_folder/editor" 2> "$desktop_folder/editor.err" &
   desktop_editor=$!
 }
-editor_result() {
-  local status=0
-  wait "$desktop_editor" || status=$?
-  cat "$desktop_folder/editor"
+editor_end() {
+  editor_status=0
+  wait "$desktop_editor" || editor_status=$?
+  editor_output=$(cat "$desktop_folder/editor")
   cat "$desktop_folder/editor.err" >&2
-  return "$status"
 }
 
 # The windows are named by a part of their title, the controls by their id; "" is the window that takes input now.

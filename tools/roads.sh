@@ -2,20 +2,28 @@
 # To be sourced after desktop.sh. What a user does on the roads through the module, one function per action, for the tour and
 # the end-to-end tests. Controls are named by their ids, so the actions are the same in each language.
 
-# The editor's main window
-main_title='KZEditor'
+# The editor's main window, whose title ends with the name of the project's folder, and its message boxes
+main_title=' plant'
+message_title='=KZEditor'
 id_options=1001
 id_select=1002
 id_save=1004
 id_devices=1011
 id_chosen=1013
+id_pane_label=1014
 
-# The buttons of every dialog
+# The buttons of every dialog and message
 id_ok=1
 id_cancel=2
+id_yes=6
+id_no=7
+id_message_text=65535
 
-# The options hub: the first of its section buttons
-id_section=1200
+# The options hub's section buttons
+id_section_driver=1200
+id_section_device=1201
+id_section_limits=1202
+id_section_units=1203
 
 # The select-variables dialog. Boxes are first id + row + rows * phase.
 id_select_tab=6697
@@ -29,19 +37,42 @@ id_harmonic_caption=7206
 id_harmonic_net_box=7236
 id_harmonic_load_box=7288
 
+# The device settings; filter n is harmonic 2n + 3
+id_minimum_current=5062
+id_number_of_units=5077
+id_filter=8098
+
+# The units dialog
+id_apparent_plain=8027
+id_apparent_three_decimals=8071
+
+# The limits dialog; harmonic rows are first id + row
+id_limits_tab=5150
+id_active_power_outer=5406
+id_harmonic_outer=5534
+
 open_editor() {
   editor --project "$@"
   window "$main_title"
   until_control "$main_title" $id_devices ITEMS=6
 }
 
-# choose_device ROW
-choose_device() { click "$main_title" $id_devices "$1"; }
+# choose_device ROW NAME: with the mouse
+choose_device() {
+  click "$main_title" $id_devices "$1"
+  until_control "$main_title" $id_pane_label "TEXT=$2"
+}
 
 # open_selection NAME: with the mouse; the dialog's title ends with the device's name
 open_selection() {
   click "$main_title" $id_select
   window " - $1"
+}
+
+# open_section ID CONTROL: presses a section button of the hub and waits for a control of the section's dialog
+open_section() {
+  click ' - ' "$1"
+  until_control '' "$2" shown
 }
 
 # check_box TITLE ID: with the mouse; it must be clear before and checked after
@@ -51,9 +82,39 @@ check_box() {
   until_control "$1" "$2" checked
 }
 
-show_tab() { click "$1" $id_select_tab "$2"; }
+# show_tab TITLE TAB_ID INDEX CONTROL: with the mouse, until the control of its page is shown
+show_tab() {
+  click "$1" "$2" "$3"
+  until_control "$1" "$4" shown
+}
 
-# close_dialog TITLE ID: presses the button and waits until the dialog is gone and the main window takes input again
+# tab_to TITLE ID: presses Tab until the control has the focus
+tab_to() {
+  local _
+  for _ in $(seq 60); do
+    if [ "$(probe focus)" = "$2" ]; then return; fi
+    key Tab
+  done
+  desktop_die "Tab does not reach control $2 of \"$1\""
+}
+
+# fill ID TEXT: puts the text into an edit box of the dialog that takes input
+fill() {
+  click '' "$1"
+  until_control '' "$1" focused
+  key Home shift+End
+  type_text "$2"
+  until_control '' "$1" "VALUE=$2"
+}
+
+# answer BUTTON_ID [TEXT]: presses the button of the message box; its text must contain TEXT
+answer() {
+  if [ $# -gt 1 ]; then until_control "$message_title" $id_message_text "TEXT=$2"; fi
+  click "$message_title" "$1"
+  window_gone "$message_title"
+}
+
+# close_dialog TITLE ID: presses the button and waits until no window of that title is left
 close_dialog() {
   click "$1" "$2"
   window_gone "$1"
@@ -67,5 +128,6 @@ save_project() {
 
 close_editor() {
   key alt+F4
-  editor_result
+  editor_end
+  [ "$editor_status" = 0 ] || desktop_die "the editor ended with $editor_status"
 }

@@ -7,6 +7,8 @@ set -euo pipefail
 program=$(realpath "$1")
 shift
 wine_use "${KZ_TEST_DPI:-96}"
+# Never the user's own locale, which would change numbers and messages.
+export LC_ALL=C.UTF-8
 if [ -n "${KZ_TEST_LOCALE:-}" ]; then wine_locale "$KZ_TEST_LOCALE"; fi
 bin=$(dirname "$(dirname "$program")")/bin
 WINEPATH=$(wine_path "$bin")

@@ -11,7 +11,7 @@ desktop_probe=$build/tools/WindowProbe.exe
 . "$root/tests/e2e/selection.sh"
 . "$root/tests/e2e/options.sh"
 
-project=$desktop_folder/project
+project=$desktop_folder/plant
 
 # equal WHAT FOUND WANTED
 equal() {
@@ -29,6 +29,25 @@ for selection in tree.parse(sys.argv[1]).iter("selection"):
     if selection.findtext("driverId") == sys.argv[2]:
         print(selection.findtext("variables") or "")
 END
+}
+
+# record SECTION DRIVER_ID ELEMENT: the element's texts in the device's record in a section of main.xml, on one line
+record() {
+  python3 - "$project/main.xml" "$@" <<'END'
+import sys, xml.etree.ElementTree as tree
+document, section, driver, element = sys.argv[1:]
+for record in tree.parse(document).find(section):
+    if record.findtext("driverId") == driver:
+        print(*(found.text for found in record.iter(element)))
+END
+}
+
+# command_result STATUS LINE...: the editor, run with a command, ended so and printed these lines
+command_result() {
+  editor_end
+  equal 'the exit status' "$editor_status" "$1"
+  shift
+  equal 'the output' "$editor_output" "$(lines "$@")"
 }
 
 # lines WORD...

@@ -6,14 +6,19 @@
 //   WindowProbe gone TITLE               until no such window is shown
 //   WindowProbe point TITLE ID [ITEM]    the middle of a control, or of its tab or row ITEM, in screen coordinates
 //   WindowProbe text TITLE ID            the control's text
-//   WindowProbe until TITLE ID STATE     until the control is checked, unchecked, enabled, disabled, focused; holds
-//                                        ITEMS=n rows (list view, list box); or has TEXT=… in its text
+//   WindowProbe focus                    the id of the control that has the focus
+//   WindowProbe until TITLE ID STATE     until the control is shown, checked, unchecked, enabled, disabled or
+//                                        focused; holds ITEMS=n rows (list view, list box); has TEXT=… in its text;
+//                                        or has VALUE=… as its whole text
 //
-// TITLE "" is the window that takes input now. Of several controls with the id, the one that is shown counts. Every
-// wait ends after LimitMs with exit status 1 and the list of windows on standard error.
+// TITLE "" is the window that takes input now, "=TITLE" one with exactly that title. Of several controls with the id,
+// the one that is shown counts. Every wait ends after LimitMs with exit status 1 and the list of windows on standard
+// error.
 #include <windows.h>
 
 #include <commctrl.h>
+#include <fcntl.h>
+#include <io.h>
 
 #include <cstdio>
 #include <functional>
@@ -68,11 +73,18 @@ std::vector<HWND> TopLevelWindows()
     return windows;
 }
 
+bool HasTitle(HWND window, std::wstring_view title)
+{
+    const std::wstring caption = TextOf(window);
+    if (title.starts_with(L'='))
+        return caption == title.substr(1);
+    return !caption.empty() && caption.find(title) != std::wstring::npos;
+}
+
 HWND FindTopLevel(const std::wstring& title, bool enabledOnly)
 {
     for (HWND window : TopLevelWindows()) {
-        const std::wstring caption = TextOf(window);
-        if (!caption.empty() && caption.find(title) != std::wstring::npos && (!enabledOnly || IsWindowEnabled(window)))
+        if (HasTitle(window, title) && (!enabledOnly || IsWindowEnabled(window)))
             return window;
     }
     return nullptr;
@@ -92,7 +104,8 @@ HWND FindControl(const std::wstring& title, int id)
             top,
             [](HWND window, LPARAM data) -> BOOL {
                 auto& wanted = *reinterpret_cast<ControlSearch*>(data);
-                if (GetDlgCtrlID(window) == wanted.id && IsWindowVisible(window))
+                // Ids are words: the text of a message box has 0xFFFF, which is -1 as an int.
+                if (LOWORD(GetDlgCtrlID(window)) == wanted.id && IsWindowVisible(window))
                     wanted.found = window;
                 return wanted.found == nullptr;
             },
@@ -110,6 +123,16 @@ void PrintWindows(std::FILE* file)
                      rect.bottom - rect.top, IsWindowEnabled(window) ? "enabled" : "disabled",
                      Utf8(TextOf(window)).c_str());
     }
+}
+
+int PrintFocus()
+{
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    if (!GetGUIThreadInfo(GetWindowThreadProcessId(GetForegroundWindow(), nullptr), &info) || info.hwndFocus == nullptr)
+        return 1;
+    std::printf("%d\n", LOWORD(GetDlgCtrlID(info.hwndFocus)));
+    return 0;
 }
 
 bool HasFocus(HWND control)
@@ -135,12 +158,16 @@ std::function<bool(HWND)> StateTest(const std::wstring& state)
     }
     if (state == L"enabled" || state == L"disabled")
         return [wanted = state == L"enabled"](HWND control) { return (IsWindowEnabled(control) != FALSE) == wanted; };
+    if (state == L"shown")
+        return [](HWND) { return true; };  // a hidden control is not found
     if (state == L"focused")
         return HasFocus;
     if (state.starts_with(L"ITEMS="))
         return [wanted = std::stoi(state.substr(6))](HWND control) { return ItemCount(control) == wanted; };
     if (state.starts_with(L"TEXT="))
         return [wanted = state.substr(5)](HWND control) { return TextOf(control).find(wanted) != std::wstring::npos; };
+    if (state.starts_with(L"VALUE="))
+        return [wanted = state.substr(6)](HWND control) { return TextOf(control) == wanted; };
     throw std::invalid_argument("unknown state " + Utf8(state));
 }
 
@@ -179,6 +206,8 @@ int Run(const std::vector<std::wstring>& arguments)
         PrintWindows(stdout);
         return 0;
     }
+    if (verb == L"focus")
+        return PrintFocus();
     const std::wstring& title = arguments.at(1);
     if (verb == L"wait")
         return WaitFor([&] { return FindTopLevel(title, true) != nullptr; });
@@ -208,6 +237,7 @@ int Run(const std::vector<std::wstring>& arguments)
 
 int wmain(int argc, wchar_t** argv)
 {
+    _setmode(_fileno(stdout), _O_BINARY);  // scripts want plain line ends
     try {
         return Run({argv + 1, argv + argc});
     } catch (const std::exception& error) {
