@@ -48,7 +48,6 @@ void ControlMover::Add(const DialogMetrics& dialog, HWND window, ControlKind kin
 
 void ControlMover::Apply() noexcept
 {
-    HWND lastParent = nullptr;
     for (const Move& move : m_moves) {
         if (move.sameSize)
             MoveTo(move.window, move.place, 0, MoveFlags | SWP_NOSIZE);
@@ -56,9 +55,18 @@ void ControlMover::Apply() noexcept
             ResizeDropList(move.window, move.place);
         else
             MoveTo(move.window, move.place, move.place.bottom - move.place.top, MoveFlags);
-        if (move.parent != lastParent && IsWindowVisible(move.parent))
-            RedrawWindow(move.parent, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-        lastParent = move.parent;
     }
+    RedrawParents();
     m_moves.clear();
+}
+
+// Controls of one dialog mostly follow each other, so hardly a dialog is drawn twice.
+void ControlMover::RedrawParents() const noexcept
+{
+    HWND last = nullptr;
+    for (const Move& move : m_moves) {
+        if (move.parent != last && IsWindowVisible(move.parent))
+            RedrawWindow(move.parent, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        last = move.parent;
+    }
 }

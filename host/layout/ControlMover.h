@@ -14,6 +14,8 @@ public:
     void Apply() noexcept;
 
 private:
+    void RedrawParents() const noexcept;
+
     struct Move {
         HWND parent;
         HWND window;

@@ -199,6 +199,22 @@ TEST(Layout, DoesNotTouchAControlThatIsInItsPlace)
     EXPECT_GE(g_moves, 2);
 }
 
+TEST(Layout, HasEverythingDrawnAnewAfterMovingInAVisibleDialog)
+{
+    TestDialog dialog{Push(1), Push(2), Push(3)};
+    ::ShowWindow(dialog.Window()->m_hWnd, SW_SHOW);
+    ::RedrawWindow(dialog.Window()->m_hWnd, nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN);
+    KZHoritzontalLayout row(dialog.Window());
+    for (const int id : {1, 2, 3})
+        row.AddControl(id, 1);
+    LayOutRow(row, 300);
+    for (const int id : {1, 2, 3}) {
+        CRect update;
+        ::GetUpdateRect(dialog.Item(id), &update, FALSE);
+        EXPECT_EQ(update, CRect(0, 0, 100, 40)) << "control " << id;
+    }
+}
+
 TEST(Layout, CodesPixelsAsNegativeSizes)
 {
     EXPECT_EQ(KZLayout::Pixels2Size(12), CSize(-12, -12));
