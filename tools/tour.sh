@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # The guided tour: opens the editor on a copy of examples/plant on a private virtual display, walks the roads through the
-# module with real clicks and keys, and leaves one picture per step under build/tour. A step that does not come true ends it.
+# module with real clicks and keys, leaves one picture per step under build/tour, and prints what the roads have produced.
+# A step that does not come true ends it with an error.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 desktop_bin=$root/build/windows/bin
@@ -9,41 +10,128 @@ desktop_probe=$root/build/windows/tools/WindowProbe.exe
 . "$root/tools/roads.sh"
 
 tour=$root/build/tour
-project=$tour/project
-dialog=' - TREN1'
+project=$tour/plant
+device=TREN1
+dialog=" - $device"
 
-# One row per step: its function, which is also the picture's name, and what is to be seen.
+# One row per step: the function that takes it, which also names the picture, and what the picture shows.
 steps=(
-  "open_plant            The editor lists the plant's devices"
-  "choose_filter         A filter is chosen: its options are embedded in the window"
-  "open_select           Select variables: those chosen earlier are checked and disabled"
-  "pick_general          General: single boxes of voltage and current"
-  "pick_power            Power: a whole row of the load side with one button"
-  "pick_harmonics        Harmonics, with the keyboard: the fifth order on the net side"
-  "accept_selection      OK: the new variables are in the list"
-  "open_hub              The options hub of the filter"
-  "save_plant            Saved"
+  "plant             The editor with the devices of the plant; the options of the chosen one are embedded"
+  "selection         Select variables: what was chosen earlier is checked and disabled"
+  "single_boxes      General page: frequency and a current, box by box"
+  "whole_row         Power page: one button takes the whole row of the load side"
+  "by_keyboard       Harmonics page, by keyboard: Tab to the fifth harmonic and Space"
+  "chosen            OK: the new variables are in the list of the device"
+  "hub               The options hub"
+  "settings          Device settings: another minimum current, one more filtered harmonic"
+  "confirmation      OK asks before it writes"
+  "units             Units: plain watts with three decimals"
+  "limits            Limits of the powers: an outer limit beyond the range is refused"
+  "harmonic_limits   Limits of the harmonics of the net side"
+  "saved             Back in the main window; everything is saved"
+  "maximum           Asked for two variables at most, the dialog refuses the third"
+  "spanish           The same dialog in Spanish"
 )
 
-open_plant() { open_editor "$project"; }
-choose_filter() {
-  choose_device 0
-  until_control "$main_title" $id_select enabled
-}
-open_select() { open_selection TREN1; }
-pick_general() {
-  check_box "$dialog" $((id_general_net_box + 4))
+step_plant() { open_editor "$project"; }
+step_selection() { open_selection $device; }
+step_single_boxes() {
+  check_box "$dialog" $((id_general_net_box + 1))
   check_box "$dialog" $((id_general_net_box + 2))
 }
-pick_power() {
-  show_tab "$dialog" 1
-  until_control "$dialog" $((id_power_net_box)) enabled
+step_whole_row() {
+  show_tab "$dialog" $id_select_tab 1 $id_power_load_row
   click "$dialog" $id_power_load_row
+  until_control "$dialog" $((id_power_load_box + 8)) checked
 }
-pick_harmonics() { show_tab "$dialog" 2; }
-accept_selection() { close_dialog "$dialog" $id_ok; }
-open_hub() { click "$main_title" $id_options; }
-save_plant() { save_project; }
+step_by_keyboard() {
+  show_tab "$dialog" $id_select_tab 2 $id_harmonic_caption
+  tab_to "$dialog" $((id_harmonic_net_box + 2))
+  key space
+  until_control "$dialog" $((id_harmonic_net_box + 2)) checked
+}
+step_chosen() {
+  close_dialog "$dialog" $id_ok
+  until_control "$main_title" $id_chosen ITEMS=11
+}
+step_hub() {
+  click "$main_title" $id_options
+  window "$dialog"
+}
+step_settings() {
+  open_section $id_section_device $id_minimum_current
+  fill $id_minimum_current 150
+  check_box '' $((id_filter + 3))
+}
+step_confirmation() {
+  click '' $id_ok
+  until_control "$message_title" $id_yes shown
+}
+step_units() {
+  answer $id_yes
+  window "$dialog"
+  open_section $id_section_units $id_apparent_three_decimals
+  click '' $id_apparent_plain
+  click '' $id_apparent_three_decimals
+  until_control '' $id_apparent_three_decimals checked
+}
+step_limits() {
+  click '' $id_ok
+  window "$dialog"
+  open_section $id_section_limits $id_limits_tab
+  fill $id_active_power_outer 2000
+  click '' $id_ok
+  window "$message_title"
+}
+step_harmonic_limits() {
+  answer $id_ok
+  fill $id_active_power_outer 97
+  show_tab '' $id_limits_tab 1 $id_harmonic_outer
+}
+step_saved() {
+  click '' $id_ok
+  window "$dialog"
+  close_dialog "$dialog" $id_ok
+  save_project
+}
+step_maximum() {
+  close_editor
+  printed 'The exit status of the window' "$editor_status"
+  open_command PINTURA select PINTURA --max 2
+  click ' - PINTURA' $id_general_net_box
+  click ' - PINTURA' $((id_general_net_box + 1))
+  click ' - PINTURA' $((id_general_net_box + 2))
+  window "$message_title"
+}
+step_spanish() {
+  answer $id_ok
+  click ' - PINTURA' $id_ok
+  editor_end
+  printed 'select PINTURA --max 2' "$editor_output"
+  open_command PINTURA --language es select PINTURA
+}
+
+# open_command NAME ARGUMENT...: runs a command of the editor, which opens a dialog with the device's name in its title
+open_command() {
+  editor --project "$project" "${@:2}"
+  window " - $1"
+}
+
+results=''
+printed() { results+="$1: ${2//$'\n'/, }"$'\n'; }
+
+finish() {
+  key Escape
+  editor_end
+  printf '\n%s' "$results"
+  printf '\nThe variables of %s, as main.xml has them:\n' $device
+  sed -n "/<variables>$device/,/<\/variables>/p" "$project/main.xml" | sed 's/<[^>]*>//g; s/^ */  /'
+  printf '\nWhat changed in the documents of the plant:\n'
+  local changes
+  changes=$(diff -r -U0 "$root/examples/plant" "$project" || true)
+  [ -n "$changes" ] || desktop_die "nothing was saved"
+  grep -E '^[-+]([^-+]|$)' <<< "$changes"
+}
 
 rm -rf "$tour"
 mkdir -p "$tour"
@@ -51,10 +139,11 @@ cp -r "$root/examples/plant" "$project"
 desktop_start
 number=0
 for step in "${steps[@]}"; do
-  read -r action caption <<< "$step"
+  read -r name caption <<< "$step"
   number=$((number + 1))
   printf '%2d  %s\n' "$number" "$caption"
-  "$action"
-  picture "$(printf '%s/%02d-%s.png' "$tour" "$number" "$action")"
+  "step_$name"
+  picture "$(printf '%s/%02d-%s.png' "$tour" "$number" "$name")"
 done
-close_editor
+finish
+echo "The pictures are in build/tour"
