@@ -1,6 +1,7 @@
 // CWinThread, CWinApp and the functions of the running application. Part of afxwin.h.
 //
 // Differences from MFC: one CWinThread exists, the application's; no documents, command line parsing, profiles or help.
+// Should a program make a second CWinApp, it takes the first one's place until it is destroyed.
 // A program calls AfxWinMain, or AfxWinInit and what it needs of the object. m_pMainWnd is set by the program.
 #pragma once
 
@@ -47,6 +48,9 @@ public:
     virtual int DoMessageBox(LPCWSTR lpszPrompt, UINT nType, UINT nIDPrompt);
     [[nodiscard]] HICON LoadIcon(UINT nIDResource) const;
     [[nodiscard]] HCURSOR LoadCursor(UINT nIDResource) const;
+
+private:
+    CWinApp* m_pEarlier;
 };
 
 [[nodiscard]] KZMFC_API CWinApp* AFXAPI AfxGetApp() noexcept;

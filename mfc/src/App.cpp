@@ -189,7 +189,7 @@ LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg)
     }
 }
 
-CWinApp::CWinApp(LPCWSTR lpszAppName) noexcept : m_pszAppName(lpszAppName)
+CWinApp::CWinApp(LPCWSTR lpszAppName) noexcept : m_pszAppName(lpszAppName), m_pEarlier(theApplication)
 {
     theApplication = this;
 }
@@ -197,7 +197,7 @@ CWinApp::CWinApp(LPCWSTR lpszAppName) noexcept : m_pszAppName(lpszAppName)
 CWinApp::~CWinApp()
 {
     if (theApplication == this)
-        theApplication = nullptr;
+        theApplication = m_pEarlier;
 }
 
 HICON CWinApp::LoadIcon(UINT nIDResource) const

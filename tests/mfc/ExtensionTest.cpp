@@ -97,23 +97,20 @@ TEST(Extension, CanBeLoadedAndFreedManyTimes)
 TEST(ResourceChain, SearchesTheNewestLibraryFirstAndSystemLibrariesLast)
 {
     const Library library;
-    // Two entries for the same module, one of them a system library: only the order tells them apart.
-    AFX_EXTENSION_MODULE commonDialogs{};
-    ASSERT_TRUE(AfxInitExtensionModule(commonDialogs, ::LoadLibraryW(L"mfc_test_extension.dll")));
-    commonDialogs.hResource = program;
+    // A second entry of the chain that has the program's resources.
+    AFX_EXTENSION_MODULE second{TRUE, program, program, nullptr, nullptr};
     AfxSetResourceHandle(::GetModuleHandleW(L"KZMfc.dll"));
     EXPECT_EQ(DialogModule(IDD_SHADOWED), library.Module());
     {
-        const CDynLinkLibrary newest(commonDialogs);
+        const CDynLinkLibrary newest(second);
         EXPECT_EQ(DialogModule(IDD_SHADOWED), program);
     }
     {
-        const CDynLinkLibrary system(commonDialogs, TRUE);
+        const CDynLinkLibrary system(second, TRUE);
         EXPECT_EQ(DialogModule(IDD_SHADOWED), library.Module());
         EXPECT_EQ(DialogModule(IDD_CONTROLS), program);
     }
     AfxSetResourceHandle(program);
-    ::FreeLibrary(library.Module());
 }
 
 }  // namespace

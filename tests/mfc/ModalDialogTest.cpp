@@ -200,4 +200,27 @@ TEST(ModalDialog, EndsWithMinusOneWhenItsInitialisationThrows)
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
+TEST(ModalDialog, EndsWithMinusOneWhenItsMessageLoopThrows)
+{
+    class ThrowingDialog : public TestDialog {
+    public:
+        using TestDialog::TestDialog;
+        BOOL PreTranslateMessage(MSG* message) override
+        {
+            if (message->message == WM_KEYDOWN)
+                throw std::runtime_error("key");
+            return TestDialog::PreTranslateMessage(message);
+        }
+    };
+    const MessageCollector collector;
+    TestDialog owner;
+    owner.Open();
+    ThrowingDialog dialog(&owner);
+    const ModalScript script([] { kztest::PressKey(WaitForDialog(), VK_F9); });
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(collector.Texts(), std::vector<std::wstring>{L"key"});
+}
+
 }  // namespace
