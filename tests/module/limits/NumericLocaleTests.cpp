@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <cwchar>
 #include <stdexcept>
 #include <string>
@@ -57,6 +58,16 @@ TEST(NumericLocale, LetsTheLibraryUnderstandTheUsersSeparator)
     const NumericLocale locale;
     const std::wstring separator(1, static_cast<wchar_t>(*std::localeconv()->decimal_point));
     EXPECT_EQ(std::wcstod((L"1" + separator + L"5").c_str(), nullptr), 1.5);
+}
+
+TEST(NumericLocale, HasACommaForASpanishUser)
+{
+    const char* user = std::getenv("KZ_TEST_LOCALE");
+    if (!user || std::string(user) != "es_ES")
+        GTEST_SKIP() << "the user is not Spanish";
+    const NumericLocale locale;
+    EXPECT_STREQ(std::localeconv()->decimal_point, ",");
+    EXPECT_EQ(std::wcstod(L"1,5", nullptr), 1.5);
 }
 
 }  // namespace

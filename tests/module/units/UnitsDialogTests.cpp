@@ -127,6 +127,33 @@ TEST_F(UnitsDialog, EndsOkWithoutAChangeAsCancelAndWritesNothing)
     EXPECT_FALSE(Plant::IsDirty());
 }
 
+TEST_F(UnitsDialog, MeasuresAChangeAgainstWhatWasStored)
+{
+    const auto stored = SetupWith("<unit><name>AP-VA</name><decimals>3</decimals><factor>3</factor></unit>"
+                                  "<unit><name>RP</name><decimals>0</decimals><factor>3</factor></unit>");
+    Plant::Configure(stored);
+    EXPECT_EQ(RunAndPressOk([] {}), IDCANCEL);
+    EXPECT_FALSE(Plant::IsDirty());
+    EXPECT_EQ(RunAndPressOk([&] {
+                  Click(ApparentDecimals[1]);
+                  Click(ApparentUnits[1]);
+                  Click(ReactiveDecimals[1]);
+                  Click(ReactiveUnits[1]);
+              }),
+              IDOK);
+    EXPECT_EQ(Stored(L"AP-VA", L"decimals"), L"1");
+    EXPECT_EQ(Stored(L"RP", L"factor"), L"0");
+}
+
+// No radio is checked then, which is not the value that was read.
+TEST_F(UnitsDialog, CountsDecimalsThatItDoesNotOfferAsAChange)
+{
+    Plant::Configure(SetupWith("<unit><name>AP-VA</name><decimals>7</decimals></unit>"));
+    EXPECT_EQ(RunAndPressOk([] {}), IDOK);
+    EXPECT_EQ(Stored(L"AP-VA", L"decimals"), L"-1");
+    EXPECT_EQ(RunAndPressOk([] {}), IDCANCEL);
+}
+
 TEST_F(UnitsDialog, WritesBothUnitsAfterAChangeInOne)
 {
     EXPECT_EQ(RunAndPressOk([&] { Click(ReactiveUnits[0]); }), IDOK);
