@@ -18,12 +18,12 @@ namespace {
 // The values as they were typed; they get their meaning when all of them are there.
 struct RawArguments {
     std::string project = ".";
-    std::string language;
+    std::optional<std::string> language;
     std::string device;
-    std::string groups;
+    std::optional<std::string> groups;
     std::string maxVariables = "0";
     std::vector<std::string> list;
-    std::string text;
+    std::optional<std::string> text;
     std::string stringId;
 };
 
@@ -65,7 +65,6 @@ struct Syntax {
                  "window.",
                  "KZEditor.exe"};
     RawArguments raw;
-    CLI::Option* text = nullptr;
 
     Syntax();
     CLI::App* AddDeviceCommand(const char* name, const char* description);
@@ -97,7 +96,7 @@ Syntax::Syntax()
     select->add_option("--max", raw.maxVariables, "The most variables to choose, 0 for no limit");
     select->add_option("--list", raw.list, "Full names that are chosen already, with commas between them")
         ->delimiter(',');
-    text = select->add_option("--text", raw.text, "The caller's words for the request");
+    select->add_option("--text", raw.text, "The caller's words for the request");
 }
 
 Command CommandNamed(const std::string& name)
@@ -118,18 +117,18 @@ Arguments Interpret(const Syntax& syntax)
     for (const CLI::App* command : syntax.app.get_subcommands())
         arguments.command = CommandNamed(command->get_name());
     arguments.project = FromUtf8(raw.project);
-    if (!raw.language.empty())
-        arguments.language = ParseLanguage(raw.language);
+    if (raw.language)
+        arguments.language = ParseLanguage(*raw.language);
     arguments.device = FromUtf8(raw.device);
-    if (!raw.groups.empty())
-        arguments.groups = ParseGroups(raw.groups);
+    if (raw.groups)
+        arguments.groups = ParseGroups(*raw.groups);
     arguments.maxVariables = ParseInteger("--max", raw.maxVariables, 0, std::numeric_limits<int>::max());
     for (const std::string& name : raw.list) {
         if (!name.empty())
             arguments.variables.emplace_back(FromUtf8(name));
     }
-    if (syntax.text->count() > 0)
-        arguments.text = FromUtf8(raw.text);
+    if (raw.text)
+        arguments.text = FromUtf8(*raw.text);
     if (arguments.command == Command::String)
         arguments.stringId = static_cast<unsigned>(ParseInteger("ID", raw.stringId, 1, 65535));
     return arguments;

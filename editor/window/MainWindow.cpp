@@ -80,7 +80,7 @@ BOOL MainWindow::OnInitDialog()
     m_devices.Fill(::GetDlgItem(m_hWnd, IDC_DEVICES), m_project, m_modules);
     m_devices.Select(0);
     ShowDevice();
-    SetDlgItemText(IDC_MODULES, ModuleSummary(m_modules).c_str());
+    ShowModules();
     GotoDlgCtrl(GetDlgItem(IDC_DEVICES));
     return FALSE;  // the focus is where it should be
 }
@@ -133,6 +133,13 @@ void MainWindow::ShowDevice()
         m_pane.ShowText(status.reason + L"\n" + status.remedy);
     }
     ShowState();
+}
+
+void MainWindow::ShowModules()
+{
+    constexpr std::size_t visibleLines = 2;
+    SetDlgItemText(IDC_MODULES, ModuleSummary(m_modules).c_str());
+    ::ShowScrollBar(::GetDlgItem(m_hWnd, IDC_MODULES), SB_VERT, m_modules.Modules().size() > visibleLines);
 }
 
 void MainWindow::ShowChosenVariables()

@@ -65,6 +65,7 @@ private:
     void AddMenu();
     void SetTexts();
     void ShowDevice();
+    void ShowModules();
     void ShowChosenVariables();
     void ShowState();
     [[nodiscard]] const Device* SelectedDevice() const;

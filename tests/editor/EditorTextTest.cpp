@@ -64,6 +64,20 @@ TEST(EditorTexts, KeepTheirAccents)
     EXPECT_EQ(EditorText(IDS_BUTTON_OPTIONS, KZLanguage::English), L"&Options…");
 }
 
+TEST(EditorTexts, OfTheMenuComeInTheChosenLanguage)
+{
+    for (const KZLanguage language : languages) {
+        KZQuorvelantaSetup::Get()->SetLanguage(language);
+        const HMENU menu = LoadEditorMenu(IDM_MAIN);
+        wchar_t text[64] = L"";
+        ::GetMenuStringW(menu, 0, text, 64, MF_BYPOSITION);
+        EXPECT_STREQ(text, language == KZLanguage::Spanish ? L"&Archivo" : L"&File");
+        ::DestroyMenu(menu);
+    }
+    KZQuorvelantaSetup::Get()->SetLanguage(KZLanguage::English);
+    EXPECT_EQ(LoadEditorMenu(IDD_MAIN), nullptr);
+}
+
 TEST(EditorTexts, OfTheMainWindowsControlsHaveMnemonicsOfTheirOwn)
 {
     for (const KZLanguage language : languages) {

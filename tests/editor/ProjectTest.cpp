@@ -56,7 +56,7 @@ TEST_F(ProjectTest, ListsItsDevicesInTheDocumentsOrder)
 
 TEST_F(ProjectTest, IsCalledAfterItsFolder)
 {
-    m_folder.Write("Planta Ñ/main.xml", MainXml(""));
+    m_folder.Write(L"Planta Ñ/main.xml", MainXml(""));
     EXPECT_EQ(Project(m_folder.Path() / L"Planta Ñ").Name(), L"Planta Ñ");
     EXPECT_EQ(Project(m_folder.Path() / L"Planta Ñ/").Name(), L"Planta Ñ");
     EXPECT_EQ(Project(m_folder.Path() / L"Planta Ñ/./x/..").Name(), L"Planta Ñ");
