@@ -74,8 +74,8 @@ INSTANTIATE_TEST_SUITE_P(Points, LayoutFont, testing::Values(8, 10, 16));
 
 TEST(LayoutSizes, AreScaledAsTheDialogsFontIs)
 {
-    TestDialog small({}, 8);
-    TestDialog large({}, 16);
+    TestDialog small({}, 8, L"Tahoma");
+    TestDialog large({}, 16, L"Tahoma");
     EXPECT_GT(large.Y(8), small.Y(8) * 3 / 2);
 }
 
