@@ -1,5 +1,8 @@
 #include "CDlgOptionsZEP.h"
 
+#include "CDlgLimitsZEP.h"
+#include "CDlgUnitsZEP.h"
+#include "KZDeviceCfgZEP.h"
 #include "KZQuorvelantaSetup.h"
 
 BEGIN_MESSAGE_MAP(CDlgOptionsZEP, KZDlgOptions)
@@ -14,4 +17,23 @@ BOOL CDlgOptionsZEP::OnInitDialog()
     KZDlgOptions::OnInitDialog();
     SetButtonImage(KZSectionDevice, KZQuorvelantaSetup::Get()->getImageFilePath() + L"ZEP-50.png");
     return TRUE;
+}
+
+bool CDlgOptionsZEP::SetupDevice(XmlDocument::XmlNode* node)
+{
+    KZDeviceCfgZEP dialog(this, Driver(), node);
+    return dialog.DoModal() == IDOK;
+}
+
+bool CDlgOptionsZEP::SetupLimits(XmlDocument::XmlNode* node)
+{
+    CDlgLimitsZEP dialog(this, node);
+    dialog.SetDriver(Driver());
+    return dialog.DoModal() == IDOK;
+}
+
+bool CDlgOptionsZEP::SetupUnits()
+{
+    CDlgUnitsZEP dialog(this, Driver());
+    return dialog.DoModal() == IDOK;
 }

@@ -14,5 +14,10 @@ public:
 protected:
     BOOL OnInitDialog() override;
 
+    // Each runs its section's dialog and answers whether it ended with OK.
+    bool SetupDevice(XmlDocument::XmlNode* node) override;
+    bool SetupLimits(XmlDocument::XmlNode* node) override;
+    bool SetupUnits() override;
+
     DECLARE_MESSAGE_MAP()
 };

@@ -1,0 +1,240 @@
+// The module as the host sees it: a DLL that is attached, registered, called and detached.
+#include <afxwin.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <list>
+#include <set>
+
+#include "Controls.h"
+#include "ImportPatch.h"
+#include "KZDlgOptions.h"
+#include "KZDriverDeviceZEP.h"
+#include "KZDriverServices.h"
+#include "KZLoadString.h"
+#include "KZStringIds.h"
+#include "MessageTexts.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using Entry = bool (*)();
+
+const CRuntimeClass* ZepClass()
+{
+    return KZDriverDeviceZEP::GetThisClass();
+}
+
+// The module, loaded for one test.
+class LoadedModule {
+public:
+    LoadedModule() : m_module(::LoadLibraryW(L"KZUsrZEP.dll")) {}
+    ~LoadedModule()
+    {
+        KZDriverServices::Remove(ZepClass());
+        ::FreeLibrary(m_module);
+    }
+    LoadedModule(const LoadedModule&) = delete;
+    LoadedModule& operator=(const LoadedModule&) = delete;
+
+    [[nodiscard]] HMODULE Handle() const noexcept { return m_module; }
+    [[nodiscard]] bool Initialize() const
+    {
+        const auto entry =
+            reinterpret_cast<Entry>(reinterpret_cast<void*>(::GetProcAddress(m_module, "InitializeUsrDriver_ZEP")));
+        return entry && entry();
+    }
+
+private:
+    HMODULE m_module;
+};
+
+class DriverModule : public testing::Test {
+protected:
+    [[nodiscard]] bool Select(unsigned long long groups, const wchar_t* text = nullptr)
+    {
+        return KZDriverServices::Find(ZepClass())
+            ->selectVariables(nullptr, &m_device, m_names, KZVariableGroups(groups), 0, text);
+    }
+
+    LoadedModule m_module;
+    KZDriverDeviceZEP m_device{{L"zep-1", L"DEV1", 1, L"ZEP", L"", KZVariableGroups(0x74)}};
+    std::list<KZBasicString> m_names;
+};
+
+// Ends every dialog that opens on this thread with a command, and counts them.
+class NextDialog {
+public:
+    explicit NextDialog(WPARAM command)
+    {
+        s_command = command;
+        s_seen.clear();
+        m_hook = ::SetWindowsHookExW(WH_CBT, Hook, nullptr, ::GetCurrentThreadId());
+    }
+    ~NextDialog() { ::UnhookWindowsHookEx(m_hook); }
+    NextDialog(const NextDialog&) = delete;
+    NextDialog& operator=(const NextDialog&) = delete;
+
+    [[nodiscard]] static std::size_t Count() { return s_seen.size(); }
+
+private:
+    static LRESULT CALLBACK Hook(int code, WPARAM wParam, LPARAM lParam)
+    {
+        if (code == HCBT_ACTIVATE) {
+            const auto window = reinterpret_cast<HWND>(wParam);
+            if (kztest::ClassOf(window) == L"#32770" && s_seen.insert(window).second)
+                ::PostMessageW(window, WM_COMMAND, s_command, 0);
+        }
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static inline WPARAM s_command = IDOK;
+    static inline std::set<HWND> s_seen;
+    HHOOK m_hook = nullptr;
+};
+
+TEST_F(DriverModule, RegistersItsFourCallbacks)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    const KZDriverCallbacks* callbacks = KZDriverServices::Find(ZepClass());
+    ASSERT_TRUE(callbacks);
+    EXPECT_TRUE(callbacks->options);
+    EXPECT_TRUE(callbacks->selectVariables);
+    EXPECT_TRUE(callbacks->third);
+    EXPECT_TRUE(callbacks->createChildOptions);
+    EXPECT_NE(callbacks->options, callbacks->third);
+}
+
+bool RefuseOptions(CWnd*, KZDriver*)
+{
+    return false;
+}
+bool RefuseSelection(CWnd*, KZDriver*, std::list<KZBasicString>&, const KZVariableGroups&, int, const wchar_t*)
+{
+    return false;
+}
+
+TEST_F(DriverModule, AnswersFalseAndRegistersNoFactoryWhenTheHostRefuses)
+{
+    ASSERT_TRUE(KZDriverServices::Add(ZepClass(), RefuseOptions, RefuseSelection, RefuseOptions));
+    EXPECT_FALSE(m_module.Initialize());
+    EXPECT_FALSE(KZDriverServices::Find(ZepClass())->createChildOptions);
+    EXPECT_EQ(KZDriverServices::Find(ZepClass())->options, RefuseOptions);
+}
+
+bool RefuseFactory(const CRuntimeClass*, KZChildOptionsFactory)
+{
+    return false;
+}
+
+TEST_F(DriverModule, AnswersTrueThoughTheHostRefusesTheFactory)
+{
+    const kztest::ImportPatch patch(
+        m_module.Handle(),
+        "_ZN16KZDriverServices24AddCreateChildOptionsDlgEPK13CRuntimeClassPFP7CDialogP4CWndP8KZDriverE",
+        reinterpret_cast<void*>(RefuseFactory));
+    EXPECT_TRUE(m_module.Initialize());
+    EXPECT_FALSE(KZDriverServices::Find(ZepClass())->createChildOptions);
+}
+
+TEST_F(DriverModule, ThirdCallbackShowsNothingAndAnswersFalse)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    const NextDialog none(IDOK);
+    EXPECT_FALSE(KZDriverServices::Find(ZepClass())->third(nullptr, &m_device));
+    EXPECT_EQ(NextDialog::Count(), 0U);
+}
+
+TEST_F(DriverModule, OptionsAnswerTrueForOkAlone)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    const auto options = KZDriverServices::Find(ZepClass())->options;
+    {
+        const NextDialog ok(IDOK);
+        EXPECT_TRUE(options(nullptr, &m_device));
+    }
+    {
+        const NextDialog cancel(IDCANCEL);
+        EXPECT_FALSE(options(nullptr, &m_device));
+    }
+}
+
+TEST_F(DriverModule, SelectionAnswersTrueForOkAlone)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    {
+        const NextDialog ok(IDOK);
+        EXPECT_TRUE(Select(0x74));
+    }
+    {
+        const NextDialog cancel(IDCANCEL);
+        EXPECT_FALSE(Select(0x74));
+    }
+}
+
+TEST_F(DriverModule, SaysSoWhenTheDeviceHasNoneOfTheGroups)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    m_names = {L"DEV1.HZIN"};
+    for (const unsigned long long groups : {0ULL, 1ULL, 1ULL << 33, ~0x74ULL & ((1ULL << 34) - 1)}) {
+        MessageBoxes boxes;
+        EXPECT_FALSE(Select(groups));
+        EXPECT_THAT(TextsOf(boxes), ElementsAre(std::wstring(KZLoadString(KZS_NO_SUCH_VARIABLES).View())));
+    }
+    EXPECT_EQ(m_names.size(), 1U);
+}
+
+TEST_F(DriverModule, OpensForOneCommonGroupAndHandsOnTheWholeMask)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    // Only bit 0 is common, yet bit 2 of the host's mask makes the pages: OK then empties the list.
+    KZDriverDeviceZEP device({L"zep-2", L"DEV2", 2, L"ZEP", L"", KZVariableGroups(1)});
+    m_names = {L"DEV2.HZIN"};
+    const NextDialog ok(IDOK);
+    EXPECT_TRUE(KZDriverServices::Find(ZepClass())
+                    ->selectVariables(nullptr, &device, m_names, KZVariableGroups(0b101), 0, nullptr));
+    EXPECT_EQ(NextDialog::Count(), 1U);
+    EXPECT_THAT(m_names, IsEmpty());
+}
+
+TEST_F(DriverModule, MakesTheOptionsAsAChildOfTheParent)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    CWnd parent;
+    ASSERT_TRUE(parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW, 0, 0, 800, 600, nullptr, nullptr));
+    CDialog* child = KZDriverServices::Find(ZepClass())->createChildOptions(&parent, &m_device);
+    ASSERT_TRUE(child);
+    EXPECT_EQ(::GetParent(child->m_hWnd), parent.m_hWnd);
+    EXPECT_NE(child->GetStyle() & WS_CHILD, 0U);
+    child->DestroyWindow();
+    delete child;
+    parent.DestroyWindow();
+}
+
+TEST_F(DriverModule, AnswersNullForAChildWithoutAParentWindow)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    CWnd noWindow;
+    EXPECT_FALSE(KZDriverServices::Find(ZepClass())->createChildOptions(&noWindow, &m_device));
+}
+
+TEST(DriverModuleFile, LeavesNoResourcesBehindWhenFreed)
+{
+    for (int round = 0; round < 20; ++round) {
+        LoadedModule module;
+        EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCEW(3354), RT_DIALOG), module.Handle());
+    }
+    EXPECT_NE(AfxFindResourceHandle(MAKEINTRESOURCEW(3354), RT_DIALOG), ::GetModuleHandleW(L"KZUsrZEP.dll"));
+}
+
+TEST(DriverModuleFile, HoldsItsTemplates)
+{
+    LoadedModule module;
+    for (const int id : {3354, 3355, 3356, 3367})
+        EXPECT_TRUE(::FindResourceW(module.Handle(), MAKEINTRESOURCEW(id), RT_DIALOG)) << id;
+}
+
+}  // namespace

@@ -1,0 +1,123 @@
+// The selection dialog with the keyboard alone.
+#include <afxwin.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "SelectVarControls.h"
+#include "SelectionFixture.h"
+
+namespace {
+
+using testing::ElementsAre;
+using zep::Family;
+
+class SelectionKeyboard : public SelectionTest {
+protected:
+    static int Focused() { return ::GetDlgCtrlID(::GetFocus()); }
+};
+
+TEST_F(SelectionKeyboard, StartsAtTheTabs)
+{
+    TestSelection dialog(m_device, m_names);
+    dialog.Run({[] {}, [&] { EXPECT_EQ(Focused(), IDC_SELECTVAR_TAB); }});
+}
+
+TEST_F(SelectionKeyboard, WalksTheArrowsOverTheTabs)
+{
+    TestSelection dialog(m_device, m_names);
+    dialog.Run({[&] {
+                    ::SetFocus(::GetDlgItem(dialog.m_hWnd, IDC_SELECTVAR_TAB));
+                    TestSelection::Type(VK_RIGHT);
+                },
+                [&] { EXPECT_TRUE(::IsWindowVisible(dialog.Page(Family::Power))); }});
+}
+
+TEST_F(SelectionKeyboard, WalksWithTabThroughEveryControlOfThePageAndBack)
+{
+    TestSelection dialog(m_device, m_names);
+    std::vector<int> visited;
+    const auto step = [&](WORD key) {
+        return TestSelection::Step([&visited, key] {
+            visited.push_back(Focused());
+            TestSelection::Type(key);
+        });
+    };
+    dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, 6713)); }, step(VK_TAB), step(VK_TAB), step(VK_TAB),
+                step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB),
+                step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB)});
+    EXPECT_THAT(visited,
+                ElementsAre(6713, 6714, 6715, 6716, 6767, 6768, 6769, 6770, 6700, 6874, 6718, 6722, 6726, 6701));
+}
+
+TEST_F(SelectionKeyboard, LeavesThePageForTheTabsAndButtonsAndComesBack)
+{
+    TestSelection dialog(m_device, m_names);
+    std::vector<int> visited;
+    const auto step = TestSelection::Step([&] {
+        visited.push_back(Focused());
+        TestSelection::Type(VK_TAB);
+    });
+    dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, 6783)); }, step, step, step, step, step});
+    EXPECT_THAT(visited, ElementsAre(6783, IDC_SELECTVAR_TAB, IDOK, IDCANCEL, 6713));
+}
+
+TEST_F(SelectionKeyboard, ChecksABoxWithSpace)
+{
+    TestSelection dialog(m_device, m_names);
+    dialog.Run({[&] {
+                    ::SetFocus(dialog.Control(Family::General, 6724));
+                    TestSelection::Type(VK_SPACE);
+                },
+                [&] { EXPECT_TRUE(dialog.IsChecked(Family::General, 6724)); }});
+}
+
+TEST_F(SelectionKeyboard, WalksTheArrowsInsideARow)
+{
+    TestSelection dialog(m_device, m_names);
+    std::vector<int> visited;
+    const auto step = TestSelection::Step([&] {
+        visited.push_back(Focused());
+        TestSelection::Type(VK_RIGHT);
+    });
+    dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, 6700)); }, step, step, step, step, step, step});
+    EXPECT_THAT(visited, ElementsAre(6700, 6874, 6718, 6722, 6726, 6700));
+}
+
+TEST_F(SelectionKeyboard, ConfirmsWithEnterOnACheckBox)
+{
+    TestSelection dialog(m_device, m_names);
+    EXPECT_EQ(dialog.Run({[&] {
+                              ::SetFocus(dialog.Control(Family::General, 6724));
+                              TestSelection::Type(VK_SPACE);
+                          },
+                          [] { TestSelection::Type(VK_RETURN); }, [] {}, [] {}}),
+              IDOK);
+    EXPECT_THAT(Names(), ElementsAre(L"DEV1.AI2N"));
+}
+
+TEST_F(SelectionKeyboard, PressesAGroupButtonWithEnter)
+{
+    TestSelection dialog(m_device, m_names);
+    EXPECT_EQ(dialog.Run({[&] {
+                              dialog.GotoDlgCtrl(CWnd::FromHandle(dialog.Control(Family::General, 6713)));
+                              TestSelection::Type(VK_RETURN);
+                          },
+                          [&] { EXPECT_EQ(dialog.CountChecked(Family::General), 10); }}),
+              TestSelection::StillOpen);
+}
+
+TEST_F(SelectionKeyboard, CancelsWithEscapeInsideAPage)
+{
+    m_names = {L"DEV1.HZIN"};
+    TestSelection dialog(m_device, m_names);
+    EXPECT_EQ(dialog.Run({[&] {
+                              ::SetFocus(dialog.Control(Family::General, 6724));
+                              TestSelection::Type(VK_ESCAPE);
+                          },
+                          [] {}, [] {}}),
+              IDCANCEL);
+    EXPECT_THAT(Names(), ElementsAre(L"DEV1.HZIN"));
+}
+
+}  // namespace
