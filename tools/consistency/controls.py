@@ -25,13 +25,31 @@ def templates():
                 yield path, dialog.group(1), line_at(text, dialog.start()), controls
 
 
+def runs(defined, in_code):
+    """The ids that lie, without a gap, between two ids of their header that code uses: it counts over them."""
+    inside = set()
+    for path in {path for path, _, _ in defined.values()}:
+        ids = {value: name for name, (where, _, value) in defined.items() if where == path}
+        used = {value for value, name in ids.items() if name in in_code}
+        for value, name in ids.items():
+            below = above = value
+            while below in ids and below not in used:
+                below -= 1
+            while above in ids and above not in used:
+                above += 1
+            if below in ids and above in ids:
+                inside.add(name)
+    return inside
+
+
 def check():
-    defined = definitions(r"ID[CD]_", FOLDERS)
+    defined = definitions(r"(?:KZ_)?ID[CD]_", FOLDERS)
     in_code = {}
     for path in tree(*FOLDERS):
         if path.suffix in CODE:
             for word in words(path):
                 in_code.setdefault(word, path)
+    used = set(in_code) | runs(defined, in_code) | ANONYMOUS | {"IDOK", "IDCANCEL"}
     in_templates, findings = set(), []
     for path, template, line, controls in templates():
         in_templates.add(template)
@@ -44,12 +62,10 @@ def check():
             if control in seen and control not in ANONYMOUS and control != "-1":
                 findings.append(f"{place(path, at)}: {control} is twice in {template}")
             seen.add(control)
-            for symbol in symbols - ANONYMOUS:
-                if symbol not in in_code and symbol not in {"IDOK", "IDCANCEL"}:
-                    findings.append(f"{place(path, at)}: no code uses the control {symbol}")
+            findings += [f"{place(path, at)}: no code uses the control {symbol}" for symbol in sorted(symbols - used)]
     if not in_templates:
         findings.append("no dialog template found")
-    for name, (path, line) in sorted(defined.items()):
+    for name, (path, line, _) in sorted(defined.items()):
         if name not in in_templates and name not in in_code:
             findings.append(f"{place(path, line)}: {name} is in no template and in no code")
     return findings

@@ -43,7 +43,7 @@ def check():
     for path in tree("host", "module", "editor"):
         if path.suffix in CODE:
             used |= words(path)
-    for name, (path, line) in sorted(defined.items()):
+    for name, (path, line, _) in sorted(defined.items()):
         for language in sorted(languages - set(texts.get(name, {}))):
             findings.append(f"{place(path, line)}: {name} has no text in {language}")
         if name not in used:

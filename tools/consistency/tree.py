@@ -38,13 +38,13 @@ def line_at(text, position):
 
 
 def definitions(prefix, folders):
-    """{name: (path, line)} of the numeric macros whose name matches the pattern."""
+    """{name: (path, line, value)} of the numeric macros whose name starts so."""
     found = {}
     for path in tree(*folders):
         if path.suffix == ".h":
             text = without_comments(text_of(path))
-            for match in re.finditer(rf"^#define ({prefix}\w*)[ \t]+\(?-?(?:0x)?[0-9A-Fa-f]", text, re.M):
-                found[match.group(1)] = (path, line_at(text, match.start()))
+            for match in re.finditer(rf"^#define ({prefix}\w*)[ \t]+(0x[0-9A-Fa-f]+|\d+)", text, re.M):
+                found[match.group(1)] = (path, line_at(text, match.start()), int(match.group(2), 0))
     return found
 
 
