@@ -25,6 +25,19 @@ def templates():
                 yield path, dialog.group(1), line_at(text, dialog.start()), controls
 
 
+def value_of(control, defined):
+    """The number of an id such as IDC_BOX+4; the text itself when a name in it is not the project's."""
+    total = 0
+    for term in control.split("+"):
+        if term in defined:
+            total += defined[term][2]
+        elif term.isdigit():
+            total += int(term)
+        else:
+            return control
+    return total
+
+
 def runs(defined, in_code):
     """The ids that lie, without a gap, between two ids of their header that code uses: it counts over them."""
     inside = set()
@@ -59,9 +72,10 @@ def check():
         for control, at in controls:
             symbols = set(re.findall(r"\b[A-Za-z_]\w*", control))
             in_templates |= symbols
-            if control in seen and control not in ANONYMOUS and control != "-1":
+            value = value_of(control, defined)
+            if value in seen and control not in ANONYMOUS and control != "-1":
                 findings.append(f"{place(path, at)}: {control} is twice in {template}")
-            seen.add(control)
+            seen.add(value)
             findings += [f"{place(path, at)}: no code uses the control {symbol}" for symbol in sorted(symbols - used)]
     if not in_templates:
         findings.append("no dialog template found")

@@ -47,7 +47,7 @@ def project_headers():
 
 def candidates(headers, including, name):
     """The project's files that the include may mean: the one beside the file, else those whose path ends so."""
-    beside = including.parent / name
+    beside = (including.parent / name).resolve()
     if beside.is_file():
         return [beside]
     tail = "/" + name
