@@ -158,11 +158,22 @@ TEST_F(ChildHub, StaysOnEnterAndEscape)
     EXPECT_TRUE(m_hub->GetStyle() & WS_VISIBLE);
 }
 
+LRESULT CALLBACK NoteChange(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR changed)
+{
+    if (message == WM_KZ_OPTIONS_CHANGED)
+        *reinterpret_cast<int*>(changed) = static_cast<int>(wParam);
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
 TEST_F(ChildHub, CallsItsHooksAndTellsItsParent)
 {
+    int changed = -1;
+    ::SetWindowSubclass(m_parent->Window()->m_hWnd, NoteChange, 1, reinterpret_cast<DWORD_PTR>(&changed));
     ASSERT_TRUE(m_hub->Create(m_parent->Window()));
     m_hub->Press(KZSectionUnits);
     ASSERT_EQ(m_hub->calls.size(), 1u);
+    EXPECT_EQ(changed, KZSectionUnits);
+    ::RemoveWindowSubclass(m_parent->Window()->m_hWnd, NoteChange, 1);
 }
 
 TEST_F(ChildHub, HasNoWindowAfterAFailedCreate)
