@@ -42,6 +42,7 @@ bool ChildWindow::Run(KZDriver* driver, KZChildOptionsFactory factory)
     const bool created = m_pane.Embed(driver, factory);
     Arrange();
     ShowWindow(SW_SHOW);
+    ::SetFocus(::GetNextDlgTabItem(m_hWnd, nullptr, FALSE));
     AfxGetApp()->Run();
     return created;
 }
