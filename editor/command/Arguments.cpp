@@ -95,7 +95,8 @@ Syntax::Syntax()
     select->add_option("--groups", raw.groups, "Variable groups to offer, hexadecimal (default: all 34)");
     select->add_option("--max", raw.maxVariables, "The most variables to choose, 0 for no limit");
     select->add_option("--list", raw.list, "Full names that are chosen already, with commas between them")
-        ->delimiter(',');
+        ->delimiter(',')
+        ->allow_extra_args(false);  // the word after it may be the device
     select->add_option("--text", raw.text, "The caller's words for the request");
 }
 

@@ -64,6 +64,13 @@ TEST(Arguments, OfSelectAreTakenAsTheyStand)
     EXPECT_EQ(arguments.text, L"¿Cuáles?");
 }
 
+TEST(Arguments, OfSelectMayStandBeforeTheDevice)
+{
+    const Arguments arguments = ParseArguments({"select", "--max", "2", "--list", "A.VI1N,B.HZIN", "TREN1"});
+    EXPECT_EQ(arguments.device, L"TREN1");
+    EXPECT_EQ(arguments.variables, (VariableList{L"A.VI1N", L"B.HZIN"}));
+}
+
 TEST(Arguments, TellAnEmptyTextFromNone)
 {
     EXPECT_EQ(ParseArguments({"select", "A", "--text", ""}).text, L"");
