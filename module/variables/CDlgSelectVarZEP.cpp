@@ -113,7 +113,7 @@ void CDlgSelectVarZEP::ShowFirstPage()
     for (const auto& page : m_pages)
         page->ShowWindow(SW_HIDE);
     m_pCurrentPage = m_pages.front().get();
-    m_pCurrentPage->ShowWindow(SW_SHOW);
+    m_pCurrentPage->Show();
     CRect client;
     GetClientRect(&client);
     Layout(client.Width(), client.Height());
@@ -189,7 +189,7 @@ void CDlgSelectVarZEP::OnSelchangeSelectTab(NMHDR*, LRESULT* pResult)
     const bool hasPage = tab >= 0 && static_cast<std::size_t>(tab) < m_pages.size();
     m_pCurrentPage = hasPage ? m_pages[static_cast<std::size_t>(tab)].get() : nullptr;
     if (m_pCurrentPage) {
-        m_pCurrentPage->ShowWindow(SW_SHOW);
+        m_pCurrentPage->Show();
         m_pCurrentPage->BringWindowToTop();
         m_pCurrentPage->Invalidate(TRUE);
     }

@@ -3,7 +3,7 @@
 
 #include "CDlgSelectVarArmonicZEP.h"
 #include "CDlgSelectVarZEP.h"
-#include "FitDialog.h"
+#include "KZDialogSetup.h"
 #include "KZLayout.h"
 #include "SelectVarControls.h"
 
@@ -76,7 +76,10 @@ void CDlgSelectVarZEP::LayoutTabAndButtons()
     dialog.AddLayout(buttons, KZSizeStandard);
     dialog.AddGap(KZSizeStandard);
 
-    FitDialogHeight(*this, dialog);
+    KZFitDialogHeight(*this, dialog);
+    CRect client;
+    GetClientRect(&client);
+    dialog.Layout(client);
 }
 
 // The tab control's own arithmetic, taken from its edges and its empty display area.

@@ -208,7 +208,7 @@ void SelectVarPage::OnBox(const VariablePosition& position)
         SendToContainer(WM_SELECTVAR_UNSELECT, 1);
     else if (SendToContainer(WM_SELECTVAR_SELECT, 1) == 0)
         box.SetCheck(BST_UNCHECKED);
-    RefreshRowImage(position.row, position.side);
+    RefreshRowImages(position.row, 1, position.side);
 }
 
 void SelectVarPage::OnRow(int row)
@@ -221,7 +221,7 @@ void SelectVarPage::OnRow(int row)
     if (!Toggle(group))
         return;
     for (const Side side : Sides)
-        RefreshRowImage(row, side);
+        RefreshRowImages(row, 1, side);
 }
 
 void SelectVarPage::OnRowSide(int row, Side side)
@@ -230,7 +230,7 @@ void SelectVarPage::OnRowSide(int row, Side side)
     for (int phase = 0; phase < PhaseCount; ++phase)
         group.Add(Box({row, phase, side}));
     if (Toggle(group))
-        RefreshRowImage(row, side);
+        RefreshRowImages(row, 1, side);
 }
 
 void SelectVarPage::OnColumn(Side side, std::optional<int> phase)
@@ -242,10 +242,8 @@ void SelectVarPage::OnColumn(Side side, std::optional<int> phase)
                 group.Add(Box({row, column, side}));
         }
     }
-    if (!Toggle(group))
-        return;
-    for (int row = 0; row < m_table.RowCount(); ++row)
-        RefreshRowImage(row, side);
+    if (Toggle(group))
+        RefreshRowImages(0, m_table.RowCount(), side);
 }
 
 bool SelectVarPage::Toggle(const Group& group)
@@ -265,27 +263,55 @@ LRESULT SelectVarPage::SendToContainer(UINT message, std::size_t count) const
     return container ? ::SendMessageW(container->m_hWnd, message, count, 0) : 0;
 }
 
-// The picture is the same whatever the state of the row, and it is named without the image folder: the button looks a
-// bare name up there itself. It says that the row has been touched; the boxes beside it say how.
-void SelectVarPage::RefreshRowImage(int row, Side side)
+// The picture is the same whatever the state of the rows, and it is named without the image folder: the button looks a
+// bare name up there itself. It says that a row has been touched; the boxes beside it say how.
+void SelectVarPage::RefreshRowImages(int firstRow, int rowCount, Side side)
 {
-    CImageButton& button = m_rows[static_cast<std::size_t>(row)].buttons[static_cast<std::size_t>(side)];
-    if (!button.GetSafeHwnd())
+    CRect changed(0, 0, 0, 0);
+    for (int row = firstRow; row < firstRow + rowCount; ++row) {
+        CImageButton& button = m_rows[static_cast<std::size_t>(row)].buttons[static_cast<std::size_t>(side)];
+        if (!button.GetSafeHwnd())
+            continue;
+        button.SetImage(L"SYSTEM-check.png", FileTransparency, false);
+        CRect place;
+        button.GetWindowRect(&place);
+        changed.UnionRect(&changed, &place);
+    }
+    if (changed.IsRectEmpty())
         return;
-    button.SetImage(L"SYSTEM-check.png", FileTransparency, false);
-    button.Invalidate(TRUE);
+    // One call for a whole column: invalidating the buttons one by one costs half as much as checking all its boxes.
+    ScreenToClient(&changed);
+    RedrawWindow(&changed, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 int SelectVarPage::RequiredHeight()
 {
-    return SelectVarPageLayout(*this, m_table).Height();
+    if (m_nRequiredHeight == 0)
+        m_nRequiredHeight = SelectVarPageLayout(*this, m_table).Height();
+    return m_nRequiredHeight;
 }
 
 void SelectVarPage::LayoutControls()
 {
+    if ((GetStyle() & WS_VISIBLE) != 0)
+        LayoutNow();
+    else
+        m_bLayoutPending = true;
+}
+
+void SelectVarPage::LayoutNow()
+{
+    m_bLayoutPending = false;
     CRect client;
     GetClientRect(&client);
     SelectVarPageLayout(*this, m_table).Apply(client);
+}
+
+void SelectVarPage::Show()
+{
+    if (m_bLayoutPending)
+        LayoutNow();
+    ShowWindow(SW_SHOW);
 }
 
 void SelectVarPage::MoveTo(const CRect& area)

@@ -34,8 +34,12 @@ public:
     // The height in pixels that the page's rows need.
     [[nodiscard]] int RequiredHeight();
 
-    // Moves the page to a rectangle of its container and lays its controls out in it.
+    // Moves the page to a rectangle of its container and lays its controls out in it; those of a hidden page follow
+    // when it is shown, so that opening the dialog does not wait for pages that nobody has asked for.
     virtual void MoveTo(const CRect& area);
+
+    // Shows the page, laid out.
+    void Show();
 
 protected:
     SelectVarPage(KZDriverDeviceZEP* device, zep::Family family);
@@ -47,7 +51,7 @@ protected:
 
     afx_msg void OnSelectionCommand(UINT id);
 
-    // Lays the controls out in the client area.
+    // Lays the controls out in the client area, at once when the page is shown.
     void LayoutControls();
 
     DECLARE_MESSAGE_MAP()
@@ -74,9 +78,12 @@ private:
     // Returns false when the container refused.
     bool Toggle(const Group& group);
     LRESULT SendToContainer(UINT message, std::size_t count) const;
-    void RefreshRowImage(int row, zep::Side side);
+    void RefreshRowImages(int firstRow, int rowCount, zep::Side side);
+    void LayoutNow();
 
     KZDriverDeviceZEP* m_pDevice;
     const zep::SelectionTable& m_table;
     std::vector<Row> m_rows;
+    int m_nRequiredHeight = 0;  // 0 until asked for: it depends on the font alone
+    bool m_bLayoutPending = false;
 };

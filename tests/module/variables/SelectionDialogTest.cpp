@@ -303,6 +303,7 @@ TEST_F(SelectionDialog, GrowsWithItsHighestPage)
 {
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
+        dialog.ShowTab(2);
         CRect page;
         ::GetClientRect(dialog.Page(Family::Harmonic), &page);
         CRect lowest;

@@ -34,7 +34,9 @@ TEST_F(SelectionLook, PutsEachBoxUnderItsColumnButtonAndBesideItsRowCaption)
             const CRect place = PlaceOf(dialog.Control(family, id));
             return CPoint((place.left + place.right) / 2, (place.top + place.bottom) / 2);
         };
+        int tab = 0;
         for (const Family family : {Family::General, Family::Power, Family::Harmonic}) {
+            dialog.ShowTab(tab++);
             const auto& table = TableOf(family);
             for (int row = 0; row < table.RowCount(); ++row) {
                 for (const zep::Side side : zep::Sides) {

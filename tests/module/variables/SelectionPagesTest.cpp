@@ -256,6 +256,58 @@ TEST_F(SelectionPages, ChangeNothingWhenAGroupIsRefused)
     EXPECT_THAT(dialog.notes, ElementsAre(Select(1), Select(5, 0), Select(38, 0), Select(2)));
 }
 
+HIMAGELIST PictureOf(HWND button)
+{
+    BUTTON_IMAGELIST picture{};
+    ::SendMessageW(button, BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&picture));
+    return picture.himl;
+}
+
+TEST_F(SelectionPages, ShowATouchedRowByTheSamePictureWhateverItsState)
+{
+    TestSelection dialog(m_device, m_names);
+    dialog.Run({[&] {
+        const HWND first = dialog.Control(Family::Power, 7066);
+        const HWND second = dialog.Control(Family::Power, 7067);
+        const HIMAGELIST untouched = PictureOf(first);
+        ASSERT_TRUE(untouched);
+        dialog.Click(Family::Power, 6922);  // one box of the row
+        const HIMAGELIST touched = PictureOf(first);
+        EXPECT_NE(touched, untouched);
+        EXPECT_EQ(PictureOf(second), untouched);
+        dialog.Click(Family::Power, 6922);  // cleared again
+        EXPECT_EQ(PictureOf(first), touched);
+        dialog.Click(Family::Power, 6713);  // the whole side
+        EXPECT_EQ(PictureOf(second), touched);
+        EXPECT_EQ(PictureOf(dialog.Control(Family::Power, 7078)), untouched);  // the other side
+    }});
+}
+
+TEST_F(SelectionPages, RefreshBothSidesOfAToggledRow)
+{
+    TestSelection dialog(m_device, m_names);
+    dialog.Run({[&] {
+        const HWND load = dialog.Control(Family::Harmonic, 7280);
+        const HIMAGELIST untouched = PictureOf(load);
+        dialog.Click(Family::Harmonic, 7211);
+        EXPECT_NE(PictureOf(load), untouched);
+        EXPECT_EQ(PictureOf(load), PictureOf(dialog.Control(Family::Harmonic, 7226)));
+    }});
+}
+
+TEST_F(SelectionPages, KeepTheirPicturesWhenAGroupIsRefused)
+{
+    MessageBoxes boxes;
+    TestSelection dialog(m_device, m_names, 1);
+    dialog.Run({[&] {
+        const HIMAGELIST untouched = PictureOf(dialog.Control(Family::Power, 7066));
+        for (const int button : {6713, 6910, 7066})
+            dialog.Click(Family::Power, button);
+        EXPECT_EQ(PictureOf(dialog.Control(Family::Power, 7066)), untouched);
+        EXPECT_EQ(dialog.CountChecked(Family::Power), 0);
+    }});
+}
+
 TEST_F(SelectionPages, MarkAndDisableWhatWasChosenBefore)
 {
     m_names = {L"DEV1.ARM5A2L", L"DEV1.HZIN", L"DEV1.PFI3N", L"OTHER.VI1N", L"DEV1.VI2L", L"DEV1.ARM27A1N"};
