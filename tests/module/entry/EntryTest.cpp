@@ -8,6 +8,8 @@
 #include <set>
 
 #include "Controls.h"
+#include "FaultyMemory.h"
+#include "GuiResources.h"
 #include "ImportPatch.h"
 #include "KZDlgOptions.h"
 #include "KZDriverDeviceZEP.h"
@@ -219,6 +221,30 @@ TEST_F(DriverModule, AnswersNullForAChildWithoutAParentWindow)
     ASSERT_TRUE(m_module.Initialize());
     CWnd noWindow;
     EXPECT_FALSE(KZDriverServices::Find(ZepClass())->createChildOptions(&noWindow, &m_device));
+}
+
+TEST_F(DriverModule, LeavesNothingBehindOfAChildThatCannotBeMade)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    CWnd noWindow;
+    const auto factory = KZDriverServices::Find(ZepClass())->createChildOptions;
+    factory(&noWindow, &m_device);
+    const auto before = kztest::CountGuiResources();
+    const kztest::FaultyMemory memory(m_module.Handle(), [](std::size_t) { return false; });
+    for (int round = 0; round < 50; ++round)
+        EXPECT_FALSE(factory(&noWindow, &m_device));
+    EXPECT_EQ(kztest::FaultyMemory::Live(), 0U);
+    EXPECT_EQ(kztest::CountGuiResources(), before);
+}
+
+TEST_F(DriverModule, ReportsRunningOutOfMemoryAndAnswersFalse)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    CWnd parent;
+    MessageBoxes boxes;
+    const kztest::FaultyMemory memory(m_module.Handle(), [](std::size_t) { return true; });
+    EXPECT_FALSE(KZDriverServices::Find(ZepClass())->createChildOptions(&parent, &m_device));
+    EXPECT_EQ(TextsOf(boxes).size(), 1U);
 }
 
 TEST(DriverModuleFile, LeavesNoResourcesBehindWhenFreed)

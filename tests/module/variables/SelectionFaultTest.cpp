@@ -1,0 +1,105 @@
+// The selection dialog when memory runs out.
+#include <afxwin.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "CDlgSelectVarArmonicZEP.h"
+#include "CDlgSelectVarGeneralZEP.h"
+#include "CDlgSelectVarPowerZEP.h"
+#include "FaultyMemory.h"
+#include "GuiResources.h"
+#include "MessageTexts.h"
+#include "SelectVarControls.h"
+#include "SelectionFixture.h"
+
+namespace {
+
+using testing::ElementsAre;
+using zep::Family;
+
+class SelectionFaults : public SelectionTest {
+protected:
+    static HMODULE Module() { return ::GetModuleHandleW(L"KZUsrZEP.dll"); }
+    [[nodiscard]] static int CountTabs(const TestSelection& dialog)
+    {
+        return static_cast<int>(::SendDlgItemMessageW(dialog.m_hWnd, IDC_SELECTVAR_TAB, TCM_GETITEMCOUNT, 0, 0));
+    }
+};
+
+// The power and the harmonic page are of one size, the power page comes first.
+static_assert(sizeof(CDlgSelectVarPowerZEP) == sizeof(CDlgSelectVarArmonicZEP));
+static_assert(sizeof(CDlgSelectVarPowerZEP) != sizeof(CDlgSelectVarGeneralZEP));
+
+TEST_F(SelectionFaults, GoOnWithoutAPageThatCannotBeAllocated)
+{
+    struct Case {
+        std::size_t size;
+        int occurrence;
+        Family missing;
+    };
+    const Case cases[] = {{sizeof(CDlgSelectVarGeneralZEP), 0, Family::General},
+                          {sizeof(CDlgSelectVarPowerZEP), 0, Family::Power},
+                          {sizeof(CDlgSelectVarArmonicZEP), 1, Family::Harmonic}};
+    for (const Case& each : cases) {
+        m_names.clear();
+        int seen = 0;
+        const kztest::FaultyMemory memory(
+            Module(), [&](std::size_t size) { return size == each.size && seen++ == each.occurrence; });
+        TestSelection dialog(m_device, m_names);
+        EXPECT_EQ(dialog.Run({[&] {
+                                  EXPECT_EQ(CountTabs(dialog), 2);
+                                  for (const Family family : {Family::General, Family::Power, Family::Harmonic})
+                                      EXPECT_EQ(dialog.Page(family) == nullptr, family == each.missing);
+                                  dialog.ShowTab(1);
+                                  if (each.missing != Family::Power)
+                                      dialog.Click(Family::Power, 6922);
+                                  dialog.PressOk();
+                              },
+                              [] {}}),
+                  IDOK);
+        EXPECT_EQ(m_names.size(), each.missing == Family::Power ? 0U : 1U);
+    }
+}
+
+TEST_F(SelectionFaults, SurviveTheFailureOfAnyOneAllocation)
+{
+    // Opens the dialog with one allocation of the module failing; none for -1. Returns how many there were.
+    const auto open = [this](int failing) {
+        MessageBoxes boxes;  // what cannot be carried out is said
+        int count = 0;
+        const kztest::FaultyMemory memory(Module(), [&](std::size_t) { return count++ == failing; });
+        TestSelection dialog(m_device, m_names);
+        dialog.Run({[&] { dialog.PressCancel(); }, [] {}});
+        return count;
+    };
+    m_names = {L"DEV1.HZIN"};
+    const int allocations = open(-1);
+    ASSERT_GT(allocations, 10);
+    // The first ones make the pages, the many that follow lay them out.
+    constexpr int firstOnes = 20;
+    constexpr int stride = 29;
+    for (int failing = 0; failing < allocations; failing += failing < firstOnes ? 1 : stride) {
+        open(failing);
+        EXPECT_THAT(Names(), ElementsAre(L"DEV1.HZIN")) << failing;
+    }
+}
+
+TEST_F(SelectionFaults, LeaveNoWindowAndNoHandleBehindAfterTwentyRuns)
+{
+    const auto run = [this] {
+        TestSelection dialog(m_device, m_names);
+        dialog.Run({[&] {
+            for (int tab = 0; tab < 3; ++tab)
+                dialog.ShowTab(tab);
+            dialog.Click(Family::Harmonic, 6713);
+        }});
+    };
+    run();
+    const auto before = kztest::CountGuiResources();
+    for (int round = 0; round < 20; ++round)
+        run();
+    EXPECT_EQ(kztest::CountGuiResources(), before);
+}
+
+}  // namespace
