@@ -4,6 +4,7 @@
 #include "KZLoadString.h"
 #include "modules/ModuleLoader.h"
 #include "project/Project.h"
+#include "project/RequiredFiles.h"
 #include "text/EditorError.h"
 #include "text/EditorText.h"
 #include "window/ChildWindow.h"
@@ -46,11 +47,14 @@ struct Context {
 
 ExitStatus RunOptions(const Context& context)
 {
+    RequireDeviceDocument(*context.driver);
+    RequirePictures();
     return PrintAnswer("options", context.callbacks.options(nullptr, context.driver));
 }
 
 ExitStatus RunSelect(const Context& context)
 {
+    RequirePictures();
     const Arguments& arguments = context.arguments;
     VariableList variables = arguments.variables;
     const ExitStatus status =
@@ -69,6 +73,8 @@ ExitStatus RunThird(const Context& context)
 
 ExitStatus RunChild(const Context& context)
 {
+    RequireDeviceDocument(*context.driver);
+    RequirePictures();
     const bool created = ShowChildWindow(context.driver, context.callbacks.createChildOptions);
     PrintLine(created ? "child: created" : "child: null");
     return created ? ExitTrue : ExitFalse;

@@ -62,6 +62,36 @@ TEST_F(BadInput, AnUnknownDeviceIsNamedTogetherWithTheKnownOnes)
     ExpectRefusal(Start({"options", "GRUA"}), {"\"GRUA\"", "GRÚA.1, NODIALOG, OTHER"}, before);
 }
 
+TEST_F(BadInput, AMissingDeviceDocumentIsNamed)
+{
+    m_program.AddModule("ready");
+    std::filesystem::remove(m_folder.Path() / "plant" / "devices" / "zep-1.xml");
+    for (const char* command : {"options", "child"}) {
+        const auto before = ProjectFiles();
+        ExpectRefusal(Start({command, "GRÚA.1"}), {"zep-1.xml", "restore"}, before);
+    }
+}
+
+TEST_F(BadInput, ABrokenDeviceDocumentIsNamedWithThePlaceAndStaysAsItIs)
+{
+    m_program.AddModule("ready");
+    m_folder.Write("plant/devices/zep-1.xml", "<device>\n<information>\n</device>\n");
+    for (const char* command : {"options", "child"}) {
+        const auto before = ProjectFiles();
+        ExpectRefusal(Start({command, "GRÚA.1"}), {"zep-1.xml", "3"}, before);
+    }
+}
+
+TEST_F(BadInput, AMissingPictureIsNamed)
+{
+    m_program.AddModule("ready");
+    std::filesystem::remove(m_program.Path() / "images" / "ZEP-50.png");
+    for (const char* command : {"options", "select", "child"}) {
+        const auto before = ProjectFiles();
+        ExpectRefusal(Start({command, "GRÚA.1"}), {"ZEP-50.png", "images"}, before);
+    }
+}
+
 TEST_F(BadInput, BadArgumentsAreRefusedBeforeAnyDocumentIsRead)
 {
     const std::string gone = ProjectPath() + "-gone";

@@ -15,6 +15,8 @@ EditorTest::EditorTest() : m_program(m_folder.Path() / "program")
     m_folder.Write("plant/main.xml",
                    MainXml(DeviceXml("zep-1", "GRÚA.1", "0x74") + DeviceXml("zep-2", "NODIALOG", "0x8B") +
                            DeviceXml("xyz-1", "OTHER", "0x0", "XYZ")));
+    m_folder.Write("plant/devices/zep-1.xml", "<device/>");
+    m_folder.Write("plant/devices/zep-2.xml", "");
 }
 
 std::string EditorTest::ProjectPath() const

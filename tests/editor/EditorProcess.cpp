@@ -84,6 +84,7 @@ EditorFolder::EditorFolder(const fs::path& folder) : m_folder(folder)
         if (isProgram && !isModule)
             fs::copy_file(file.path(), m_folder / name);
     }
+    fs::copy(BuildFolder() / "bin" / "images", m_folder / "images");
 }
 
 fs::path EditorFolder::ModuleFile(const std::string& kind)
