@@ -1,7 +1,6 @@
 // Parsing variable names, and marking from a long host list, each beside the least that any code would have to do.
 #include <benchmark/benchmark.h>
 
-#include <cstdint>
 #include <list>
 #include <string>
 #include <vector>
@@ -9,6 +8,7 @@
 #include "InitialMarks.h"
 #include "KZDriverVariable.h"
 #include "KZWideChar.h"
+#include "PairedRuns.h"
 #include "SelectionTables.h"
 #include "VariableName.h"
 
@@ -67,33 +67,37 @@ int ParseHarmonicByHand(const wchar_t* name) noexcept
     return static_cast<int>((2 * row + (next[2] == L'L' ? 1U : 0U)) * 3 + phase);
 }
 
-void ParseHarmonic_Floor(benchmark::State& state)
-{
-    const auto names = HarmonicNames();
-    for (auto _ : state) {
-        int sum = 0;
-        for (const std::wstring& name : names)
-            sum += ParseHarmonicByHand(name.c_str());
-        benchmark::DoNotOptimize(sum);
-    }
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(names.size()));
-}
-BENCHMARK(ParseHarmonic_Floor);
+// Long enough to be timed, and the same for both.
+constexpr int Rounds = 5'000;
 
-void ParseHarmonic(benchmark::State& state)
+template <class Parse>
+int SumOver(const std::vector<std::wstring>& names, Parse parse)
 {
-    const auto names = HarmonicNames();
-    for (auto _ : state) {
-        int sum = 0;
-        for (const std::wstring& name : names) {
-            const auto position = ParseVariableName(Family::Harmonic, name);
-            sum += position ? static_cast<int>(PositionIndex(*position)) : -1;
-        }
+    int sum = 0;
+    for (int round = 0; round < Rounds; ++round) {
+        for (const std::wstring& name : names)
+            sum += parse(name);
         benchmark::DoNotOptimize(sum);
     }
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(names.size()));
+    return sum;
 }
-BENCHMARK(ParseHarmonic);
+
+bool CompareParsing()
+{
+    const auto names = HarmonicNames();
+    return kzbench::Compare(
+        "parse 390,000 names / hand-written loop", 101, 1.30, [] {},
+        [&] {
+            benchmark::DoNotOptimize(SumOver(names, [](const std::wstring& name) {
+                const auto position = ParseVariableName(Family::Harmonic, name);
+                return position ? static_cast<int>(PositionIndex(*position)) : -1;
+            }));
+        },
+        [&] {
+            benchmark::DoNotOptimize(
+                SumOver(names, [](const std::wstring& name) { return ParseHarmonicByHand(name.c_str()); }));
+        });
+}
 
 // A project's list: this device's names among those of others.
 std::list<KZBasicString> HostList(std::size_t count)
@@ -107,32 +111,32 @@ std::list<KZBasicString> HostList(std::size_t count)
     return list;
 }
 
-constexpr std::int64_t ListLength = 1'000'000;
-
-void MarkFromHostList_Floor(benchmark::State& state)
+bool CompareMarking(std::size_t length)
 {
-    const auto list = HostList(static_cast<std::size_t>(state.range(0)));
+    const auto list = HostList(length);
     const KZBasicString wanted = L"Rolling mill 1";
-    for (auto _ : state) {
-        KZBasicString device;
-        KZBasicString variable;
-        std::size_t found = 0;
-        for (const KZBasicString& name : list) {
-            SplitDriverVariable(name, device, variable, false);
-            found += KZWideChar::Compare(device.c_str(), wanted.c_str()) == 0 ? 1U : 0U;
-        }
-        benchmark::DoNotOptimize(found);
-    }
+    const std::string figure = "mark from " + std::to_string(length) + " names / split and compare";
+    return kzbench::Compare(
+        figure.c_str(), 31, 1.50, [] {}, [&] { benchmark::DoNotOptimize(InitialMarks(list, wanted)); },
+        [&] {
+            KZBasicString device;
+            KZBasicString variable;
+            std::size_t found = 0;
+            for (const KZBasicString& name : list) {
+                SplitDriverVariable(name, device, variable, false);
+                found += KZWideChar::Compare(device.c_str(), wanted.c_str()) == 0 ? 1U : 0U;
+            }
+            benchmark::DoNotOptimize(found);
+        });
 }
-BENCHMARK(MarkFromHostList_Floor)->Arg(ListLength)->Unit(benchmark::kMillisecond);
-
-void MarkFromHostList(benchmark::State& state)
-{
-    const auto list = HostList(static_cast<std::size_t>(state.range(0)));
-    const KZBasicString device = L"Rolling mill 1";
-    for (auto _ : state)
-        benchmark::DoNotOptimize(InitialMarks(list, device));
-}
-BENCHMARK(MarkFromHostList)->Arg(ListLength)->Unit(benchmark::kMillisecond);
 
 }  // namespace
+
+int main()
+{
+    kzbench::PrintHeading();
+    bool within = CompareParsing();
+    for (const std::size_t length : {1'000U, 10'000U, 100'000U, 1'000'000U})
+        within = CompareMarking(length) && within;
+    return within ? 0 : 1;
+}

@@ -111,6 +111,12 @@ TEST(VariableName, BelongsToNoOtherFamily)
     });
 }
 
+// Evaluated by the compiler, which a parse that allocates would not pass.
+static_assert(ParseVariableName(L"ARM13A2N") == Variable{Family::Harmonic, {6, 1, Side::Net}});
+static_assert(ParseVariableName(L"VAI3L") == Variable{Family::Power, {2, 2, Side::Load}});
+static_assert(ParseVariableName(L"HZIL") == Variable{Family::General, {FrequencyRow, 0, Side::Net}});
+static_assert(!ParseVariableName(L"ARM27A1N"));
+
 TEST(VariableName, AppendsBehindWhatTheTextHolds)
 {
     std::wstring text = L"DEV1.";
