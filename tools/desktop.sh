@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC1091,SC2154
+# shellcheck shell=bash disable=SC1091,SC2034,SC2154
 # To be sourced. A private virtual display with the editor on it, driven by a real mouse and a real keyboard (xdotool). The
 # probe tells where a control is and when a condition has come true; every wait has a limit, so a step either happens or
 # fails.

@@ -2,14 +2,16 @@
 # The guided tour: opens the editor on a copy of examples/plant on a private virtual display, walks the roads through the
 # module with real clicks and keys, leaves one picture per step under build/tour, and prints what the roads have produced.
 # A step that does not come true ends it with an error.
+#   tour.sh [BUILD_FOLDER [PICTURE_FOLDER]]
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-desktop_bin=$root/build/windows/bin
-desktop_probe=$root/build/windows/tools/WindowProbe.exe
+build=${1:-$root/build/windows}
+tour=${2:-$root/build/tour}
+desktop_bin=$build/bin
+desktop_probe=$build/tools/WindowProbe.exe
 . "$root/tools/desktop.sh"
 . "$root/tools/roads.sh"
 
-tour=$root/build/tour
 project=$tour/plant
 device=TREN1
 dialog=" - $device"
@@ -146,4 +148,4 @@ for step in "${steps[@]}"; do
   picture "$(printf '%s/%02d-%s.png' "$tour" "$number" "$name")"
 done
 finish
-echo "The pictures are in build/tour"
+echo "The pictures are in $tour"

@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2154
+# shellcheck shell=bash disable=SC2086,SC2154
 # The options hub and its sections.
 
 # Settings, units and limits of a filter, and what the documents hold afterwards.

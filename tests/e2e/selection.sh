@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2154
+# shellcheck shell=bash disable=SC2086,SC2154
 # The select-variables road.
 
 dialog=' - PINTURA'
