@@ -20,9 +20,9 @@ std::wstring ToPosix(std::wstring_view format)
         format.remove_prefix(percent);
         if (format.empty())
             break;
-        const std::size_t specification = std::min(format.find_first_not_of(L"-+ #0123456789.*", 1), format.size());
-        posix += format.substr(0, specification);
-        format.remove_prefix(specification);
+        const std::size_t conversion = std::min(format.find_first_not_of(L"-+ #0123456789.*", 1), format.size());
+        posix += format.substr(0, conversion);
+        format.remove_prefix(conversion);
         if (format.empty())
             break;
         if (format.front() == L's' || format.front() == L'c')

@@ -17,7 +17,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using zep::Family;
 using zep::Side;
-using Note = TestSelection::Note;
 
 class SelectionDialog : public SelectionTest {};
 

@@ -10,12 +10,23 @@
 #include "KZDriverDeviceZEP.h"
 #include "KZLoadString.h"
 #include "KZQuorvelantaSetup.h"
+#include "SelectVarMessages.h"
 #include "SelectionTables.h"
 #include "TestSelection.h"
 
 inline std::wstring HostText(unsigned id)
 {
     return std::wstring(KZLoadString(id).View());
+}
+
+// The messages of a page, as TestSelection notes them.
+inline TestSelection::Note Select(WPARAM count, LRESULT answer = 1)
+{
+    return {WM_SELECTVAR_SELECT, count, 0, answer};
+}
+inline TestSelection::Note Unselect(WPARAM count)
+{
+    return {WM_SELECTVAR_UNSELECT, count, 0, 1};
 }
 
 template <class Test>

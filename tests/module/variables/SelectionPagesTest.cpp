@@ -20,20 +20,10 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using zep::Family;
 using zep::Side;
-using Note = TestSelection::Note;
 
 constexpr std::array Families{Family::General, Family::Power, Family::Harmonic};
 
 class SelectionPages : public SelectionTest {};
-
-Note Select(WPARAM count, LRESULT answer = 1)
-{
-    return {WM_SELECTVAR_SELECT, count, 0, answer};
-}
-Note Unselect(WPARAM count)
-{
-    return {WM_SELECTVAR_UNSELECT, count, 0, 1};
-}
 
 bool IsCheckBox(HWND control)
 {
@@ -308,64 +298,6 @@ TEST_F(SelectionPages, KeepTheirPicturesWhenAGroupIsRefused)
     }});
 }
 
-TEST_F(SelectionPages, MarkAndDisableWhatWasChosenBefore)
-{
-    m_names = {L"DEV1.ARM5A2L", L"DEV1.HZIN", L"DEV1.PFI3N", L"OTHER.VI1N", L"DEV1.VI2L", L"DEV1.ARM27A1N"};
-    TestSelection dialog(m_device, m_names);
-    dialog.Run({[&] {
-        for (const auto& [family, id] :
-             {std::pair(Family::Harmonic, 7303), std::pair(Family::General, 6719), std::pair(Family::Power, 6933)}) {
-            EXPECT_TRUE(dialog.IsChecked(family, id)) << id;
-            EXPECT_FALSE(dialog.IsEnabled(family, id)) << id;
-            EXPECT_EQ(dialog.CountChecked(family), 1);
-        }
-    }});
-    EXPECT_THAT(dialog.notes, IsEmpty());
-}
-
-TEST_F(SelectionPages, MarkTheFundamentalForAnEvenOrder)
-{
-    m_names = {L"DEV1.ARM2A1N"};
-    TestSelection dialog(m_device, m_names);
-    dialog.Run({[&] { EXPECT_TRUE(dialog.IsChecked(Family::Harmonic, 7236)); }});
-}
-
-TEST_F(SelectionPages, MarkTheOneFrequencyWhateverSideItsNameSays)
-{
-    for (const wchar_t* name : {L"DEV1.HZIN", L"DEV1.HZIL"}) {
-        m_names = {name};
-        TestSelection dialog(m_device, m_names);
-        dialog.Run({[&] { EXPECT_TRUE(dialog.IsChecked(Family::General, 6719)) << name; }});
-    }
-}
-
-TEST_F(SelectionPages, LeaveBoxesChosenBeforeOutOfGroups)
-{
-    m_names = {L"DEV1.ARM1A1N", L"DEV1.ARM1A2N", L"DEV1.ARM1A3N", L"DEV1.ARM3A1N"};
-    TestSelection dialog(m_device, m_names);
-    dialog.Run({[&] {
-        dialog.Click(Family::Harmonic, 7221);  // nothing selectable in it
-        EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 4);
-        dialog.Click(Family::Harmonic, 7222);
-        dialog.Click(Family::Harmonic, 7222);
-        EXPECT_TRUE(dialog.IsChecked(Family::Harmonic, 7237));  // what was chosen before cannot be cleared
-        EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 4);
-    }});
-    EXPECT_THAT(dialog.notes, ElementsAre(Unselect(0), Select(2), Unselect(2)));
-}
-
-TEST_F(SelectionPages, NeverCollectWhatWasChosenBefore)
-{
-    m_names = {L"DEV1.API1N", L"DEV1.API2N"};
-    TestSelection dialog(m_device, m_names);
-    EXPECT_EQ(dialog.Run({[&] {
-        dialog.Click(Family::Power, 6910);
-        dialog.PressOk();
-    }}),
-              IDOK);
-    EXPECT_THAT(Names(), ElementsAre(L"DEV1.API3N", L"DEV1.API1L", L"DEV1.API2L", L"DEV1.API3L"));
-}
-
 TEST_F(SelectionPages, IgnoreCommandsOfControlsThatTheyLack)
 {
     TestSelection dialog(m_device, m_names);
@@ -383,24 +315,6 @@ TEST_F(SelectionPages, ForwardOkAndCancelToTheDialog)
         TestSelection dialog(m_device, m_names);
         EXPECT_EQ(dialog.Run({[&] { ::SendMessageW(dialog.Page(Family::Power), WM_COMMAND, command, 0); }, [] {}}),
                   static_cast<INT_PTR>(command));
-    }
-}
-
-TEST_F(SelectionPages, NameTheirVariablesByDevicesOfAnyName)
-{
-    const std::wstring names[] = {std::wstring(300, L'Z'), L"Hall 3 . Line A", L"Cañón 中 \U0001F50C", L" ", L"A.B.C"};
-    for (const std::wstring& name : names) {
-        KZDriverDeviceZEP device({L"zep-1", name, 1, L"ZEP", L"", KZVariableGroups(0x74)});
-        m_names = {KZBasicString(name + L".HZIN"), KZBasicString(name + L"x.VI1N")};
-        TestSelection dialog(device, m_names);
-        EXPECT_EQ(dialog.Run({[&] {
-            EXPECT_FALSE(dialog.IsEnabled(Family::General, 6719));
-            EXPECT_EQ(dialog.CountChecked(Family::General), 1);
-            dialog.Click(Family::Harmonic, 7326);
-            dialog.PressOk();
-        }}),
-                  IDOK);
-        EXPECT_THAT(Names(), ElementsAre(name + L".ARM25A3L"));
     }
 }
 
