@@ -9,8 +9,14 @@ extern "C" BOOL APIENTRY DllMain(HINSTANCE instance, DWORD reason, LPVOID)
     if (reason == DLL_PROCESS_ATTACH) {
         if (!AfxInitExtensionModule(ZepModule, instance))
             return FALSE;
-        // Puts the dialog templates on the host's resource chain; AfxTermExtensionModule destroys it.
-        new CDynLinkLibrary(ZepModule);
+        try {
+            // Puts the dialog templates on the host's resource chain; AfxTermExtensionModule destroys it.
+            new CDynLinkLibrary(ZepModule);
+        } catch (...) {
+            // Out of memory. Windows loads no library whose start fails, and the host says so.
+            AfxTermExtensionModule(ZepModule, FALSE);
+            return FALSE;
+        }
     } else if (reason == DLL_PROCESS_DETACH) {
         AfxTermExtensionModule(ZepModule, FALSE);
     }
