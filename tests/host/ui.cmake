@@ -15,7 +15,6 @@ if(WIN32)
     ui/LayoutBoxTests.cpp
     ui/LayoutSizesTests.cpp
     ui/LayoutTests.cpp
-    ui/MessageBoxes.cpp
     ui/OptionsHubLayoutTests.cpp
     ui/OptionsHubTests.cpp
     ui/TestDialog.cpp

@@ -54,7 +54,7 @@ protected:
     [[nodiscard]] fs::path DocumentFile() const { return m_project.Path() / L"devices" / L"zep-01.xml"; }
 
     TemporaryFolder m_project;
-    MessageBoxes m_boxes;
+    kztest::MessageBoxes m_boxes;
     KZDriverDeviceZEP m_device{{L"zep-01", L"Filter 1", 1, L"ZEP", L"", {}}};
     DeviceDialog m_dialog{&m_device};
 };

@@ -76,7 +76,7 @@ TEST(DialogSetup, ShowsAMessageAndThenSelectsTheFieldsText)
     CEdit field;
     field.SubclassDlgItem(2, dialog.Window());
     field.SetWindowText(L"201");
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     KZShowMessageAndFocus(L"Between 0 and 200, please.", field);
     EXPECT_EQ(boxes.Texts(), (std::vector<std::wstring>{L"Between 0 and 200, please."}));
     EXPECT_EQ(::GetFocus(), field.m_hWnd);

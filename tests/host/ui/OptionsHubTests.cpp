@@ -193,7 +193,7 @@ TEST_F(OptionsHub, SaysInOneMessageThatADriverHasNothingToSetUpInASection)
         hub.SetChild();
         ASSERT_TRUE(hub.Create(m_owner.Window()));
         for (int section = 0; section < KZSectionCount; ++section) {
-            MessageBoxes boxes;
+            kztest::MessageBoxes boxes;
             hub.SendMessage(WM_COMMAND, static_cast<WPARAM>(KZSectionButtonBase + section));
             CString caption;
             hub.GetDlgItem(KZSectionButtonBase + section)->GetWindowText(caption);

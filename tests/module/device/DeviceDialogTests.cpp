@@ -8,7 +8,7 @@ namespace {
 TEST_F(DeviceDialog, EndsOkWithoutAChangeAsCancelAndWritesNothing)
 {
     const auto before = m_plant.DeviceText();
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     EXPECT_EQ(RunAndPressOk([] {}), IDCANCEL);
     EXPECT_TRUE(boxes.Take().empty());
     EXPECT_EQ(m_plant.DeviceText(), before);
@@ -16,14 +16,14 @@ TEST_F(DeviceDialog, EndsOkWithoutAChangeAsCancelAndWritesNothing)
 
 TEST_F(DeviceDialog, CountsTheSameNumberWrittenDifferentlyAsNoChange)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     EXPECT_EQ(RunAndPressOk([&] { Type(IDC_CURRENT, L"7"); }), IDCANCEL);
     EXPECT_TRUE(boxes.Take().empty());
 }
 
 TEST_F(DeviceDialog, CountsAMarkSetAndTakenBackAsNoChange)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     EXPECT_EQ(RunAndPressOk([&] {
                   Click(IDC_MODE);
                   Click(IDC_MODE);
@@ -33,9 +33,9 @@ TEST_F(DeviceDialog, CountsAMarkSetAndTakenBackAsNoChange)
 
 TEST_F(DeviceDialog, WritesEachChangedSettingAfterAYes)
 {
-    MessageBoxes boxes(IDYES);
+    kztest::MessageBoxes boxes(IDYES);
     EXPECT_EQ(RunAndPressOk([&] { Click(IDC_MODE); }), IDOK);
-    EXPECT_EQ(boxes.Take(), (std::vector{SeenMessage{Text(KZS_CONFIRM_WRITE), true}}));
+    EXPECT_EQ(boxes.Take(), (std::vector{kztest::SeenMessage{Text(KZS_CONFIRM_WRITE), true}}));
     EXPECT_EQ(Written(L"mode"), L"11");
     EXPECT_EQ(RunAndPressOk([&] { Click(IDC_FILTER + 1); }), IDOK);
     EXPECT_EQ(Written(L"filters"), L"2051");
@@ -49,7 +49,7 @@ TEST_F(DeviceDialog, WritesEachChangedSettingAfterAYes)
 
 TEST_F(DeviceDialog, NoticesAChangeInEveryBox)
 {
-    const MessageBoxes boxes(IDYES);
+    const kztest::MessageBoxes boxes(IDYES);
     for (int id = IDC_MODE; id < IDC_FILTER + 12; ++id) {
         m_plant.WriteDevice(Record);
         EXPECT_EQ(RunAndPressOk([&] { Click(id); }), IDOK) << id;
@@ -63,7 +63,7 @@ TEST_F(DeviceDialog, ClearsTheUnknownBitsWhenItWrites)
 {
     m_plant.WriteDevice("<information><mode>255</mode><filters>65535</filters><transRatio>1</transRatio>"
                         "<minCurrent>1</minCurrent><numZEP>1</numZEP></information>");
-    const MessageBoxes boxes(IDYES);
+    const kztest::MessageBoxes boxes(IDYES);
     EXPECT_EQ(RunAndPressOk([&] { Type(IDC_CURRENT, L"2"); }), IDOK);
     EXPECT_EQ(Written(L"mode"), L"15");
     EXPECT_EQ(Written(L"filters"), L"4095");
@@ -72,7 +72,7 @@ TEST_F(DeviceDialog, ClearsTheUnknownBitsWhenItWrites)
 TEST_F(DeviceDialog, StaysOpenAndWritesNothingAfterANo)
 {
     const auto before = m_plant.DeviceText();
-    MessageBoxes boxes(IDNO);
+    kztest::MessageBoxes boxes(IDNO);
     EXPECT_EQ(RunAndPressOk([&] { Type(IDC_CURRENT, L"50"); }), StillOpen);
     EXPECT_EQ(boxes.Take().size(), 1U);
     EXPECT_EQ(m_plant.DeviceText(), before);
@@ -80,7 +80,7 @@ TEST_F(DeviceDialog, StaysOpenAndWritesNothingAfterANo)
 
 TEST_F(DeviceDialog, StaysOpenWhenTheRecordCannotBeStored)
 {
-    MessageBoxes boxes(IDYES);
+    kztest::MessageBoxes boxes(IDYES);
     EXPECT_EQ(RunAndPressOk([&] {
                   KZMainCfg::SetProjectFolder(L"");
                   Type(IDC_CURRENT, L"50");
@@ -91,7 +91,7 @@ TEST_F(DeviceDialog, StaysOpenWhenTheRecordCannotBeStored)
 
 TEST_F(DeviceDialog, ShowsTheArrowAgainAfterWriting)
 {
-    const MessageBoxes boxes(IDYES);
+    const kztest::MessageBoxes boxes(IDYES);
     RunAndPressOk([&] { Type(IDC_CURRENT, L"50"); });
     EXPECT_EQ(::GetCursor(), ::LoadCursorW(nullptr, IDC_ARROW));
 }
@@ -120,7 +120,7 @@ TEST_F(DeviceDialog, EndsWithCancelOnCancelEscapeAndTheCloseBox)
 
 TEST_F(DeviceDialog, TakesEnterForOk)
 {
-    const MessageBoxes boxes(IDYES);
+    const kztest::MessageBoxes boxes(IDYES);
     EXPECT_EQ(Run([&] {
                   Type(IDC_CURRENT, L"50");
                   Item(IDC_CURRENT).SetFocus();
@@ -152,7 +152,7 @@ protected:
     // Presses OK with the text in the field; expects the message, the focus and the selection, and the dialog open.
     void ExpectRefused(int id, const wchar_t* text, const std::wstring& message)
     {
-        MessageBoxes boxes;
+        kztest::MessageBoxes boxes;
         int focus = 0;
         DWORD start = 0;
         DWORD end = 0;
@@ -164,7 +164,7 @@ protected:
                   }),
                   StillOpen)
             << testing::PrintToString(std::wstring(text));
-        EXPECT_EQ(boxes.Take(), (std::vector{SeenMessage{message, false}}));
+        EXPECT_EQ(boxes.Take(), (std::vector{kztest::SeenMessage{message, false}}));
         EXPECT_EQ(focus, id);
         EXPECT_EQ(start, 0U);
         EXPECT_EQ(end, std::wcslen(text));
@@ -172,7 +172,7 @@ protected:
     void ExpectAccepted(int id, const wchar_t* text)
     {
         m_plant.WriteDevice(Record);
-        MessageBoxes boxes(IDYES);
+        kztest::MessageBoxes boxes(IDYES);
         EXPECT_EQ(RunAndPressOk([&] { Type(id, text); }), IDOK) << testing::PrintToString(std::wstring(text));
         EXPECT_EQ(boxes.Take().size(), 1U);
     }
@@ -206,20 +206,20 @@ TEST_F(DeviceDialogRefusal, OfNumbersOfUnits)
 TEST_F(DeviceDialogRefusal, OfARatioThatTheDocumentLacks)
 {
     m_plant.WriteDevice("<information><minCurrent/><numZEP/></information>");
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     EXPECT_EQ(RunAndPressOk([] {}), StillOpen);
-    EXPECT_EQ(boxes.Take(), (std::vector{SeenMessage{Text(KZS_FIELD_EMPTY), false}}));
+    EXPECT_EQ(boxes.Take(), (std::vector{kztest::SeenMessage{Text(KZS_FIELD_EMPTY), false}}));
 }
 
 TEST_F(DeviceDialogRefusal, ReportsTheFirstFieldOnly)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     EXPECT_EQ(RunAndPressOk([&] {
                   Type(IDC_CURRENT, L"201");
                   Type(IDC_UNITS, L"9");
               }),
               StillOpen);
-    EXPECT_EQ(boxes.Take(), (std::vector{SeenMessage{Range(0, 200), false}}));
+    EXPECT_EQ(boxes.Take(), (std::vector{kztest::SeenMessage{Range(0, 200), false}}));
 }
 
 }  // namespace

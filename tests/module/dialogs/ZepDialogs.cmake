@@ -15,8 +15,7 @@ add_library(zep_dialogs STATIC
   ${module}/shared/ControlText.cpp
   ${module}/shared/LayoutPlan.cpp
   ${module}/shared/TabImages.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/DialogRun.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/MessageBoxes.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/DialogRun.cpp)
 kz_common(zep_dialogs)
 target_include_directories(zep_dialogs PUBLIC ${CMAKE_CURRENT_LIST_DIR} ${module}/resources ${module}/shared)
 target_link_libraries(zep_dialogs PUBLIC KZUsrZEPRules KZHost KZMfc)

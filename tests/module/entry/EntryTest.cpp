@@ -16,7 +16,7 @@
 #include "KZDriverServices.h"
 #include "KZLoadString.h"
 #include "KZStringIds.h"
-#include "MessageTexts.h"
+#include "MessageBoxes.h"
 
 namespace {
 
@@ -182,9 +182,9 @@ TEST_F(DriverModule, SaysSoWhenTheDeviceHasNoneOfTheGroups)
     ASSERT_TRUE(m_module.Initialize());
     m_names = {L"DEV1.HZIN"};
     for (const unsigned long long groups : {0ULL, 1ULL, 1ULL << 33, ~0x74ULL & ((1ULL << 34) - 1)}) {
-        MessageBoxes boxes;
+        kztest::MessageBoxes boxes;
         EXPECT_FALSE(Select(groups));
-        EXPECT_THAT(TextsOf(boxes), ElementsAre(std::wstring(KZLoadString(KZS_NO_SUCH_VARIABLES).View())));
+        EXPECT_THAT(boxes.Texts(), ElementsAre(std::wstring(KZLoadString(KZS_NO_SUCH_VARIABLES).View())));
     }
     EXPECT_EQ(m_names.size(), 1U);
 }
@@ -241,10 +241,10 @@ TEST_F(DriverModule, ReportsRunningOutOfMemoryAndAnswersFalse)
 {
     ASSERT_TRUE(m_module.Initialize());
     CWnd parent;
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     const kztest::FaultyMemory memory(m_module.Handle(), [](std::size_t) { return true; });
     EXPECT_FALSE(KZDriverServices::Find(ZepClass())->createChildOptions(&parent, &m_device));
-    EXPECT_EQ(TextsOf(boxes).size(), 1U);
+    EXPECT_EQ(boxes.Texts().size(), 1U);
 }
 
 TEST(DriverModuleFile, LeavesNoResourcesBehindWhenFreed)

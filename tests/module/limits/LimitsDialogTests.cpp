@@ -196,7 +196,7 @@ protected:
     Outcome PressOk(const std::function<void()>& step, const std::function<void(Outcome&)>& look = {})
     {
         Outcome outcome;
-        MessageBoxes boxes;
+        kztest::MessageBoxes boxes;
         EXPECT_EQ(Run([&] {
                       step();
                       Press(IDOK);
@@ -205,7 +205,7 @@ protected:
                           look(outcome);
                   }),
                   StillOpen);
-        for (const SeenMessage& seen : boxes.Take()) {
+        for (const kztest::SeenMessage& seen : boxes.Take()) {
             EXPECT_FALSE(seen.asksYesNo);
             outcome.messages.push_back(seen.text);
         }

@@ -6,7 +6,7 @@
 
 #include "KZLoadString.h"
 #include "KZStringIds.h"
-#include "MessageTexts.h"
+#include "MessageBoxes.h"
 #include "SelectVarControls.h"
 #include "SelectVarMessages.h"
 #include "SelectionFixture.h"
@@ -199,7 +199,7 @@ TEST_F(SelectionDialog, BehavesTheSameForAnyText)
 
 TEST_F(SelectionDialog, WithoutALimitTakesEveryVariable)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names);
     EXPECT_EQ(dialog.Run({[&] {
         for (const Family family : {Family::General, Family::Power, Family::Harmonic}) {
@@ -210,13 +210,13 @@ TEST_F(SelectionDialog, WithoutALimitTakesEveryVariable)
     }}),
               IDOK);
     EXPECT_EQ(m_names.size(), 118U);
-    EXPECT_THAT(TextsOf(boxes), IsEmpty());
+    EXPECT_THAT(boxes.Texts(), IsEmpty());
 }
 
 TEST_F(SelectionDialog, RefusesTheClickOverALimitOfOneWithItsOwnMessage)
 {
     ForEachLanguage([this] {
-        MessageBoxes boxes;
+        kztest::MessageBoxes boxes;
         TestSelection dialog(m_device, m_names, 1);
         dialog.Run({[&] {
             dialog.Click(Family::General, 6718);
@@ -224,26 +224,26 @@ TEST_F(SelectionDialog, RefusesTheClickOverALimitOfOneWithItsOwnMessage)
             EXPECT_TRUE(dialog.IsChecked(Family::General, 6718));
             EXPECT_FALSE(dialog.IsChecked(Family::Power, 6922));
         }});
-        EXPECT_THAT(TextsOf(boxes), ElementsAre(HostText(KZS_MAX_ONE_VARIABLE)));
+        EXPECT_THAT(boxes.Texts(), ElementsAre(HostText(KZS_MAX_ONE_VARIABLE)));
     });
 }
 
 TEST_F(SelectionDialog, FormatsALargerLimitIntoItsMessage)
 {
     ForEachLanguage([this] {
-        MessageBoxes boxes;
+        kztest::MessageBoxes boxes;
         TestSelection dialog(m_device, m_names, 5);
         dialog.Run({[&] {
             dialog.Click(Family::Power, 6910);
             EXPECT_EQ(dialog.CountChecked(Family::Power), 0);
         }});
-        EXPECT_THAT(TextsOf(boxes), ElementsAre(KZBasicString::Format(HostText(KZS_MAX_VARIABLES).c_str(), 5).c_str()));
+        EXPECT_THAT(boxes.Texts(), ElementsAre(KZBasicString::Format(HostText(KZS_MAX_VARIABLES).c_str(), 5).c_str()));
     });
 }
 
 TEST_F(SelectionDialog, AllowsExactlyTheLimit)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names, 6);
     EXPECT_EQ(dialog.Run({[&] {
         dialog.Click(Family::Power, 6910);
@@ -251,12 +251,12 @@ TEST_F(SelectionDialog, AllowsExactlyTheLimit)
     }}),
               IDOK);
     EXPECT_EQ(m_names.size(), 6U);
-    EXPECT_THAT(TextsOf(boxes), IsEmpty());
+    EXPECT_THAT(boxes.Texts(), IsEmpty());
 }
 
 TEST_F(SelectionDialog, AnswersAndCountsTheMessagesOfItsPages)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names, 3);
     dialog.Run({[&] {
         EXPECT_EQ(dialog.SendMessage(WM_SELECTVAR_SELECT, 2), 1);
@@ -266,12 +266,12 @@ TEST_F(SelectionDialog, AnswersAndCountsTheMessagesOfItsPages)
         EXPECT_EQ(dialog.SendMessage(WM_SELECTVAR_SELECT, 3), 1);
         EXPECT_EQ(dialog.SendMessage(WM_SELECTVAR_SELECT, 1), 0);
     }});
-    EXPECT_EQ(TextsOf(boxes).size(), 2U);
+    EXPECT_EQ(boxes.Texts().size(), 2U);
 }
 
 TEST_F(SelectionDialog, RecountsThePagesOnOk)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     m_names = {L"OTHER.X"};
     TestSelection dialog(m_device, m_names, 2);
     EXPECT_EQ(dialog.Run({[&] {
@@ -280,13 +280,13 @@ TEST_F(SelectionDialog, RecountsThePagesOnOk)
         dialog.PressOk();
     }}),
               TestSelection::StillOpen);
-    EXPECT_EQ(TextsOf(boxes).size(), 1U);
+    EXPECT_EQ(boxes.Texts().size(), 1U);
     EXPECT_THAT(Names(), ElementsAre(L"OTHER.X"));
 }
 
 TEST_F(SelectionDialog, CountsOnlyNewChoicesAgainstTheLimit)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     m_names = {L"DEV1.VI1N", L"DEV1.VI2N", L"DEV1.VI3N"};
     TestSelection dialog(m_device, m_names, 1);
     EXPECT_EQ(dialog.Run({[&] {
@@ -295,7 +295,7 @@ TEST_F(SelectionDialog, CountsOnlyNewChoicesAgainstTheLimit)
     }}),
               IDOK);
     EXPECT_THAT(Names(), ElementsAre(L"DEV1.HZIN"));
-    EXPECT_THAT(TextsOf(boxes), IsEmpty());
+    EXPECT_THAT(boxes.Texts(), IsEmpty());
 }
 
 TEST_F(SelectionDialog, GrowsWithItsHighestPage)

@@ -9,7 +9,7 @@
 #include "CDlgSelectVarPowerZEP.h"
 #include "FaultyMemory.h"
 #include "GuiResources.h"
-#include "MessageTexts.h"
+#include "MessageBoxes.h"
 #include "SelectVarControls.h"
 #include "SelectionFixture.h"
 
@@ -66,7 +66,7 @@ TEST_F(SelectionFaults, SurviveTheFailureOfAnyOneAllocation)
 {
     // Opens the dialog with one allocation of the module failing; none for -1. Returns how many there were.
     const auto open = [this](int failing) {
-        MessageBoxes boxes;  // what cannot be carried out is said
+        kztest::MessageBoxes boxes;  // what cannot be carried out is said
         int count = 0;
         const kztest::FaultyMemory memory(Module(), [&](std::size_t) { return count++ == failing; });
         TestSelection dialog(m_device, m_names);

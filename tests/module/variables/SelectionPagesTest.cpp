@@ -8,7 +8,7 @@
 #include <set>
 
 #include "KZStringIds.h"
-#include "MessageTexts.h"
+#include "MessageBoxes.h"
 #include "SelectVarControls.h"
 #include "SelectVarMessages.h"
 #include "SelectionFixture.h"
@@ -138,7 +138,7 @@ TEST_F(SelectionPages, AskForOneVariableAtAClickAndGiveItBackAtTheNext)
 
 TEST_F(SelectionPages, TakeARefusedClickBackWithoutGivingAnythingBack)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names, 1);
     dialog.Run({[&] {
         dialog.Click(Family::General, 6718);
@@ -232,7 +232,7 @@ TEST_F(SelectionPages, CompleteAPartialGroupByWhatItLacks)
 
 TEST_F(SelectionPages, ChangeNothingWhenAGroupIsRefused)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names, 5);
     dialog.Run({[&] {
         dialog.Click(Family::Harmonic, 7240);
@@ -287,7 +287,7 @@ TEST_F(SelectionPages, RefreshBothSidesOfAToggledRow)
 
 TEST_F(SelectionPages, KeepTheirPicturesWhenAGroupIsRefused)
 {
-    MessageBoxes boxes;
+    kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names, 1);
     dialog.Run({[&] {
         const HIMAGELIST untouched = PictureOf(dialog.Control(Family::Power, 7066));

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace kztest {
+
 struct SeenMessage {
     std::wstring text;
     bool asksYesNo = false;
@@ -21,8 +23,9 @@ public:
     MessageBoxes(const MessageBoxes&) = delete;
     MessageBoxes& operator=(const MessageBoxes&) = delete;
 
-    // What was said since the last call.
+    // What was said since the last Take.
     [[nodiscard]] std::vector<SeenMessage> Take();
+    [[nodiscard]] std::vector<std::wstring> Texts() const;
 
 private:
     static LRESULT CALLBACK Hook(int code, WPARAM wParam, LPARAM lParam);
@@ -32,3 +35,5 @@ private:
     std::vector<SeenMessage> m_seen;
     HWND m_last = nullptr;
 };
+
+}  // namespace kztest
