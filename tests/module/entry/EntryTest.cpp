@@ -1,4 +1,5 @@
 // The module as the host sees it: a DLL that is attached, registered, called and detached.
+#include <afxcmn.h>
 #include <afxwin.h>
 
 #include <gmock/gmock.h>
@@ -213,6 +214,34 @@ TEST_F(DriverModule, MakesTheOptionsAsAChildOfTheParent)
     EXPECT_NE(child->GetStyle() & WS_CHILD, 0U);
     child->DestroyWindow();
     delete child;
+    parent.DestroyWindow();
+}
+
+HIMAGELIST PictureOf(const CWnd& hub, int section)
+{
+    BUTTON_IMAGELIST picture{};
+    ::SendDlgItemMessageW(hub.m_hWnd, KZSectionButtonBase + section, BCM_GETIMAGELIST, 0,
+                          reinterpret_cast<LPARAM>(&picture));
+    return picture.himl;
+}
+
+TEST_F(DriverModule, ShowsItsDevicesPictureOnTheDeviceSectionAlone)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    CWnd parent;
+    ASSERT_TRUE(parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW, 0, 0, 800, 600, nullptr, nullptr));
+    KZDlgOptions plain(&parent, &m_device);
+    plain.SetChild();
+    ASSERT_TRUE(plain.Create(&parent));
+    CDialog* child = KZDriverServices::Find(ZepClass())->createChildOptions(&parent, &m_device);
+    ASSERT_TRUE(child);
+    for (int section = 0; section < KZSectionCount; ++section) {
+        EXPECT_TRUE(PictureOf(*child, section)) << section;
+        EXPECT_EQ(PictureOf(*child, section) != PictureOf(plain, section), section == KZSectionDevice) << section;
+    }
+    child->DestroyWindow();
+    delete child;
+    plain.DestroyWindow();
     parent.DestroyWindow();
 }
 
