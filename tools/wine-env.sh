@@ -94,5 +94,5 @@ wine_locale() {
     rm -rf "$compiled"
   fi
   export LOCPATH=$folder
-  export LC_ALL=$1.UTF-8
+  export LC_ALL=$1.UTF-8 2> /dev/null
 }
