@@ -2,8 +2,7 @@
 
 #include <filesystem>
 
-#include "KZBaseDeviceCfg.h"
-#include "KZMainCfg.h"
+#include "DeviceDocument.h"
 #include "KZPictures.h"
 #include "KZQuorvelantaSetup.h"
 #include "resources/EditorIds.h"
@@ -14,16 +13,12 @@ namespace fs = std::filesystem;
 
 void RequireDeviceDocument(const KZDriver& driver)
 {
-    const KZBasicString fileName = KZBaseDeviceCfg::DocumentFileName(driver.DriverId());
-    const fs::path file = fs::path(KZMainCfg::ProjectFolder().c_str()) / L"devices" / fileName.c_str();
+    const fs::path file = DeviceDocumentFile(driver);
     std::error_code ignored;
     if (!fs::exists(file, ignored))
         throw EditorError(FormatEditorText(IDS_DEVICE_NO_DOCUMENT, file.c_str()));
-    // A file without content is a document of a device that nobody has set up yet.
-    if (fs::is_regular_file(file, ignored) && fs::file_size(file, ignored) == 0)
-        return;
     XmlDocument document(L"device");
-    if (const KZDocumentResult read = document.Load(file); !read)
+    if (const KZDocumentResult read = ReadDeviceDocument(driver, document); !read)
         throw EditorError(FormatEditorText(IDS_DEVICE_BROKEN_DOCUMENT, read.message.c_str()));
 }
 

@@ -1,8 +1,7 @@
 // The project's devices in a report list: number, name, model, description, state of their module.
 #pragma once
 
-#include <windows.h>
-
+#include "ReportList.h"
 #include "modules/ModuleLoader.h"
 #include "project/Project.h"
 
@@ -15,13 +14,10 @@ public:
     [[nodiscard]] int Selected() const noexcept;
     void Select(int row) noexcept;
 
-    // Gives the description what the other columns leave of the list's width.
-    void FitColumns() noexcept;
+    void FitColumns() noexcept { m_list.FitColumns(); }
 
 private:
-    void AddColumns();
-    void AddRow(int row, const Device& device, const ModuleStatus& status);
-    void SetText(int row, int column, const wchar_t* text) noexcept;
+    void ShowRow(int row, const Device& device, const ModuleStatus& status);
 
-    HWND m_list = nullptr;
+    ReportList m_list;
 };

@@ -10,6 +10,7 @@
 #include "ModuleSummary.h"
 #include "WindowIcon.h"
 #include "project/ChosenVariables.h"
+#include "summary/DeviceSummary.h"
 #include "text/EditorText.h"
 #include "text/Utf8.h"
 
@@ -20,10 +21,11 @@ constexpr KZVariableGroups measuredGroups{0x74};
 
 // The list gets a third of what the window grows in height, the panes below it the rest.
 constexpr Anchor anchors[] = {
-    {IDC_DEVICES_LABEL, 0, 0, 0, 0}, {IDC_DEVICES, 0, 0, 100, 33},      {IDC_SELECT, 0, 33, 0, 0},
-    {IDC_OPTIONS, 0, 33, 0, 0},      {IDC_SAVE, 100, 33, 0, 0},         {IDC_CHOSEN_LABEL, 0, 33, 0, 0},
-    {IDC_CHOSEN, 0, 33, 30, 67},     {IDC_REMOVE, 0, 100, 0, 0},        {IDC_PANE_LABEL, 30, 33, 70, 0},
-    {IDC_PANE, 30, 33, 70, 67},      {IDC_MODULES_LABEL, 0, 100, 0, 0}, {IDC_MODULES, 0, 100, 100, 0},
+    {IDC_DEVICES_LABEL, 0, 0, 0, 0},   {IDC_DEVICES, 0, 0, 100, 33},    {IDC_SELECT, 0, 33, 0, 0},
+    {IDC_OPTIONS, 0, 33, 0, 0},        {IDC_SAVE, 100, 33, 0, 0},       {IDC_CHOSEN_LABEL, 0, 33, 0, 0},
+    {IDC_CHOSEN, 0, 33, 20, 67},       {IDC_REMOVE, 0, 100, 0, 0},      {IDC_SUMMARY_LABEL, 20, 33, 40, 0},
+    {IDC_SUMMARY, 20, 33, 40, 67},     {IDC_PANE_LABEL, 60, 33, 40, 0}, {IDC_PANE, 60, 33, 40, 67},
+    {IDC_MODULES_LABEL, 0, 100, 0, 0}, {IDC_MODULES, 0, 100, 100, 0},
 };
 
 constexpr struct {
@@ -32,7 +34,8 @@ constexpr struct {
 } captions[] = {
     {IDC_DEVICES_LABEL, IDS_DEVICES_LABEL}, {IDC_OPTIONS, IDS_BUTTON_OPTIONS},
     {IDC_SELECT, IDS_BUTTON_SELECT},        {IDC_SAVE, IDS_BUTTON_SAVE},
-    {IDC_REMOVE, IDS_BUTTON_REMOVE},        {IDC_MODULES_LABEL, IDS_MODULES_LABEL},
+    {IDC_REMOVE, IDS_BUTTON_REMOVE},        {IDC_SUMMARY_LABEL, IDS_SUMMARY_LABEL},
+    {IDC_MODULES_LABEL, IDS_MODULES_LABEL},
 };
 
 }  // namespace
@@ -77,6 +80,7 @@ BOOL MainWindow::OnInitDialog()
     m_pane.CreateInPlaceOf(*this, IDC_PANE);
     m_layout.Capture(m_hWnd, anchors);
     m_chosen.Attach(::GetDlgItem(m_hWnd, IDC_CHOSEN), ::GetDlgItem(m_hWnd, IDC_CHOSEN_LABEL));
+    m_summary.Attach(::GetDlgItem(m_hWnd, IDC_SUMMARY));
     m_devices.Fill(::GetDlgItem(m_hWnd, IDC_DEVICES), m_project, m_modules);
     m_devices.Select(0);
     ShowDevice();
@@ -122,6 +126,7 @@ void MainWindow::ShowDevice()
     const Device* device = SelectedDevice();
     m_shownRow = m_devices.Selected();
     ShowChosenVariables();
+    ShowSummary();
     SetDlgItemText(IDC_PANE_LABEL, device ? FormatEditorText(IDS_PANE_LABEL, device->driver->Name().c_str()).c_str()
                                           : EditorText(IDS_PANE_LABEL_NONE).c_str());
     if (!device) {
@@ -146,6 +151,12 @@ void MainWindow::ShowChosenVariables()
 {
     const Device* device = SelectedDevice();
     m_chosen.Show(device ? ChosenVariables(*KZMainCfg::Get(), *device->driver) : VariableList{});
+}
+
+void MainWindow::ShowSummary()
+{
+    const Device* device = SelectedDevice();
+    m_summary.Show(device ? DeviceSummary(*KZMainCfg::Get(), *device->driver) : SummaryRows{});
 }
 
 void MainWindow::ShowState()
@@ -190,6 +201,7 @@ void MainWindow::OpenOptions()
 {
     const KZDriverCallbacks* callbacks = SelectedCallbacks();
     callbacks->options(this, SelectedDevice()->driver.get());
+    ShowSummary();
     ShowState();
 }
 
@@ -264,6 +276,7 @@ void MainWindow::OnSize(UINT type, int cx, int cy)
     CDialog::OnSize(type, cx, cy);
     m_layout.Apply();
     m_devices.FitColumns();
+    m_summary.FitColumns();
 }
 
 void MainWindow::OnGetMinMaxInfo(MINMAXINFO* information)
@@ -310,6 +323,7 @@ LRESULT MainWindow::OnListKey(WPARAM wParam, LPARAM)
 
 LRESULT MainWindow::OnOptionsChanged(WPARAM, LPARAM)
 {
+    ShowSummary();
     ShowState();
     return 0;
 }

@@ -1,4 +1,5 @@
-// The editor's main window: the devices of the project, what is chosen of the selected one, and its options.
+// The editor's main window: the devices of the project and, of the selected one, what is chosen, what is set, and its
+// options.
 #pragma once
 
 #include <afxwin.h>
@@ -7,6 +8,7 @@
 #include "ChildPane.h"
 #include "ChosenListBox.h"
 #include "DeviceListView.h"
+#include "SummaryView.h"
 
 class MainWindow : public CDialog {
 public:
@@ -67,6 +69,7 @@ private:
     void ShowDevice();
     void ShowModules();
     void ShowChosenVariables();
+    void ShowSummary();
     void ShowState();
     [[nodiscard]] const Device* SelectedDevice() const;
     [[nodiscard]] const KZDriverCallbacks* SelectedCallbacks() const;
@@ -76,6 +79,7 @@ private:
     AnchoredControls m_layout;
     DeviceListView m_devices;
     ChosenListBox m_chosen;
+    SummaryView m_summary;
     ChildPane m_pane;
     HACCEL m_accelerators = nullptr;
     int m_shownRow = -1;

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr unsigned firstText = IDS_PROJECT_NO_FOLDER;
-constexpr unsigned lastText = IDS_PICTURE_MISSING;
+constexpr unsigned lastText = IDS_SUMMARY_LIMITS_VALUE;
 
 // The conversions of a printf format, in their order.
 std::vector<wchar_t> Conversions(const std::wstring& format)

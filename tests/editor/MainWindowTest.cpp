@@ -23,6 +23,7 @@ using testing::HasSubstr;
 constexpr wchar_t cleanTitle[] = L"KZEditor – plant";
 constexpr wchar_t dirtyTitle[] = L"KZEditor – plant *";
 constexpr int firstSection = 1200;  // the first button of a driver's options dialog
+constexpr int unitsSection = firstSection + 3;
 
 class MainWindowTest : public EditorTest {
 protected:
@@ -78,6 +79,17 @@ protected:
         wchar_t text[256] = L"";
         ::SendMessageW(Control(IDC_CHOSEN), LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text));
         return ToUtf8(text);
+    }
+
+    // A value of the summary by its name; empty when it has no row of that name.
+    [[nodiscard]] std::wstring Summary(const std::wstring& name) const
+    {
+        const HWND list = Control(IDC_SUMMARY);
+        const auto rows = static_cast<int>(::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+        for (int row = 0; row < rows; ++row)
+            if (ListCell(*m_editor, list, row, 1) == name)
+                return ListCell(*m_editor, list, row, 2);
+        return {};
     }
 
     void MakeDirty()
@@ -235,6 +247,42 @@ TEST_F(MainWindowTest, ShowsTheChosenVariablesOfTheSelectedDeviceOnly)
     EXPECT_EQ(ChosenCount(), 2);
 }
 
+TEST_F(MainWindowTest, ShowsTheSettingsUnitsAndLimitsOfTheSelectedDevice)
+{
+    m_program.AddModule("ready");
+    m_folder.Write("plant/devices/zep-1.xml", "<device><information><numZEP>3</numZEP></information></device>");
+    m_folder.Write("plant/devices/zep-2.xml", "<device><information><numZEP>8</numZEP></information></device>");
+    Open();
+    const HWND list = Control(IDC_SUMMARY);
+    EXPECT_EQ(ListCell(*m_editor, list, 0, 0), L"Device");
+    EXPECT_EQ(ListCell(*m_editor, list, 1, 0), L"");
+    EXPECT_EQ(Summary(L"Number of ZEP units"), L"3");
+    EXPECT_EQ(Summary(L"Reactive power"), L"VAR, 1 decimal");
+    EXPECT_EQ(Summary(L"–"), L"no limits set");
+    ChooseRow(1);
+    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Number of ZEP units") == L"8"; }));
+}
+
+TEST_F(MainWindowTest, ShowsAChangeMadeInTheEmbeddedOptionsAtOnce)
+{
+    m_program.AddModule("ready");
+    Open();
+    ASSERT_TRUE(WaitUntil([&] { return EmbeddedDialog() != nullptr; }));
+    Press(EmbeddedDialog(), unitsSection);
+    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Reactive power") == L"kVAR, 1 decimal"; }));
+    ExpectTitle(dirtyTitle);
+}
+
+TEST_F(MainWindowTest, ShowsWhatChangedWhileTheOptionsWereOpen)
+{
+    m_program.AddModule("ready");
+    Open();
+    Press(m_window, IDC_OPTIONS);
+    m_folder.Write("plant/devices/zep-1.xml", "<device><information><numZEP>5</numZEP></information></device>");
+    Answer(L"test options", IDCANCEL);
+    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Number of ZEP units") == L"5"; }));
+}
+
 TEST_F(MainWindowTest, ClosesWithoutQuestionWhenNothingChanged)
 {
     m_program.AddModule("ready");
@@ -339,8 +387,8 @@ TEST_F(MainWindowTest, KeepsItsControlsApartWhenItGrows)
     m_program.AddModule("ready");
     Open();
     ::SetWindowPos(m_window, nullptr, 0, 0, 1250, 950, SWP_NOZORDER);
-    const int controls[] = {IDC_DEVICES, IDC_SELECT, IDC_OPTIONS, IDC_SAVE,
-                            IDC_CHOSEN,  IDC_REMOVE, IDC_PANE,    IDC_MODULES};
+    const int controls[] = {IDC_DEVICES, IDC_SELECT,  IDC_OPTIONS, IDC_SAVE,   IDC_CHOSEN,
+                            IDC_REMOVE,  IDC_SUMMARY, IDC_PANE,    IDC_MODULES};
     RECT client{};
     ::GetClientRect(m_window, &client);
     ::MapWindowPoints(m_window, nullptr, reinterpret_cast<POINT*>(&client), 2);

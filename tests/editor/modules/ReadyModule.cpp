@@ -44,6 +44,23 @@ bool Select(CWnd* parent, KZDriver* driver, std::list<KZBasicString>& variables,
     return true;
 }
 
+// Its units section sets the reactive power to thousands, without a question.
+class TestOptions : public KZDlgOptions {
+public:
+    using KZDlgOptions::KZDlgOptions;
+
+private:
+    bool SetupUnits() override
+    {
+        XmlDocument::XmlNode* setups = KZMainCfg::Get()->Root()->NewChild(L"unitSetups", nullptr);
+        XmlDocument::XmlNode* setup = setups->NewChild(L"unitSetup", nullptr);
+        setup->SetValue(L"driverId", Driver()->DriverId().c_str());
+        setup->NewChild(L"unit", nullptr)->SetValue(L"name", L"RP");
+        KZMainCfg::Get()->SetDirty(true);
+        return true;
+    }
+};
+
 bool Third(CWnd*, KZDriver*)
 {
     return false;
@@ -53,7 +70,7 @@ CDialog* CreateChildOptions(CWnd* parent, KZDriver* driver)
 {
     if (driver->Name() == deviceWithoutDialog)
         return nullptr;
-    auto dialog = std::make_unique<KZDlgOptions>(parent, driver);
+    auto dialog = std::make_unique<TestOptions>(parent, driver);
     dialog->SetChild();
     return dialog->Create(parent) ? dialog.release() : nullptr;
 }
