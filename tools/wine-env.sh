@@ -15,6 +15,8 @@ wine_pin_session() {
   for range in "${ranges[@]}"; do mapfile -t -O ${#cpus[@]} cpus < <(seq "${range%-*}" "${range#*-}"); done
   if [ "$wine_session" != 96 ]; then index=1; fi
   wine_pin=(taskset -c "${cpus[index % ${#cpus[@]}]}")
+  # Wine maps a page at a fixed address. With random addresses one start in some thousands finds it taken and gives up.
+  if setarch --addr-no-randomize true 2> /dev/null; then wine_pin=(setarch --addr-no-randomize "${wine_pin[@]}"); fi
 }
 
 # wine_use SESSION: 96, 120 or 144 are sessions without a display at that many dots per inch (Wine reads the resolution once
