@@ -10,6 +10,7 @@
 namespace {
 
 CWinApp application(L"Tests");
+void (*crashNote)() = nullptr;
 
 // Wine's own libraries probe pointers and catch the faults; a fault there is not yet a crash.
 bool IsInSystemModule(HMODULE module) noexcept
@@ -50,12 +51,19 @@ LONG CALLBACK EndOnCrash(EXCEPTION_POINTERS* pointers)
     const auto offset = static_cast<char*>(record.ExceptionAddress) - reinterpret_cast<char*>(module);
     std::fprintf(stderr, "crash: exception %08lx at %p (%s + 0x%llx)\n", record.ExceptionCode, record.ExceptionAddress,
                  file, static_cast<unsigned long long>(offset));
+    if (crashNote)
+        crashNote();
     std::fflush(nullptr);
     ::TerminateProcess(::GetCurrentProcess(), kztest::CrashExitCode);
     return EXCEPTION_CONTINUE_SEARCH;
 }
 
 }  // namespace
+
+void kztest::SetCrashNote(void (*note)()) noexcept
+{
+    crashNote = note;
+}
 
 CWinApp& kztest::App() noexcept
 {

@@ -1,0 +1,80 @@
+#include "EventLog.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdio>
+
+#include "TestApp.h"
+
+namespace {
+
+constexpr long ToldEvery = 10'000;  // events between two words of progress
+
+}  // namespace
+
+EventLog::EventLog(std::uint64_t seed) : m_seed(seed), m_since(Now()), m_watchdog([this] { Watch(); })
+{
+    s_current = this;
+    kztest::SetCrashNote(&EventLog::DescribeCurrent);
+}
+
+EventLog::~EventLog()
+{
+    kztest::SetCrashNote(nullptr);
+    s_current = nullptr;
+    m_ended = true;
+    m_watchdog.join();
+}
+
+void EventLog::Add(const char* what, int control, long long value) noexcept
+{
+    const long now = Now();
+    m_slowest = std::max(m_slowest, now - m_since);
+    Event& event = m_events[static_cast<std::size_t>(m_count) % Remembered];
+    std::snprintf(event.what, sizeof event.what, "%s", what);
+    event.control = control;
+    event.value = value;
+    m_since = now;
+    if (++m_count % ToldEvery == 0) {
+        std::printf("%ld events\n", m_count.load());
+        std::fflush(stdout);
+    }
+}
+
+std::string EventLog::Describe() const
+{
+    std::string text =
+        "KZ_ENDURE_SEED=" + std::to_string(m_seed) + ", event " + std::to_string(m_count) + "; the last:";
+    const long count = m_count;
+    for (long index = std::max(0L, count - static_cast<long>(Remembered)); index < count; ++index) {
+        const Event& event = m_events[static_cast<std::size_t>(index) % Remembered];
+        text += "\n  " + std::to_string(index) + ": " + event.what + ", control " + std::to_string(event.control) +
+                ", " + std::to_string(event.value);
+    }
+    return text;
+}
+
+void EventLog::DescribeCurrent() noexcept
+{
+    if (s_current)
+        std::fprintf(stderr, "%s\n", s_current->Describe().c_str());
+}
+
+void EventLog::Watch() noexcept
+{
+    constexpr DWORD Interval = 100;  // milliseconds
+    while (!m_ended) {
+        ::Sleep(Interval);
+        if (Now() - m_since < HangMilliseconds)
+            continue;
+        std::fprintf(stderr, "hang: an event has taken %ld ms\n%s\n", Now() - m_since, Describe().c_str());
+        std::fflush(nullptr);
+        ::TerminateProcess(::GetCurrentProcess(), HangExitCode);
+    }
+}
+
+long EventLog::Now() noexcept
+{
+    return static_cast<long>(::GetTickCount64() & 0x7FFFFFFF);
+}

@@ -1,0 +1,10 @@
+// What must be true of a project's documents whatever a user did in the options: they are well-formed, and every record
+// that a dialog wrote holds what the dialog's own rules allow.
+#pragma once
+
+#include <string>
+
+// The first rule that the main configuration breaks; empty when there is none.
+[[nodiscard]] std::string BrokenRuleOfConfiguration(const std::string& text);
+// The same of a device's document.
+[[nodiscard]] std::string BrokenRuleOfDevice(const std::string& text);
