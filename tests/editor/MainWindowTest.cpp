@@ -1,110 +1,15 @@
-// The main window of the running editor, acted on from outside by control id.
-#include <windows.h>
+// The main window: devices, chosen variables, embedded options, saving, keys, sizes.
+#include "MainWindowFixture.h"
 
-#include <commctrl.h>
-#include <gmock/gmock.h>
-
-#include <stdexcept>
-
-#include "EditorFixture.h"
-#include "resources/EditorIds.h"
-#include "text/Utf8.h"
-
-namespace {
-
-using editor_tests::EditorProcess;
-using editor_tests::EditorTest;
+using editor_tests::cleanTitle;
+using editor_tests::dirtyTitle;
+using editor_tests::firstSection;
 using editor_tests::ListCell;
+using editor_tests::MainWindowTest;
 using editor_tests::Press;
 using editor_tests::TextOf;
 using editor_tests::WaitUntil;
 using testing::HasSubstr;
-
-constexpr wchar_t cleanTitle[] = L"KZEditor – plant";
-constexpr wchar_t dirtyTitle[] = L"KZEditor – plant *";
-constexpr int firstSection = 1200;  // the first button of a driver's options dialog
-constexpr int unitsSection = firstSection + 3;
-
-class MainWindowTest : public EditorTest {
-protected:
-    void Open() { TakeWindow(Start({})); }
-
-    void TakeWindow(EditorProcess& editor)
-    {
-        m_window = editor.WindowTitled(cleanTitle);
-        if (!m_window)
-            throw std::runtime_error("the main window does not appear");
-    }
-
-    [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(m_window, id); }
-
-    // Answers a dialog that a command opens.
-    void Answer(const std::wstring& title, int button)
-    {
-        const HWND box = m_editor->WindowTitled(title);
-        if (!box)
-            throw std::runtime_error("the dialog does not appear: " + ToUtf8(title));
-        Press(box, button);
-        EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
-    }
-
-    void ExpectTitle(const std::wstring& title) const
-    {
-        EXPECT_TRUE(WaitUntil([&] { return TextOf(m_window) == title; })) << ToUtf8(TextOf(m_window));
-    }
-
-    // Types a key as the keyboard would, into the control that has the focus or would have it.
-    static void Type(HWND control, WPARAM key) { ::PostMessageW(control, WM_KEYDOWN, key, 0); }
-
-    void ChooseRow(int row)
-    {
-        const HWND list = Control(IDC_DEVICES);
-        const auto selected = [&] {
-            return static_cast<int>(::SendMessageW(list, LVM_GETNEXTITEM, ~WPARAM{0}, LVNI_SELECTED));
-        };
-        for (int now = selected(); now != row; now = selected())
-            ::SendMessageW(list, WM_KEYDOWN, now < row ? VK_DOWN : VK_UP, 0);
-    }
-
-    // The embedded options dialog; null when the pane shows a text.
-    [[nodiscard]] HWND EmbeddedDialog() const
-    {
-        return ::FindWindowExW(Control(IDC_PANE), nullptr, L"#32770", nullptr);
-    }
-
-    [[nodiscard]] LRESULT ChosenCount() const { return ::SendMessageW(Control(IDC_CHOSEN), LB_GETCOUNT, 0, 0); }
-
-    [[nodiscard]] std::string Chosen(int row) const
-    {
-        wchar_t text[256] = L"";
-        ::SendMessageW(Control(IDC_CHOSEN), LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text));
-        return ToUtf8(text);
-    }
-
-    // A value of the summary by its name; empty when it has no row of that name.
-    [[nodiscard]] std::wstring Summary(const std::wstring& name) const
-    {
-        const HWND list = Control(IDC_SUMMARY);
-        const auto rows = static_cast<int>(::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-        for (int row = 0; row < rows; ++row)
-            if (ListCell(*m_editor, list, row, 1) == name)
-                return ListCell(*m_editor, list, row, 2);
-        return {};
-    }
-
-    void MakeDirty()
-    {
-        Press(m_window, IDC_OPTIONS);
-        Answer(L"test options", IDOK);
-        ExpectTitle(dirtyTitle);
-    }
-
-    void Close() { ::PostMessageW(m_window, WM_CLOSE, 0, 0); }
-
-    HWND m_window = nullptr;
-};
-
-}  // namespace
 
 TEST_F(MainWindowTest, ListsTheDevicesWithTheStateOfTheirModule)
 {
@@ -245,42 +150,6 @@ TEST_F(MainWindowTest, ShowsTheChosenVariablesOfTheSelectedDeviceOnly)
     EXPECT_EQ(ChosenCount(), 0);
     ChooseRow(0);
     EXPECT_EQ(ChosenCount(), 2);
-}
-
-TEST_F(MainWindowTest, ShowsTheSettingsUnitsAndLimitsOfTheSelectedDevice)
-{
-    m_program.AddModule("ready");
-    m_folder.Write("plant/devices/zep-1.xml", "<device><information><numZEP>3</numZEP></information></device>");
-    m_folder.Write("plant/devices/zep-2.xml", "<device><information><numZEP>8</numZEP></information></device>");
-    Open();
-    const HWND list = Control(IDC_SUMMARY);
-    EXPECT_EQ(ListCell(*m_editor, list, 0, 0), L"Device");
-    EXPECT_EQ(ListCell(*m_editor, list, 1, 0), L"");
-    EXPECT_EQ(Summary(L"Number of ZEP units"), L"3");
-    EXPECT_EQ(Summary(L"Reactive power"), L"VAR, 1 decimal");
-    EXPECT_EQ(Summary(L"–"), L"no limits set");
-    ChooseRow(1);
-    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Number of ZEP units") == L"8"; }));
-}
-
-TEST_F(MainWindowTest, ShowsAChangeMadeInTheEmbeddedOptionsAtOnce)
-{
-    m_program.AddModule("ready");
-    Open();
-    ASSERT_TRUE(WaitUntil([&] { return EmbeddedDialog() != nullptr; }));
-    Press(EmbeddedDialog(), unitsSection);
-    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Reactive power") == L"kVAR, 1 decimal"; }));
-    ExpectTitle(dirtyTitle);
-}
-
-TEST_F(MainWindowTest, ShowsWhatChangedWhileTheOptionsWereOpen)
-{
-    m_program.AddModule("ready");
-    Open();
-    Press(m_window, IDC_OPTIONS);
-    m_folder.Write("plant/devices/zep-1.xml", "<device><information><numZEP>5</numZEP></information></device>");
-    Answer(L"test options", IDCANCEL);
-    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Number of ZEP units") == L"5"; }));
 }
 
 TEST_F(MainWindowTest, ClosesWithoutQuestionWhenNothingChanged)

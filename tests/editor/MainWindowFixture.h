@@ -1,0 +1,101 @@
+// The running editor's main window, acted on from outside by control id.
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <gmock/gmock.h>
+
+#include <stdexcept>
+
+#include "EditorFixture.h"
+#include "resources/EditorIds.h"
+#include "text/Utf8.h"
+
+namespace editor_tests {
+
+inline constexpr wchar_t cleanTitle[] = L"KZEditor – plant";
+inline constexpr wchar_t dirtyTitle[] = L"KZEditor – plant *";
+inline constexpr int firstSection = 1200;  // the first button of a driver's options dialog
+inline constexpr int unitsSection = firstSection + 3;
+
+class MainWindowTest : public EditorTest {
+protected:
+    void Open() { TakeWindow(Start({})); }
+
+    void TakeWindow(EditorProcess& editor)
+    {
+        m_window = editor.WindowTitled(cleanTitle);
+        if (!m_window)
+            throw std::runtime_error("the main window does not appear");
+    }
+
+    [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(m_window, id); }
+
+    // Answers a dialog that a command opens.
+    void Answer(const std::wstring& title, int button)
+    {
+        const HWND box = m_editor->WindowTitled(title);
+        if (!box)
+            throw std::runtime_error("the dialog does not appear: " + ToUtf8(title));
+        Press(box, button);
+        EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+    }
+
+    void ExpectTitle(const std::wstring& title) const
+    {
+        EXPECT_TRUE(WaitUntil([&] { return TextOf(m_window) == title; })) << ToUtf8(TextOf(m_window));
+    }
+
+    // Types a key as the keyboard would, into the control that has the focus or would have it.
+    static void Type(HWND control, WPARAM key) { ::PostMessageW(control, WM_KEYDOWN, key, 0); }
+
+    void ChooseRow(int row)
+    {
+        const HWND list = Control(IDC_DEVICES);
+        const auto selected = [&] {
+            return static_cast<int>(::SendMessageW(list, LVM_GETNEXTITEM, ~WPARAM{0}, LVNI_SELECTED));
+        };
+        for (int now = selected(); now != row; now = selected())
+            ::SendMessageW(list, WM_KEYDOWN, now < row ? VK_DOWN : VK_UP, 0);
+    }
+
+    // The embedded options dialog; null when the pane shows a text.
+    [[nodiscard]] HWND EmbeddedDialog() const
+    {
+        return ::FindWindowExW(Control(IDC_PANE), nullptr, L"#32770", nullptr);
+    }
+
+    [[nodiscard]] LRESULT ChosenCount() const { return ::SendMessageW(Control(IDC_CHOSEN), LB_GETCOUNT, 0, 0); }
+
+    [[nodiscard]] std::string Chosen(int row) const
+    {
+        wchar_t text[256] = L"";
+        ::SendMessageW(Control(IDC_CHOSEN), LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text));
+        return ToUtf8(text);
+    }
+
+    // A value of the summary by its name; empty when it has no row of that name.
+    [[nodiscard]] std::wstring Summary(const std::wstring& name) const
+    {
+        const HWND list = Control(IDC_SUMMARY);
+        const auto rows = static_cast<int>(::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+        for (int row = 0; row < rows; ++row)
+            if (ListCell(*m_editor, list, row, 1) == name)
+                return ListCell(*m_editor, list, row, 2);
+        return {};
+    }
+
+    void MakeDirty()
+    {
+        Press(m_window, IDC_OPTIONS);
+        Answer(L"test options", IDOK);
+        ExpectTitle(dirtyTitle);
+    }
+
+    void Close() { ::PostMessageW(m_window, WM_CLOSE, 0, 0); }
+
+    HWND m_window = nullptr;
+};
+
+}  // namespace editor_tests

@@ -1,0 +1,45 @@
+// The main window shows what the selected device is set to, and follows a change at once.
+#include "MainWindowFixture.h"
+
+using editor_tests::dirtyTitle;
+using editor_tests::ListCell;
+using editor_tests::MainWindowTest;
+using editor_tests::Press;
+using editor_tests::unitsSection;
+using editor_tests::WaitUntil;
+
+TEST_F(MainWindowTest, ShowsTheSettingsUnitsAndLimitsOfTheSelectedDevice)
+{
+    m_program.AddModule("ready");
+    m_folder.Write("plant/devices/zep-1.xml", "<device><information><numZEP>3</numZEP></information></device>");
+    m_folder.Write("plant/devices/zep-2.xml", "<device><information><numZEP>8</numZEP></information></device>");
+    Open();
+    const HWND list = Control(IDC_SUMMARY);
+    EXPECT_EQ(ListCell(*m_editor, list, 0, 0), L"Device");
+    EXPECT_EQ(ListCell(*m_editor, list, 1, 0), L"");
+    EXPECT_EQ(Summary(L"Number of ZEP units"), L"3");
+    EXPECT_EQ(Summary(L"Reactive power"), L"VAR, 1 decimal");
+    EXPECT_EQ(Summary(L"–"), L"no limits set");
+    ChooseRow(1);
+    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Number of ZEP units") == L"8"; }));
+}
+
+TEST_F(MainWindowTest, ShowsAChangeMadeInTheEmbeddedOptionsAtOnce)
+{
+    m_program.AddModule("ready");
+    Open();
+    ASSERT_TRUE(WaitUntil([&] { return EmbeddedDialog() != nullptr; }));
+    Press(EmbeddedDialog(), unitsSection);
+    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Reactive power") == L"kVAR, 1 decimal"; }));
+    ExpectTitle(dirtyTitle);
+}
+
+TEST_F(MainWindowTest, ShowsWhatChangedWhileTheOptionsWereOpen)
+{
+    m_program.AddModule("ready");
+    Open();
+    Press(m_window, IDC_OPTIONS);
+    m_folder.Write("plant/devices/zep-1.xml", "<device><information><numZEP>5</numZEP></information></device>");
+    Answer(L"test options", IDCANCEL);
+    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Number of ZEP units") == L"5"; }));
+}

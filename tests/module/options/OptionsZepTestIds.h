@@ -1,0 +1,3 @@
+#pragma once
+
+#define IDI_HOST_PROGRAM 500
