@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,8 @@ struct Section {
     void (*change)(HWND dialog);
     bool asks;                    // whether OK asks before it writes
     bool okWithoutChangeCancels;  // the limits dialog ends an OK without a change with OK
+
+    friend void PrintTo(const Section& section, std::ostream* out) { *out << section.name; }
 };
 
 // The page that holds the control; the dialog itself when it has it.
