@@ -2,7 +2,8 @@
 # To be sourced. A private virtual display with the editor on it, driven by a real mouse and a real keyboard (xdotool). The
 # probe tells where a control is and when a condition has come true; every wait has a limit, so a step either happens or
 # fails.
-# Needs desktop_bin (the folder of KZEditor.exe) and desktop_probe (WindowProbe.exe) set before.
+# Needs desktop_bin (the folder of KZEditor.exe) and desktop_probe (WindowProbe.exe) set before. desktop_locale may name a
+# user locale such as es_ES, desktop_failure a file for a picture of what was there when the script failed.
 
 . "$(dirname "${BASH_SOURCE[0]}")/wine-env.sh"
 
@@ -16,6 +17,7 @@ desktop_start() {
   wine_stop
   unset WAYLAND_DISPLAY XAUTHORITY
   export LC_ALL=C.UTF-8
+  if [ -n "${desktop_locale:-}" ]; then wine_locale "$desktop_locale"; fi
   Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3> "$desktop_folder/display" > /dev/null 2>&1 &
   desktop_xvfb=$!
   trap desktop_end EXIT
@@ -28,26 +30,39 @@ desktop_start() {
   [ "$DISPLAY" != : ] || desktop_die "Xvfb tells no display number"
   export DISPLAY
   wine_serve
+  desktop_probe_start
 }
 
 desktop_end() {
+  local status=$?
+  if [ "$status" != 0 ] && [ -n "${desktop_failure:-}" ]; then import -window root "$desktop_failure" || true; fi
   wine_stop
   kill "$desktop_xvfb" 2> /dev/null || true
   rm -rf "$desktop_folder"
 }
 
-# desktop_wine PROGRAM ARGUMENT...: its output comes through a file, since the processes that Wine starts beside it keep the
-# output open.
-desktop_wine() {
-  local output status=0
-  output=$(mktemp -p "$desktop_folder")
-  timeout 120 "${wine_pin[@]}" wine "$@" < /dev/null > "$output" 2> "$output.err" || status=$?
-  cat "$output"
-  cat "$output.err" >&2
-  return "$status"
+# probe COMMAND ARGUMENT...: asks the probe, which stays until the desktop ends; its answer and its exit status
+probe() {
+  local IFS=$'\t' line
+  if [ -z "${desktop_probe_pid:-}" ]; then desktop_die "the probe was not started"; fi
+  printf '%s\n' "$*" >&"$desktop_ask"
+  while IFS= read -r -t 60 line <&"$desktop_answer"; do
+    case $line in
+      =0) return 0 ;;
+      =*)
+        cat "$desktop_folder/probe.err" >&2
+        return "${line#=}" ;;
+      *) printf '%s\n' "$line" ;;
+    esac
+  done
+  desktop_die "the probe does not answer: $(cat "$desktop_folder/probe.err")"
 }
-
-probe() { desktop_wine "$desktop_probe" "$@"; }
+desktop_probe_start() {
+  coproc desktop_coproc { exec "${wine_pin[@]}" wine "$desktop_probe" serve 2> "$desktop_folder/probe.err"; }
+  # Copies of the two ends are there in subshells too, where those of the coprocess are not.
+  exec {desktop_answer}<&"${desktop_coproc[0]}" {desktop_ask}>&"${desktop_coproc[1]}"
+  desktop_probe_pid=$desktop_coproc_PID
+}
 
 # editor ARGUMENT...: starts the editor; editor_end waits until it has ended and stores what it wrote and its exit status.
 # Not to be called in a subshell, which could not wait for it.

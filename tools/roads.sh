@@ -40,15 +40,25 @@ id_harmonic_load_box=7288
 # The device settings; filter n is harmonic 2n + 3
 id_minimum_current=5062
 id_number_of_units=5077
+id_mode=8094
 id_filter=8098
 
 # The units dialog
+id_apparent_kilo=8020
 id_apparent_plain=8027
+id_apparent_one_decimal=8059
 id_apparent_three_decimals=8071
+id_reactive_kilo=8021
+id_reactive_plain=8028
+id_reactive_no_decimals=8050
+id_reactive_one_decimal=8060
+id_reactive_two_decimals=8066
 
 # The limits dialog; harmonic rows are first id + row
 id_limits_tab=5150
 id_active_power_outer=5406
+id_power_factor_inner=5392
+id_harmonic_nominal=5461
 id_harmonic_outer=5534
 
 open_editor() {
@@ -126,8 +136,37 @@ save_project() {
   until_control "$main_title" $id_save disabled
 }
 
+# enter ID TEXT: the same from the keyboard, in a dialog in which the Tab key reaches the box, which marks its text
+enter() {
+  tab_to '' "$1"
+  type_text "$2"
+  until_control '' "$1" "VALUE=$2"
+}
+
+# press_key_on ID KEY: brings the focus to the control of the dialog that takes input, then presses the key
+press_key_on() {
+  tab_to '' "$1"
+  key "$2"
+}
+
+# click_close_box TITLE: the middle of the close box is 12 and 13 pixels inside the frame's top right corner
+click_close_box() {
+  local x y width title
+  while read -r x y width _ _ title; do
+    if [[ $title == *"$1"* ]]; then
+      xdotool mousemove --sync $((x + width - 12)) $((y + 13)) click 1
+      return
+    fi
+  done < <(probe windows)
+  desktop_die "no window to close: $1"
+}
+
 close_editor() {
   key alt+F4
+  editor_ended
+}
+
+editor_ended() {
   editor_end
   [ "$editor_status" = 0 ] || desktop_die "the editor ended with $editor_status"
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # One end-to-end test: run.sh TEST LANGUAGE BUILD_FOLDER. The editor runs on a private display on a copy of examples/plant,
-# is driven by a real mouse and keyboard, and what it printed and saved is compared.
+# is driven by a real mouse and keyboard, and what it printed and saved is compared. A Spanish run has a Spanish user, too,
+# who writes 1,5. The pictures are under BUILD_FOLDER/e2e, that of a failure among them.
 set -euo pipefail
 test=$1 language=$2 build=$3
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
@@ -8,10 +9,15 @@ desktop_bin=$build/bin
 desktop_probe=$build/tools/WindowProbe.exe
 . "$root/tools/desktop.sh"
 . "$root/tools/roads.sh"
+. "$root/tests/e2e/documents.sh"
 . "$root/tests/e2e/selection.sh"
 . "$root/tests/e2e/options.sh"
+. "$root/tests/e2e/settings.sh"
+. "$root/tests/e2e/units.sh"
+. "$root/tests/e2e/limits.sh"
 
 project=$desktop_folder/plant
+pictures=$build/e2e/$test.$language
 
 # equal WHAT FOUND WANTED
 equal() {
@@ -19,27 +25,6 @@ equal() {
     printf '%s:\n%s\nwanted:\n%s\n' "$1" "$2" "$3" >&2
     exit 1
   fi
-}
-
-# chosen DRIVER_ID: the names that main.xml keeps for the device, one per line
-chosen() {
-  python3 - "$project/main.xml" "$1" <<'END'
-import sys, xml.etree.ElementTree as tree
-for selection in tree.parse(sys.argv[1]).iter("selection"):
-    if selection.findtext("driverId") == sys.argv[2]:
-        print(selection.findtext("variables") or "")
-END
-}
-
-# record SECTION DRIVER_ID ELEMENT: the element's texts in the device's record in a section of main.xml, on one line
-record() {
-  python3 - "$project/main.xml" "$@" <<'END'
-import sys, xml.etree.ElementTree as tree
-document, section, driver, element = sys.argv[1:]
-for record in tree.parse(document).find(section):
-    if record.findtext("driverId") == driver:
-        print(*(found.text for found in record.iter(element)))
-END
 }
 
 # command_result STATUS LINE...: the editor, run with a command, ended so and printed these lines
@@ -53,6 +38,19 @@ command_result() {
 # lines WORD...
 lines() { printf '%s\n' "$@"; }
 
+# in_language ENGLISH SPANISH: the one of the two that the user sees or types in this run
+in_language() { if [ "$language" = es ]; then echo "$2"; else echo "$1"; fi; }
+
+# snapshot NAME: one more picture of this test
+snapshot() {
+  snapshots=$((${snapshots:-0} + 1))
+  picture "$(printf '%s/%d-%s.png' "$pictures" "$snapshots" "$1")"
+}
+
+if [ "$language" = es ]; then desktop_locale=es_ES; fi
+rm -rf "$pictures"
+mkdir -p "$pictures"
+desktop_failure=$pictures/failure.png
 cp -r "$root/examples/plant" "$project"
 desktop_start
 "test_$test"

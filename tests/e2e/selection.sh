@@ -17,10 +17,13 @@ test_select_by_mouse() {
   until_control "$dialog" $((id_power_load_box + 3 + 4)) checked
   show_tab "$dialog" $id_select_tab 0 $id_general_net_box
   check_box "$dialog" $((id_general_net_box + 1))
+  snapshot selection
   close_dialog "$dialog" $id_ok
   until_control "$main_title" $id_chosen ITEMS=11
   save_project
-  close_editor
+  snapshot plant
+  click_close_box "$main_title"
+  editor_ended
   equal 'the chosen variables' "$(chosen zep-03)" "$(lines PINTURA.{HZIN,API2L,RPI2L,VAI2L,PFI2L,ARM5A{1,2,3}N,ARM5A{1,2,3}L})"
 }
 
@@ -42,6 +45,7 @@ test_select_by_keyboard() {
   tab_to "$dialog" $((id_power_load_box + 3))
   key space
   until_control "$dialog" $((id_power_load_box + 3)) checked
+  snapshot selection
   tab_to "$dialog" $id_ok
   key Return
   window_gone "$dialog"

@@ -10,6 +10,9 @@
 //   WindowProbe until TITLE ID STATE     until the control is shown, checked, unchecked, enabled, disabled or
 //                                        focused; holds ITEMS=n rows (list view, list box); has TEXT=… in its text;
 //                                        or has VALUE=… as its whole text
+//   WindowProbe serve                    reads such commands from standard input, one per line, the words divided by
+//   tabs,
+//                                        and ends the answer to each with a line of "=" and its exit status
 //
 // TITLE "" is the window that takes input now, "=TITLE" one with exactly that title. Of several controls with the id,
 // the one that is shown counts. Every wait ends after LimitMs with exit status 1 and the list of windows on standard
@@ -22,6 +25,7 @@
 
 #include <cstdio>
 #include <functional>
+#include <iostream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -233,15 +237,56 @@ int Run(const std::vector<std::wstring>& arguments)
     });
 }
 
-}  // namespace
-
-int wmain(int argc, wchar_t** argv)
+int RunOrReport(const std::vector<std::wstring>& arguments)
 {
-    _setmode(_fileno(stdout), _O_BINARY);  // scripts want plain line ends
     try {
-        return Run({argv + 1, argv + argc});
+        return Run(arguments);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "WindowProbe: %s\n", error.what());
         return 2;
     }
+}
+
+std::wstring Wide(std::string_view utf8)
+{
+    const int length = static_cast<int>(utf8.size());
+    std::wstring text(static_cast<size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, nullptr, 0)), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, text.data(), static_cast<int>(text.size()));
+    return text;
+}
+
+std::vector<std::wstring> Words(std::string_view line)
+{
+    std::vector<std::wstring> words;
+    for (size_t end = line.find('\t'); end != std::string_view::npos; end = line.find('\t')) {
+        words.push_back(Wide(line.substr(0, end)));
+        line.remove_prefix(end + 1);
+    }
+    words.push_back(Wide(line));
+    return words;
+}
+
+// A script asks some twenty times per test, and each start of a program takes far longer than the answer.
+void Serve()
+{
+    for (std::string line; std::getline(std::cin, line);) {
+        const int status = RunOrReport(Words(line));
+        std::printf("=%d\n", status);
+        std::fflush(stdout);
+        std::fflush(stderr);
+    }
+}
+
+}  // namespace
+
+int wmain(int argc, wchar_t** argv)
+{
+    // Scripts write and want plain line ends.
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
+    const std::vector<std::wstring> arguments(argv + 1, argv + argc);
+    if (arguments != std::vector<std::wstring>{L"serve"})
+        return RunOrReport(arguments);
+    Serve();
+    return 0;
 }
