@@ -7,16 +7,14 @@
 #include <functional>
 #include <string>
 
-#include "ControlText.h"
 #include "DeviceControls.h"
-#include "DialogRun.h"
 #include "KZDeviceCfgZEP.h"
 #include "KZLoadString.h"
 #include "KZStringIds.h"
 #include "MessageBoxes.h"
-#include "Plant.h"
+#include "ModalDialogTest.h"
 
-class DeviceDialog : public testing::Test {
+class DeviceDialog : public ModalDialogTest<KZDeviceCfgZEP> {
 protected:
     static constexpr const char* Record =
         "<information><version>1.04</version><serialNum>00731</serialNum><gamma>60 A</gamma><mode>10</mode>"
@@ -28,35 +26,17 @@ protected:
     [[nodiscard]] static std::wstring Text(unsigned id) { return KZLoadString(id).c_str(); }
 
     // Opens the dialog, runs the step, gives the modal result.
-    INT_PTR Run(const std::function<void()>& step)
+    INT_PTR Run(const std::function<void()>& step) override
     {
         KZDeviceCfgZEP dialog(nullptr, m_plant.Device(), nullptr);
-        m_dialog = &dialog;
-        const INT_PTR result = RunModal(dialog, step);
-        m_dialog = nullptr;
-        return result;
-    }
-    INT_PTR RunAndPressOk(const std::function<void()>& step)
-    {
-        return Run([&] {
-            step();
-            Press(IDOK);
-        });
+        return RunDialog(dialog, step);
     }
 
-    [[nodiscard]] CWnd& Item(int id) const { return *m_dialog->GetDlgItem(id); }
-    [[nodiscard]] std::wstring TextOf(int id) const { return ControlText(Item(id)).c_str(); }
-    [[nodiscard]] bool IsChecked(int id) const { return Item(id).SendMessage(BM_GETCHECK) == BST_CHECKED; }
     void Type(int id, const wchar_t* text) const { Item(id).SetWindowText(text); }
-    void Click(int id) const { Item(id).SendMessage(BM_CLICK); }
-    void Press(int id) const { m_dialog->SendMessage(WM_COMMAND, static_cast<WPARAM>(id)); }
     [[nodiscard]] std::wstring Written(const wchar_t* child) const
     {
         XmlDocument document(L"device");
         EXPECT_TRUE(document.Load(m_plant.DeviceFile()));
         return document.Root()->Value((std::wstring(L"information/") + child).c_str(), L"(none)");
     }
-
-    Plant m_plant;
-    KZDeviceCfgZEP* m_dialog = nullptr;
 };

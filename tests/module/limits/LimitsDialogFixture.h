@@ -10,38 +10,24 @@
 #include <vector>
 
 #include "CDlgLimitsZEP.h"
-#include "ControlText.h"
-#include "DialogRun.h"
 #include "KZLoadString.h"
 #include "LimitsControls.h"
 #include "LimitsTesting.h"
 #include "MessageBoxes.h"
-#include "Plant.h"
+#include "ModalDialogTest.h"
 
-class LimitsDialog : public testing::Test {
+class LimitsDialog : public ModalDialogTest<CDlgLimitsZEP> {
 protected:
     enum Page { Power, Net, Load };
 
-    INT_PTR Run(const std::function<void()>& step, XmlDocument::XmlNode* viewSetup = nullptr)
+    INT_PTR Run(const std::function<void()>& step) override
     {
-        CDlgLimitsZEP dialog(nullptr, viewSetup);
+        CDlgLimitsZEP dialog(nullptr, m_viewSetup);
         dialog.SetDriver(m_plant.Device());
-        m_dialog = &dialog;
-        const INT_PTR result = RunModal(dialog, [&] {
+        return RunDialog(dialog, [&] {
             FindPages();
             step();
         });
-        m_dialog = nullptr;
-        return result;
-    }
-    INT_PTR RunAndPressOk(const std::function<void()>& step, XmlDocument::XmlNode* viewSetup = nullptr)
-    {
-        return Run(
-            [&] {
-                step();
-                Press(IDOK);
-            },
-            viewSetup);
     }
 
     [[nodiscard]] HWND Edit(Page page, int id) const { return ::GetDlgItem(m_pages[page], id); }
@@ -56,7 +42,6 @@ protected:
     }
     // Whether a page is the one to see; the dialog itself shows later than the test looks.
     [[nodiscard]] static bool IsShown(HWND page) { return (::GetWindowLongW(page, GWL_STYLE) & WS_VISIBLE) != 0; }
-    void Press(int id) const { m_dialog->SendMessage(WM_COMMAND, static_cast<WPARAM>(id)); }
     void SelectTab(int tab) const
     {
         const HWND control = m_dialog->GetDlgItem(IDC_LIMITS_TAB)->m_hWnd;
@@ -75,14 +60,14 @@ protected:
         const auto* setup = ViewSetup();
         return setup ? Plant::Value(setup->NodeV(L"check?var=%s?", variable), name) : L"(no view setup)";
     }
-    static XmlDocument::XmlNode* Configure(const std::string& checks)
+    // Gives the driver a "viewSetup" with which Run opens the dialog.
+    void Configure(const std::string& checks)
     {
         Plant::Configure("<viewSetups><viewSetup><driverId>zep1</driverId>" + checks + "</viewSetup></viewSetups>");
-        return ViewSetup();
+        m_viewSetup = ViewSetup();
     }
 
-    Plant m_plant;
-    CDlgLimitsZEP* m_dialog = nullptr;
+    XmlDocument::XmlNode* m_viewSetup = nullptr;
     std::array<HWND, 3> m_pages{};
 
 private:

@@ -29,24 +29,22 @@ TEST_F(LimitsDialog, ShowsTheStartValuesWithoutAViewSetup)
 
 TEST_F(LimitsDialog, LoadsEveryPageFromTheViewSetup)
 {
-    auto* viewSetup = Configure(
+    Configure(
         "<check><var>PF</var><nominal>1</nominal><maxW>0.95</maxW><maxD>-0.98</maxD><minW>0.9</minW><minD>0.8</minD>"
         "</check><check><var>RP</var><nominal>12.5</nominal></check>"
         "<check><var>ARM7AN</var><maxD>55.125</maxD></check><check><var>ARM25AL</var><maxW>0.5</maxW></check>");
-    Run(
-        [&] {
-            EXPECT_EQ(TextOf(Power, IDC_PF_NOMINAL), L"1");
-            EXPECT_EQ(TextOf(Power, IDC_PF_MAXW), Typed(L"0.95"));
-            EXPECT_EQ(TextOf(Power, IDC_PF_MAXD), Typed(L"-0.98"));
-            EXPECT_EQ(TextOf(Power, IDC_PF_MINW), Typed(L"0.9"));
-            EXPECT_EQ(TextOf(Power, IDC_PF_MIND), Typed(L"0.8"));
-            EXPECT_EQ(TextOf(Power, IDC_RP_NOMINAL), Typed(L"12.5"));
-            EXPECT_EQ(TextOf(Power, IDC_RP_MAXW), L"1");
-            EXPECT_EQ(TextOf(Net, IDC_HARMONIC_MAXD + 3), Typed(L"55.125"));
-            EXPECT_EQ(TextOf(Load, IDC_HARMONIC_MAXD + 3), L"1");
-            EXPECT_EQ(TextOf(Load, IDC_HARMONIC_MAXW + 12), Typed(L"0.5"));
-        },
-        viewSetup);
+    Run([&] {
+        EXPECT_EQ(TextOf(Power, IDC_PF_NOMINAL), L"1");
+        EXPECT_EQ(TextOf(Power, IDC_PF_MAXW), Typed(L"0.95"));
+        EXPECT_EQ(TextOf(Power, IDC_PF_MAXD), Typed(L"-0.98"));
+        EXPECT_EQ(TextOf(Power, IDC_PF_MINW), Typed(L"0.9"));
+        EXPECT_EQ(TextOf(Power, IDC_PF_MIND), Typed(L"0.8"));
+        EXPECT_EQ(TextOf(Power, IDC_RP_NOMINAL), Typed(L"12.5"));
+        EXPECT_EQ(TextOf(Power, IDC_RP_MAXW), L"1");
+        EXPECT_EQ(TextOf(Net, IDC_HARMONIC_MAXD + 3), Typed(L"55.125"));
+        EXPECT_EQ(TextOf(Load, IDC_HARMONIC_MAXD + 3), L"1");
+        EXPECT_EQ(TextOf(Load, IDC_HARMONIC_MAXW + 12), Typed(L"0.5"));
+    });
 }
 
 TEST_F(LimitsDialog, LeavesTheConfigurationAloneOnOkWithoutAChange)
@@ -55,10 +53,10 @@ TEST_F(LimitsDialog, LeavesTheConfigurationAloneOnOkWithoutAChange)
     EXPECT_EQ(RunAndPressOk([] {}), IDOK);
     EXPECT_EQ(Plant::Configuration(), empty);
 
-    auto* viewSetup = Configure("<check><var>AP</var><nominal>0.123456</nominal><maxW>1.000001</maxW><maxD>2</maxD>"
-                                "</check>");
+    Configure("<check><var>AP</var><nominal>0.123456</nominal><maxW>1.000001</maxW><maxD>2</maxD>"
+              "</check>");
     const auto before = Plant::Configuration();
-    EXPECT_EQ(RunAndPressOk([] {}, viewSetup), IDOK);
+    EXPECT_EQ(RunAndPressOk([] {}), IDOK);
     EXPECT_EQ(Plant::Configuration(), before);
     EXPECT_FALSE(Plant::IsDirty());
 }
@@ -105,32 +103,20 @@ TEST_F(LimitsDialog, SavesEveryPageThatChanged)
 
 TEST_F(LimitsDialog, SavesIntoTheViewSetupThatItWasOpenedWith)
 {
-    auto* viewSetup = Configure("<check><var>VA</var><maxD>3</maxD></check>");
-    EXPECT_EQ(RunAndPressOk([&] { Type(Power, IDC_VA_MAXD, L"4"); }, viewSetup), IDOK);
+    Configure("<check><var>VA</var><maxD>3</maxD></check>");
+    EXPECT_EQ(RunAndPressOk([&] { Type(Power, IDC_VA_MAXD, L"4"); }), IDOK);
     EXPECT_EQ(Stored(L"VA", L"maxD"), L"4.000000");
     EXPECT_EQ(ViewSetup()->NextSibling(L"viewSetup"), nullptr);
 }
 
 TEST_F(LimitsDialog, WritesNothingOnCancelEscapeAndTheCloseBox)
 {
-    const auto change = [&] { Type(Power, IDC_AP_NOMINAL, L"5"); };
-    EXPECT_EQ(Run([&] {
-                  change();
-                  Press(IDCANCEL);
-              }),
-              IDCANCEL);
-    EXPECT_EQ(Run([&] {
-                  change();
-                  m_dialog->SendMessage(WM_CLOSE);
-              }),
-              IDCANCEL);
-    EXPECT_EQ(Run([&] {
-                  change();
-                  ::SetFocus(Edit(Power, IDC_AP_NOMINAL));
-                  TypeKey(VK_ESCAPE);
-              }),
-              IDCANCEL);
-    EXPECT_EQ(ViewSetup(), nullptr);
+    const auto before = Plant::Configuration();
+    ExpectCancelInEveryWay([&] {
+        Type(Power, IDC_AP_NOMINAL, L"5");
+        ::SetFocus(Edit(Power, IDC_AP_NOMINAL));
+    });
+    EXPECT_EQ(Plant::Configuration(), before);
     EXPECT_FALSE(Plant::IsDirty());
 }
 

@@ -2,15 +2,13 @@
 #include <gtest/gtest.h>
 
 #include "CDlgUnitsZEP.h"
-#include "ControlText.h"
 #include "DialogLayout.h"
-#include "DialogRun.h"
 #include "GuiResources.h"
 #include "KZLoadString.h"
 #include "KZStringIds.h"
 #include "MessageBoxes.h"
+#include "ModalDialogTest.h"
 #include "PlaceOf.h"
-#include "Plant.h"
 #include "UnitsControls.h"
 
 namespace {
@@ -25,28 +23,13 @@ std::string SetupWith(const std::string& units)
     return "<unitSetups><unitSetup><driverId>zep1</driverId>" + units + "</unitSetup></unitSetups>";
 }
 
-class UnitsDialog : public testing::Test {
+class UnitsDialog : public ModalDialogTest<CDlgUnitsZEP> {
 protected:
-    INT_PTR Run(const std::function<void()>& step)
+    INT_PTR Run(const std::function<void()>& step) override
     {
         CDlgUnitsZEP dialog(nullptr, m_plant.Device());
-        m_dialog = &dialog;
-        const INT_PTR result = RunModal(dialog, step);
-        m_dialog = nullptr;
-        return result;
+        return RunDialog(dialog, step);
     }
-    INT_PTR RunAndPressOk(const std::function<void()>& step)
-    {
-        return Run([&] {
-            step();
-            Press(IDOK);
-        });
-    }
-
-    [[nodiscard]] CWnd& Item(int id) const { return *m_dialog->GetDlgItem(id); }
-    [[nodiscard]] std::wstring TextOf(int id) const { return ControlText(Item(id)).c_str(); }
-    void Click(int id) const { Item(id).SendMessage(BM_CLICK); }
-    void Press(int id) const { m_dialog->SendMessage(WM_COMMAND, static_cast<WPARAM>(id)); }
 
     // The index of the checked radio, -1 for none.
     template <std::size_t Count>
@@ -72,9 +55,6 @@ protected:
         const auto* root = KZMainCfg::Get()->Root();
         return Plant::Value(root->NodeV(L"unitSetups/unitSetup?driverId=zep1?/unit?name=%s?", unit), name);
     }
-
-    Plant m_plant;
-    CDlgUnitsZEP* m_dialog = nullptr;
 };
 
 TEST_F(UnitsDialog, ShowsPlainUnitsAndOneDecimalAtFirstUse)
@@ -191,22 +171,7 @@ TEST_F(UnitsDialog, AppendsItsRecordBesideAnotherDrivers)
 
 TEST_F(UnitsDialog, WritesNothingOnCancelEscapeAndTheCloseBox)
 {
-    const auto change = [&] { Click(ApparentUnits[0]); };
-    EXPECT_EQ(Run([&] {
-                  change();
-                  Press(IDCANCEL);
-              }),
-              IDCANCEL);
-    EXPECT_EQ(Run([&] {
-                  change();
-                  TypeKey(VK_ESCAPE);
-              }),
-              IDCANCEL);
-    EXPECT_EQ(Run([&] {
-                  change();
-                  m_dialog->SendMessage(WM_CLOSE);
-              }),
-              IDCANCEL);
+    ExpectCancelInEveryWay([&] { Click(ApparentUnits[0]); });
     EXPECT_FALSE(Plant::IsDirty());
 }
 
