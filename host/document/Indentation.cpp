@@ -1,5 +1,6 @@
 #include "Indentation.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace {
@@ -33,12 +34,15 @@ pugi::xml_node LastElement(pugi::xml_node parent) noexcept
     return child;
 }
 
+// Text that says something, and to which blanks must not be added.
+bool IsContent(pugi::xml_node node) noexcept
+{
+    return (node.type() == pugi::node_pcdata && !IsBlankText(node)) || node.type() == pugi::node_cdata;
+}
+
 bool HasText(pugi::xml_node parent) noexcept
 {
-    for (const pugi::xml_node child : parent)
-        if ((child.type() == pugi::node_pcdata && !IsBlankText(child)) || child.type() == pugi::node_cdata)
-            return true;
-    return false;
+    return std::any_of(parent.begin(), parent.end(), IsContent);
 }
 
 // How much deeper an element is indented than the one around it.
@@ -66,6 +70,8 @@ Indentation IndentationBefore(pugi::xml_node child)
 
 Indentation IndentationAtEnd(pugi::xml_node parent)
 {
+    if (IsContent(parent.last_child()))
+        return {};
     if (const pugi::xml_node sibling = LastElement(parent))
         return {LeadOf(sibling), {}};
     if (HasText(parent))

@@ -1,6 +1,7 @@
 #include "TreeEdit.h"
 
 #include <new>
+#include <vector>
 
 #include "Indentation.h"
 
@@ -55,6 +56,49 @@ pugi::xml_node TextNodeOf(pugi::xml_node element) noexcept
     while (child && !IsText(child))
         child = child.next_sibling();
     return child;
+}
+
+// The last of the texts that were read and adjoin a text that was.
+pugi::xml_node LastAdjoining(pugi::xml_node text) noexcept
+{
+    while (WasRead(text.next_sibling()))
+        text = text.next_sibling();
+    return text;
+}
+
+ReplacedText PlaceOf(pugi::xml_node first, pugi::xml_node last) noexcept
+{
+    return {first.offset_debug(), first.type(), last.offset_debug(), last.type()};
+}
+
+// Makes every text of an element empty: where comments divide its text, the piece behind an empty one would be read.
+void ClearTexts(pugi::xml_node element, ReplacedTexts& replaced)
+{
+    std::vector<NewNode> nodes;
+    ReplacedTexts added;
+    for (pugi::xml_node child = element.first_child(); child; child = child.next_sibling()) {
+        if (!WasRead(child))
+            continue;
+        const pugi::xml_node last = LastAdjoining(child);
+        NewNode node(element.insert_child_before(pugi::node_pcdata, child));
+        added.emplace(node.Get().internal_object(), PlaceOf(child, last));
+        nodes.push_back(std::move(node));
+        child = last;
+    }
+    replaced.reserve(replaced.size() + added.size());
+
+    // From here on nothing fails.
+    replaced.merge(added);
+    for (pugi::xml_node child = element.first_child(); child;) {
+        const pugi::xml_node next = child.next_sibling();
+        if (WasRead(child))
+            element.remove_child(child);
+        else if (IsText(child))
+            child.set_value(L"");
+        child = next;
+    }
+    for (NewNode& node : nodes)
+        node.Keep();
 }
 
 }  // namespace
@@ -121,6 +165,10 @@ bool SetText(pugi::xml_node element, std::wstring_view text, ReplacedTexts& repl
     pugi::xml_node old = TextNodeOf(element);
     if (storable == old.value())
         return false;
+    if (storable.empty()) {
+        ClearTexts(element, replaced);
+        return true;
+    }
     if (old && !WasRead(old)) {
         MustSucceed(old.set_value(storable.c_str()));
         return true;
@@ -131,11 +179,7 @@ bool SetText(pugi::xml_node element, std::wstring_view text, ReplacedTexts& repl
     NewNode node(old ? element.insert_child_before(pugi::node_pcdata, old) : element.append_child(pugi::node_pcdata));
     MustSucceed(node.Get().set_value(storable.c_str()));
     if (old) {
-        pugi::xml_node last = old;
-        while (WasRead(last.next_sibling()))
-            last = last.next_sibling();
-        replaced.emplace(node.Get().internal_object(),
-                         ReplacedText{old.offset_debug(), old.type(), last.offset_debug(), last.type()});
+        replaced.emplace(node.Get().internal_object(), PlaceOf(old, LastAdjoining(old)));
         while (WasRead(node.Get().next_sibling()))
             element.remove_child(node.Get().next_sibling());
     }

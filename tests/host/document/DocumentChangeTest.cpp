@@ -65,20 +65,21 @@ TEST_P(NewChild, IsIndentedLikeItsSiblings)
 
 INSTANTIATE_TEST_SUITE_P(
     Documents, NewChild,
-    testing::Values(Insertion{"<r><p/></r>", "<r><p><n/></p></r>"},
-                    Insertion{"<r><p><a/></p></r>", "<r><p><a/><n/></p></r>"},
-                    Insertion{"<r>\n  <p/>\n</r>", "<r>\n  <p>\n    <n/>\n  </p>\n</r>"},
-                    Insertion{"<r>\n\t<p></p>\n</r>", "<r>\n\t<p>\n\t\t<n/>\n\t</p>\n</r>"},
-                    Insertion{"<r>\r\n  <p/>\r\n</r>", "<r>\r\n  <p>\r\n    <n/>\r\n  </p>\r\n</r>"},
-                    Insertion{"<r>\n   <p>\n   </p>\n</r>", "<r>\n   <p>\n      <n/>\n   </p>\n</r>"},
-                    Insertion{"<r>\n  <p>\n      <a/>\n  </p>\n</r>",
-                              "<r>\n  <p>\n      <a/>\n      <n/>\n  </p>\n</r>"},
-                    Insertion{"<r>\n  <p>\n\n    <a/>\n    <!-- end -->\n  </p>\n</r>",
-                              "<r>\n  <p>\n\n    <a/>\n    <!-- end -->\n    <n/>\n  </p>\n</r>"},
-                    Insertion{"<r>\n  <p><a/></p>\n</r>", "<r>\n  <p><a/><n/></p>\n</r>"},
-                    Insertion{"<r>\n  <p>text</p>\n</r>", "<r>\n  <p>text<n/></p>\n</r>"},
-                    Insertion{"<r>\n  <p>\n    <!-- only -->\n  </p>\n</r>",
-                              "<r>\n  <p>\n    <!-- only -->\n    <n/>\n  </p>\n</r>"}));
+    testing::Values(
+        Insertion{"<r><p/></r>", "<r><p><n/></p></r>"}, Insertion{"<r><p><a/></p></r>", "<r><p><a/><n/></p></r>"},
+        Insertion{"<r>\n  <p/>\n</r>", "<r>\n  <p>\n    <n/>\n  </p>\n</r>"},
+        Insertion{"<r>\n\t<p></p>\n</r>", "<r>\n\t<p>\n\t\t<n/>\n\t</p>\n</r>"},
+        Insertion{"<r>\r\n  <p/>\r\n</r>", "<r>\r\n  <p>\r\n    <n/>\r\n  </p>\r\n</r>"},
+        Insertion{"<r>\n   <p>\n   </p>\n</r>", "<r>\n   <p>\n      <n/>\n   </p>\n</r>"},
+        Insertion{"<r>\n  <p>\n      <a/>\n  </p>\n</r>", "<r>\n  <p>\n      <a/>\n      <n/>\n  </p>\n</r>"},
+        Insertion{"<r>\n  <p>\n\n    <a/>\n    <!-- end -->\n  </p>\n</r>",
+                  "<r>\n  <p>\n\n    <a/>\n    <!-- end -->\n    <n/>\n  </p>\n</r>"},
+        Insertion{"<r>\n  <p><a/></p>\n</r>", "<r>\n  <p><a/><n/></p>\n</r>"},
+        Insertion{"<r>\n  <p>text</p>\n</r>", "<r>\n  <p>text<n/></p>\n</r>"},
+        Insertion{"<r>\n  <p>\n    <a/>text\n  </p>\n</r>", "<r>\n  <p>\n    <a/>text\n  <n/></p>\n</r>"},
+        Insertion{"<r>\n  <p>\n    <a/><![CDATA[]]></p>\n</r>", "<r>\n  <p>\n    <a/><![CDATA[]]><n/></p>\n</r>"},
+        Insertion{"<r>\n  <p>\n    <!-- only -->\n  </p>\n</r>",
+                  "<r>\n  <p>\n    <!-- only -->\n    <n/>\n  </p>\n</r>"}));
 
 TEST(NewChildBefore, PushesItsSuccessorToTheNextLine)
 {
@@ -163,6 +164,30 @@ INSTANTIATE_TEST_SUITE_P(Texts, SetValueText,
                          testing::Values(L"", L" ", L"  two  ", L"<>&\"'", L"]]>", L"&amp;", L"&#65;", L"a\nb", L"\t",
                                          L"\n", L"ca\u00F1\u00F3n", L"\u4E2D\u6587", L"<!-- no comment -->", L"%d %s",
                                          L"\u00A0\u2028\uFEFF"));
+
+TEST(SetValue, EmptiesEveryPieceOfADividedText)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse("<r><v>one<![CDATA[more]]><!-- c -->two<w/>three</v></r>"));
+    document.Root()->SetValue(L"v", L"");
+    EXPECT_STREQ(document.Root()->Value(L"v", L"none"), L"");
+    EXPECT_EQ(Serialized(document), "<r><v><!-- c --><w/></v></r>");
+    document.Root()->SetValue(L"v", L"new");
+    EXPECT_EQ(Serialized(document), "<r><v>new<!-- c --><w/></v></r>");
+    document.Root()->SetValue(L"v", L"");
+    EXPECT_EQ(Serialized(document), "<r><v><!-- c --><w/></v></r>");
+}
+
+TEST(SetValue, EmptiesWhatStandsBehindAChangedPiece)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse("<r><v>one<!-- c -->two</v></r>"));
+    document.Root()->SetValue(L"v", L"new");
+    EXPECT_EQ(Serialized(document), "<r><v>new<!-- c -->two</v></r>");
+    document.Root()->SetValue(L"v", L"");
+    EXPECT_STREQ(document.Root()->Value(L"v", L"none"), L"");
+    EXPECT_EQ(Serialized(document), "<r><v><!-- c --></v></r>");
+}
 
 TEST(SetValue, KeepsLineEndsAsOneCharacter)
 {

@@ -61,6 +61,15 @@ TEST_F(ScarceMemory, LeavesTheOldTextWhenAValueCannotBeSet)
     EXPECT_EQ(document.Root()->Value(L"a/v", L""), longText);
 }
 
+TEST_F(ScarceMemory, LeavesEveryPieceOfATextThatCannotBeEmptied)
+{
+    constexpr char divided[] = "<r><v>one<!-- c -->two<w/>three</v></r>";
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse(divided));
+    WithScarceMemory([&] { document.Root()->SetValue(L"v", L""); }, [&] { EXPECT_EQ(document.Serialize(), divided); });
+    EXPECT_EQ(document.Serialize(), "<r><v><!-- c --><w/></v></r>");
+}
+
 TEST_F(ScarceMemory, LeavesNoHalfMadeValue)
 {
     XmlDocument document(L"r");
