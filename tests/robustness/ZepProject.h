@@ -22,10 +22,7 @@ public:
 
     ZepProject() : m_module(::LoadLibraryW(L"KZUsrZEP.dll"))
     {
-        using Entry = bool (*)();
-        const auto entry =
-            reinterpret_cast<Entry>(reinterpret_cast<void*>(::GetProcAddress(m_module, "InitializeUsrDriver_ZEP")));
-        if (!entry || !entry())
+        if (!Register())
             throw std::runtime_error("KZUsrZEP.dll cannot be used");
         plant.WriteDevice(Record);
     }
@@ -37,6 +34,14 @@ public:
     ZepProject(const ZepProject&) = delete;
     ZepProject& operator=(const ZepProject&) = delete;
 
+    // Calls the module's entry.
+    [[nodiscard]] bool Register() const
+    {
+        using Entry = bool (*)();
+        const auto entry =
+            reinterpret_cast<Entry>(reinterpret_cast<void*>(::GetProcAddress(m_module, "InitializeUsrDriver_ZEP")));
+        return entry && entry();
+    }
     [[nodiscard]] static const KZDriverCallbacks& Callbacks()
     {
         return *KZDriverServices::Find(KZDriverDeviceZEP::GetThisClass());

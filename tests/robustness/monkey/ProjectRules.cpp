@@ -3,12 +3,15 @@
 #include <pugixml.hpp>
 
 #include <cstdlib>
+#include <string_view>
 
 namespace {
 
+// A missing limit counts as 1, a missing nominal value as 0.
 double Number(const pugi::xml_node& node, const wchar_t* name)
 {
-    return std::wcstod(node.child_value(name), nullptr);
+    const pugi::xml_node value = node.child(name);
+    return value ? std::wcstod(value.child_value(), nullptr) : std::wstring_view(name) == L"nominal" ? 0.0 : 1.0;
 }
 
 bool IsWhole(const pugi::xml_node& node, const wchar_t* name, int least, int most)
@@ -21,8 +24,9 @@ bool IsWhole(const pugi::xml_node& node, const wchar_t* name, int least, int mos
 
 bool IsUnitInOrder(const pugi::xml_node& unit)
 {
-    const std::wstring factor = unit.child_value(L"factor");
-    return IsWhole(unit, L"decimals", 0, 3) && (factor == L"0" || factor == L"3");
+    const pugi::xml_node factor = unit.child(L"factor");
+    const std::wstring power = factor ? factor.child_value() : L"3";
+    return (!unit.child(L"decimals") || IsWhole(unit, L"decimals", 0, 3)) && (power == L"0" || power == L"3");
 }
 
 double Folded(double factor)
