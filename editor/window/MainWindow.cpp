@@ -283,6 +283,8 @@ void MainWindow::OnGetMinMaxInfo(MINMAXINFO* information)
 {
     const SIZE smallest = m_layout.MinimumWindowSize();
     information->ptMinTrackSize = {smallest.cx, smallest.cy};
+    // Windows cuts a new window to the screen, and its controls with it; one that sticks out can at least be moved.
+    information->ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
 }
 
 void MainWindow::OnMenuCommand(UINT id)

@@ -31,6 +31,7 @@ void SummaryView::Show(const SummaryRows& rows)
         m_list.SetCell(index++, ColumnValue, row.value.c_str());
         section = row.section;
     }
+    m_list.FitToTexts(ColumnSection);
     m_list.FitToTexts(ColumnName);
     ::SendMessageW(m_list.Window(), WM_SETREDRAW, TRUE, 0);
     ::InvalidateRect(m_list.Window(), nullptr, TRUE);

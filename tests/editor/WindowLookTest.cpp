@@ -1,0 +1,146 @@
+// The editor's windows with the real module in them: nothing cut, nothing over anything else, in each language and at
+// each resolution.
+#include <afxwin.h>
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "Conditions.h"
+#include "Controls.h"
+#include "DialogLayout.h"
+#include "KZQuorvelantaSetup.h"
+#include "ModalScript.h"
+#include "modules/ModuleLoader.h"
+#include "project/Project.h"
+#include "resources/EditorIds.h"
+#include "text/EditorText.h"
+#include "window/ChildWindow.h"
+#include "window/MainWindow.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class EditorLook : public testing::TestWithParam<KZLanguage> {
+protected:
+    EditorLook() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
+    ~EditorLook() override
+    {
+        KZQuorvelantaSetup::Get()->SetLanguage(KZLanguage::English);
+        AfxGetApp()->m_pMainWnd = nullptr;
+        MSG quit;  // the end of either window asks the program to end
+        ::PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    }
+
+    Project m_project{fs::path(KZ_EXAMPLES) / "plant"};
+    ModuleLoader m_modules{ProgramFolder().parent_path() / "bin"};
+};
+
+class MainWindowLook : public EditorLook {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_window.Create());
+        for (const Device& device : m_project.Devices())
+            ASSERT_NE(m_modules.CallbacksOf(device), nullptr);
+    }
+    ~MainWindowLook() override { m_window.DestroyWindow(); }
+
+    [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(m_window.m_hWnd, id); }
+
+    void ChooseDevice(int row)
+    {
+        ListView_SetItemState(Control(IDC_DEVICES), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        const std::wstring& name = m_project.Devices()[static_cast<std::size_t>(row)].driver->Name().c_str();
+        ASSERT_NE(kztest::TextOf(Control(IDC_PANE_LABEL)).find(name), std::wstring::npos);
+    }
+
+    template <typename Check>
+    void ForEachDevice(Check check)
+    {
+        for (int row = 0; row < static_cast<int>(m_project.Devices().size()); ++row) {
+            SCOPED_TRACE(row);
+            ChooseDevice(row);
+            check();
+        }
+    }
+
+    MainWindow m_window{m_project, m_modules};
+};
+
+// The width that a text needs beside the blanks that a list leaves on both sides of it.
+int NeededWidth(HWND list, const wchar_t* text)
+{
+    constexpr int margins = 12;
+    return static_cast<int>(::SendMessageW(list, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text))) + margins;
+}
+
+void ExpectCellsFit(HWND list)
+{
+    wchar_t text[256];
+    const int columns = Header_GetItemCount(ListView_GetHeader(list));
+    for (int column = 0; column < columns; ++column) {
+        const int width = ListView_GetColumnWidth(list, column);
+        LVCOLUMNW caption{};
+        caption.mask = LVCF_TEXT;
+        caption.pszText = text;
+        caption.cchTextMax = 256;
+        ::SendMessageW(list, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&caption));
+        EXPECT_LE(NeededWidth(list, text), width) << "caption of column " << column;
+        for (int row = 0; row < ListView_GetItemCount(list); ++row) {
+            LVITEMW item{};
+            item.iSubItem = column;
+            item.pszText = text;
+            item.cchTextMax = 256;
+            ::SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+            EXPECT_LE(NeededWidth(list, text), width) << "column " << column << ", " << testing::PrintToString(std::wstring(text));
+        }
+    }
+}
+
+std::string LanguageName(const testing::TestParamInfo<KZLanguage>& language)
+{
+    return language.param == KZLanguage::English ? "English" : "Spanish";
+}
+
+}  // namespace
+
+TEST_P(MainWindowLook, IsTidyForEachDeviceWhenItIsSmallest)
+{
+    ForEachDevice([this] { kztest::ExpectNothingClippedOrOverlapping(m_window.m_hWnd); });
+}
+
+TEST_P(MainWindowLook, IsTidyWhenItIsLarge)
+{
+    m_window.MoveWindow(0, 0, 2400, 1800);
+    ForEachDevice([this] { kztest::ExpectNothingClippedOrOverlapping(m_window.m_hWnd); });
+}
+
+TEST_P(MainWindowLook, ShowsEachCellOfItsListsInFull)
+{
+    ExpectCellsFit(Control(IDC_DEVICES));
+    ForEachDevice([this] { ExpectCellsFit(Control(IDC_SUMMARY)); });
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, MainWindowLook, testing::Values(KZLanguage::English, KZLanguage::Spanish),
+                         LanguageName);
+
+class ChildWindowLook : public EditorLook {};
+
+TEST_P(ChildWindowLook, IsTidy)
+{
+    const Device& device = m_project.Devices().front();
+    const KZDriverCallbacks* callbacks = m_modules.CallbacksOf(device);
+    ASSERT_NE(callbacks, nullptr);
+    kztest::ModalScript script([] {
+        const HWND window = kztest::WaitForDialog();
+        kztest::ExpectNothingClippedOrOverlapping(window);
+        ::PostMessageW(window, WM_CLOSE, 0, 0);
+    });
+    EXPECT_TRUE(ShowChildWindow(device.driver.get(), callbacks->createChildOptions));
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, ChildWindowLook, testing::Values(KZLanguage::English, KZLanguage::Spanish),
+                         LanguageName);
