@@ -2,6 +2,8 @@
 option(KZ_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 # MinGW has no sanitizer run-time library: there a finding is a trap, which tests/support turns into an address.
 option(KZ_HARDEN "Trap on undefined behaviour, broken stacks and misuse of the standard library" OFF)
+option(KZ_FUZZ "Build for libFuzzer, which needs clang" OFF)
+option(KZ_COVERAGE "Count which lines and branches the tests take" OFF)
 
 function(kz_common target)
   target_compile_features(${target} PUBLIC cxx_std_20)
@@ -15,6 +17,14 @@ function(kz_common target)
       -fsanitize-undefined-trap-on-error -fstack-protector-strong>)
     target_compile_definitions(${target} PRIVATE _GLIBCXX_ASSERTIONS $<$<COMPILE_LANGUAGE:CXX>:_FORTIFY_SOURCE=2>)
     target_link_options(${target} PRIVATE -fstack-protector-strong)
+  endif()
+  if(KZ_FUZZ)
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
+  if(KZ_COVERAGE)
+    # Tests act on windows from a second thread, hence atomic counters.
+    target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:--coverage -fprofile-update=atomic>)
+    target_link_options(${target} PUBLIC --coverage)
   endif()
   if(KZ_SANITIZE)
     target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -12,7 +12,7 @@ include(GoogleTest)
 # The tests themselves are not worth optimising, which takes most of their compile time. The native ones, under sanitizers,
 # have random checks with many rounds; _FORTIFY_SOURCE in the hardened build asks for some optimisation.
 set(KZ_TEST_OPTIMIZATION -O1)
-if(WIN32 AND NOT KZ_HARDEN)
+if(KZ_COVERAGE OR (WIN32 AND NOT KZ_HARDEN))
   set(KZ_TEST_OPTIMIZATION -O0)
 endif()
 

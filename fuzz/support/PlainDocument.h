@@ -1,0 +1,42 @@
+// A document changed in the plainest way, on the XML parser's own tree: what an edit of the product must come to.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "DocumentTree.h"
+
+namespace fuzzing {
+
+class PlainDocument {
+public:
+    explicit PlainDocument(std::string_view utf8) : m_tree(utf8), m_current(m_tree.Root()) {}
+
+    // Makes the current element's first child of that name current; false when there is none.
+    bool ToChild(const std::wstring& name);
+
+    // Sets a named value of the current element.
+    void Set(const std::wstring& name, const std::wstring& text);
+
+    // Creates a child before the first one of another name, or at the end when that name is empty.
+    void New(const std::wstring& name, const std::wstring& before);
+
+    [[nodiscard]] const DocumentTree& Tree() const noexcept { return m_tree; }
+
+    // How many characters of the source the edits take away.
+    [[nodiscard]] std::size_t Removed() const noexcept { return m_removed; }
+    // Whether an edit may have made <name/> into <name>, which takes away the slash and the blanks before it.
+    [[nodiscard]] bool MayOpenTag() const noexcept { return m_mayOpenTag; }
+
+private:
+    pugi::xml_node Append(pugi::xml_node parent, const std::wstring& name);
+    [[nodiscard]] std::size_t StartInSource(pugi::xml_node text) const;
+    [[nodiscard]] std::size_t EndInSource(pugi::xml_node text) const;
+
+    DocumentTree m_tree;
+    pugi::xml_node m_current;
+    std::size_t m_removed = 0;
+    bool m_mayOpenTag = false;
+};
+
+}  // namespace fuzzing
