@@ -76,11 +76,18 @@ bool WriteAll(int file, std::string_view bytes) noexcept
     return ::fsync(file) == 0;
 }
 
-// A name that no other save uses, in this process or another.
-std::string TemporaryName(const std::filesystem::path& file)
+// Creates a file beside the target under a name that no other save uses, in this process or another. Where a process
+// was killed while it saved, its file is left, and a later process may have its number: then the next name is free.
+int CreateBeside(const std::filesystem::path& file, mode_t mode, std::string& name)
 {
     static std::atomic<unsigned> saves = 0;
-    return file.native() + "." + std::to_string(::getpid()) + "-" + std::to_string(++saves) + ".tmp";
+    const std::string start = file.native() + "." + std::to_string(::getpid()) + "-";
+    for (;;) {
+        name = start + std::to_string(++saves) + ".tmp";
+        const int created = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        if (created >= 0 || errno != EEXIST)
+            return created;
+    }
 }
 
 }  // namespace
@@ -117,9 +124,9 @@ FileOutcome ReplaceFileSafely(const std::filesystem::path& file, std::string_vie
     if (exists && !(status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)))
         return {FileIsReadOnly};
 
-    const std::string name = TemporaryName(file);
+    std::string name;
     const mode_t mode = exists ? status.st_mode & 07777 : 0666;
-    FileDescriptor descriptor(::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+    FileDescriptor descriptor(CreateBeside(file, mode, name));
     if (!descriptor.IsOpen())
         return SystemFailure(errno);
     TemporaryFile temporary(name);

@@ -79,11 +79,19 @@ bool WriteAll(HANDLE file, std::string_view bytes) noexcept
     return FlushFileBuffers(file);
 }
 
-// A name that no other save uses, in this process or another.
-std::wstring TemporaryName(const std::filesystem::path& file)
+// Creates a file beside the target under a name that no other save uses, in this process or another. Where a process
+// was killed while it saved, its file is left, and a later process may have its number: then the next name is free.
+HANDLE CreateBeside(const std::filesystem::path& file, std::wstring& name)
 {
     static std::atomic<unsigned> saves = 0;
-    return file.native() + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++saves) + L".tmp";
+    const std::wstring start = file.native() + L"." + std::to_wstring(GetCurrentProcessId()) + L"-";
+    for (;;) {
+        name = start + std::to_wstring(++saves) + L".tmp";
+        const HANDLE created =
+            CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (created != INVALID_HANDLE_VALUE || GetLastError() != ERROR_FILE_EXISTS)
+            return created;
+    }
 }
 
 }  // namespace
@@ -120,8 +128,8 @@ FileOutcome ReplaceFileSafely(const std::filesystem::path& file, std::string_vie
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY))
         return {FileIsReadOnly};
 
-    const std::wstring name = TemporaryName(file);
-    FileHandle handle(CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    std::wstring name;
+    FileHandle handle(CreateBeside(file, name));
     if (!handle.IsOpen())
         return LastFailure();
     TemporaryFile temporary(name);
