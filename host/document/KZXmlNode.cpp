@@ -1,3 +1,4 @@
+#include <array>
 #include <cstdarg>
 
 #include "../text/WideFormat.h"
@@ -44,9 +45,11 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::NodeV(const wchar_t* format, ...) co
 {
     std::va_list arguments;
     va_start(arguments, format);
-    const std::wstring path = FormatWide(format, arguments);
+    std::array<wchar_t, 256> usual;  // a page looks thirty variables up: asking for memory each time costs more
+    const bool fits = FormatWideInto(usual, format, arguments) >= 0;
+    const std::wstring longer = fits ? std::wstring() : FormatWide(format, arguments);
     va_end(arguments);
-    return Node(path.c_str());
+    return Node(fits ? usual.data() : longer.c_str());
 }
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::NewChild(const wchar_t* name, XmlNode* before)
@@ -68,7 +71,7 @@ bool XmlDocument::XmlNode::SetValue(const wchar_t* name, const wchar_t* text)
         return false;
     State& state = *m_document->m_state;
     const std::wstring_view newText = text ? text : L"";
-    if (const pugi::xml_node value = Element(m_element).child(name)) {
+    if (const pugi::xml_node value = ChildElement(Element(m_element), name)) {
         if (SetText(value, newText, state.replaced))
             state.changed = true;
         return true;
@@ -87,10 +90,10 @@ bool XmlDocument::XmlNode::SetValue(const wchar_t* name, int value)
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::FirstChild(const wchar_t* name) const
 {
-    return name ? Wrap(Element(m_element).child(name).internal_object()) : nullptr;
+    return name ? Wrap(ChildElement(Element(m_element), name).internal_object()) : nullptr;
 }
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::NextSibling(const wchar_t* name) const
 {
-    return name ? Wrap(Element(m_element).next_sibling(name).internal_object()) : nullptr;
+    return name ? Wrap(NextElement(Element(m_element), name).internal_object()) : nullptr;
 }

@@ -20,30 +20,66 @@ bool Equals(const wchar_t* text, std::wstring_view other) noexcept
     return *text == L'\0';
 }
 
+bool IsElement(pugi::xml_node node) noexcept
+{
+    return node.type() == pugi::node_element;
+}
+
 pugi::xml_node Child(pugi::xml_node parent, std::wstring_view name) noexcept
 {
     pugi::xml_node child = parent.first_child();
-    while (child && !(child.type() == pugi::node_element && Equals(child.name(), name)))
+    while (child && !(Equals(child.name(), name) && IsElement(child)))
         child = child.next_sibling();
     return child;
 }
 
-bool Fits(pugi::xml_node element, const Step& step) noexcept
-{
-    if (element.type() != pugi::node_element || !Equals(element.name(), step.name))
-        return false;
-    if (step.value.empty())
-        return true;
-    const pugi::xml_node value = Child(element, step.value);
-    return value && Equals(TextOf(value), step.text);
-}
+// Goes over the children of one name in search of a value. A plant may have a hundred thousand of them, so that pugixml
+// is asked by names that it can compare as they stand: those of the first element and value that fit.
+class ValueSearch {
+public:
+    explicit ValueSearch(const Step& step) noexcept : m_step(step) {}
+
+    pugi::xml_node In(pugi::xml_node parent) noexcept
+    {
+        pugi::xml_node child = Child(parent, m_step.name);
+        const wchar_t* const name = child.name();
+        while (child && !Fits(child))
+            child = child.next_sibling(name);
+        return child;
+    }
+
+private:
+    bool Fits(pugi::xml_node node) noexcept
+    {
+        if (m_valueName) {
+            // Of all that has a name, elements alone have text.
+            const wchar_t* const text = node.child_value(m_valueName);
+            if (*text)
+                return Equals(text, m_step.text);
+        }
+        const pugi::xml_node value = IsElement(node) ? Child(node, m_step.value) : pugi::xml_node();
+        if (!value)
+            return false;
+        m_valueName = value.name();
+        return Equals(TextOf(value), m_step.text);
+    }
+
+    const Step& m_step;
+    const wchar_t* m_valueName = nullptr;
+};
 
 pugi::xml_node FirstFitting(pugi::xml_node parent, const Step& step) noexcept
 {
-    pugi::xml_node child = parent.first_child();
-    while (child && !Fits(child, step))
-        child = child.next_sibling();
-    return child;
+    return step.value.empty() ? Child(parent, step.name) : ValueSearch(step).In(parent);
+}
+
+// The number of characters in front of the first of some others, or of the end.
+std::size_t LengthUpTo(const wchar_t* path, std::wstring_view marks) noexcept
+{
+    const wchar_t* end = path;
+    while (*end && marks.find(*end) == std::wstring_view::npos)
+        ++end;
+    return static_cast<std::size_t>(end - path);
 }
 
 // The text of a step ends at the first "?" that has a "/" or the end of the path behind it, so that the text itself may
@@ -59,11 +95,11 @@ const wchar_t* EndOfText(const wchar_t* text) noexcept
 // Takes a step off the path, its "/" included. Returns false when it is malformed.
 bool TakeStep(const wchar_t*& path, Step& step) noexcept
 {
-    const std::size_t nameLength = std::wcscspn(path, L"/?");
+    const std::size_t nameLength = LengthUpTo(path, L"/?");
     step = {{path, nameLength}, {}, {}};
     path += nameLength;
     if (*path == L'?') {
-        const std::size_t valueLength = std::wcscspn(++path, L"=/?");
+        const std::size_t valueLength = LengthUpTo(++path, L"=/?");
         step.value = {path, valueLength};
         path += valueLength;
         const wchar_t* end = *path == L'=' ? EndOfText(path + 1) : nullptr;
@@ -79,6 +115,20 @@ bool TakeStep(const wchar_t*& path, Step& step) noexcept
 
 }  // namespace
 
+pugi::xml_node ChildElement(pugi::xml_node parent, const wchar_t* name) noexcept
+{
+    const pugi::xml_node child = parent.child(name);
+    return !child || IsElement(child) ? child : NextElement(child, name);
+}
+
+pugi::xml_node NextElement(pugi::xml_node from, const wchar_t* name) noexcept
+{
+    do
+        from = from.next_sibling(name);
+    while (from && !IsElement(from));
+    return from;
+}
+
 pugi::xml_node FindElement(pugi::xml_node from, const wchar_t* path) noexcept
 {
     if (!path || !*path)
@@ -87,7 +137,8 @@ pugi::xml_node FindElement(pugi::xml_node from, const wchar_t* path) noexcept
     while (from && *path) {
         if (!TakeStep(path, step))
             return {};
-        from = FirstFitting(from, step);
+        // The name of a last step ends as pugixml wants it, which then compares on its own.
+        from = *path || !step.value.empty() ? FirstFitting(from, step) : ChildElement(from, step.name.data());
     }
     return from;
 }

@@ -1,5 +1,7 @@
 #include "TreeEdit.h"
 
+#include <algorithm>
+#include <functional>
 #include <new>
 #include <vector>
 
@@ -23,10 +25,18 @@ bool IsAllowed(wchar_t character) noexcept
     return character >= L' ' ? character != 0xFFFE && character != 0xFFFF : character == L'\t' || character == L'\n';
 }
 
-// The text as XML can hold it and as reading it back gives it.
-std::wstring Storable(std::wstring_view text)
+bool IsPieceOf(std::wstring_view text, std::wstring_view whole) noexcept
 {
-    std::wstring storable;
+    constexpr std::less_equal<const wchar_t*> inOrder;
+    return inOrder(whole.data(), text.data()) && inOrder(text.data(), whole.data() + whole.size());
+}
+
+// The text as XML can hold it and as reading it back gives it. It is copied into the buffer where that makes a
+// difference, and where it is a piece of the old text, which will be written over.
+std::wstring_view Storable(std::wstring_view text, std::wstring_view old, std::wstring& storable)
+{
+    if (std::all_of(text.begin(), text.end(), IsAllowed) && !IsPieceOf(text, old))
+        return text;
     storable.reserve(text.size());
     for (std::size_t at = 0; at < text.size(); ++at) {
         if (text[at] == L'\r') {
@@ -161,8 +171,9 @@ void NewElement::Keep() noexcept
 
 bool SetText(pugi::xml_node element, std::wstring_view text, ReplacedTexts& replaced)
 {
-    const std::wstring storable = Storable(text);
     pugi::xml_node old = TextNodeOf(element);
+    std::wstring buffer;
+    const std::wstring_view storable = Storable(text, old.value(), buffer);
     if (storable == old.value())
         return false;
     if (storable.empty()) {
@@ -170,14 +181,14 @@ bool SetText(pugi::xml_node element, std::wstring_view text, ReplacedTexts& repl
         return true;
     }
     if (old && !WasRead(old)) {
-        MustSucceed(old.set_value(storable.c_str()));
+        MustSucceed(old.set_value(storable.data(), storable.size()));
         return true;
     }
 
     // A text that was read is not changed but replaced: pugixml would write into the place whose offset says where the
     // text stands in the source. Texts next to it go with it; they would run into the new one.
     NewNode node(old ? element.insert_child_before(pugi::node_pcdata, old) : element.append_child(pugi::node_pcdata));
-    MustSucceed(node.Get().set_value(storable.c_str()));
+    MustSucceed(node.Get().set_value(storable.data(), storable.size()));
     if (old) {
         replaced.emplace(node.Get().internal_object(), PlaceOf(old, LastAdjoining(old)));
         while (WasRead(node.Get().next_sibling()))

@@ -49,21 +49,26 @@ std::wstring FormatLong(const wchar_t* format, std::va_list arguments)
 
 }  // namespace
 
+int FormatWideInto(std::span<wchar_t> buffer, const wchar_t* format, std::va_list arguments)
+{
+    std::va_list copy;
+    va_copy(copy, arguments);
+    const int written = format ? std::vswprintf(buffer.data(), buffer.size(), ToPosix(format).c_str(), copy) : -1;
+    va_end(copy);
+    return written;
+}
+
 std::wstring FormatWide(const wchar_t* format, std::va_list arguments)
 {
     if (!format)
         return {};
-    const std::wstring posix = ToPosix(format);
     std::array<wchar_t, 256> buffer;
-    std::va_list copy;
-    va_copy(copy, arguments);
-    const int written = std::vswprintf(buffer.data(), buffer.size(), posix.c_str(), copy);
-    va_end(copy);
-    if (written >= 0)
+    if (const int written = FormatWideInto(buffer, format, arguments); written >= 0)
         return std::wstring(buffer.data(), static_cast<std::size_t>(written));
 
+    std::va_list copy;
     va_copy(copy, arguments);
-    std::wstring text = FormatLong(posix.c_str(), copy);
+    std::wstring text = FormatLong(ToPosix(format).c_str(), copy);
     va_end(copy);
     return text;
 }

@@ -41,11 +41,11 @@ XmlDocument::XmlNode& FindOrMakeCheck(XmlDocument::XmlNode& viewSetup, const Lim
 
 LimitsStore::LimitsStore(const LimitsTable& table) : m_table(table), m_variables(table.variables.size())
 {
-    for (auto& variable : m_variables) {
-        for (std::size_t f = 0; f < LimitFieldCount; ++f)
-            variable.edited[f] = Parse(table.DefaultOf(FieldAt(f)));
-        variable.loaded = variable.edited;
-    }
+    std::array<double, LimitFieldCount> defaults;
+    defaults.fill(Parse(table.limitDefault));
+    defaults[Index(LimitField::Nominal)] = Parse(table.nominalDefault);
+    for (auto& variable : m_variables)
+        variable.edited = variable.loaded = defaults;
 }
 
 double LimitsStore::Value(LimitCell cell) const noexcept

@@ -189,6 +189,19 @@ TEST(SetValue, EmptiesWhatStandsBehindAChangedPiece)
     EXPECT_EQ(Serialized(document), "<r><v><!-- c --></v></r>");
 }
 
+TEST(SetValue, TakesAPieceOfTheTextThatItReplaces)
+{
+    for (const char* text : {"<device/>", "<device><name>0123456789</name></device>"}) {
+        XmlDocument document(L"device");
+        ASSERT_TRUE(document.Parse(text));
+        document.Root()->SetValue(L"name", L"0123456789");
+        document.Root()->SetValue(L"name", document.Root()->Value(L"name", L"") + 3);
+        EXPECT_STREQ(document.Root()->Value(L"name", L""), L"3456789");
+        document.Root()->SetValue(L"name", document.Root()->Value(L"name", L"") + 1);
+        EXPECT_STREQ(document.Root()->Value(L"name", L""), L"456789");
+    }
+}
+
 TEST(SetValue, KeepsLineEndsAsOneCharacter)
 {
     XmlDocument document(L"r");

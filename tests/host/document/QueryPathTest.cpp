@@ -96,6 +96,40 @@ INSTANTIATE_TEST_SUITE_P(Texts, QueryPathText,
                                          L"<a>", L"\"quoted\"", L"it's", L" a b ", L"ca\u00F1\u00F3n",
                                          L"\u4E2D\u6587"));
 
+TEST_F(QueryPath, TakesNoProcessingInstructionForAnElement)
+{
+    ASSERT_TRUE(document.Parse("<configuration><?item key?><item><?key a?><key>a</key></item><?item a?>"
+                               "<item><key></key><mark>none</mark></item><item><?key b?><key>b</key></item>"
+                               "</configuration>"));
+    XmlDocument::XmlNode* first = document.Root()->FirstChild(L"item");
+    ASSERT_NE(first, nullptr);
+    EXPECT_STREQ(first->Value(L"key", L"none"), L"a");
+    EXPECT_EQ(document.Node(L"item"), first);
+    EXPECT_EQ(document.Node(L"item?key=a?"), first);
+    EXPECT_EQ(document.Node(L"item?key=b?"), first->NextSibling(L"item")->NextSibling(L"item"));
+    EXPECT_STREQ(document.Root()->Value(L"item?key=?/mark", L"missing"), L"none");
+    EXPECT_TRUE(first->SetValue(L"key", L"c"));
+    EXPECT_EQ(document.Node(L"item?key=c?"), first);
+    EXPECT_NE(document.Serialize().find("<?key a?>"), std::string::npos);
+}
+
+TEST_F(QueryPath, TakesTheFirstOfAnElementsValuesOfOneName)
+{
+    ASSERT_TRUE(document.Parse("<configuration><item><key>a</key></item><item><key></key><key>b</key></item>"
+                               "<item><key>c</key><key>b</key></item></configuration>"));
+    EXPECT_EQ(document.Node(L"item?key=b?"), nullptr);
+    EXPECT_EQ(document.Node(L"item?key=?"), document.Root()->FirstChild(L"item")->NextSibling(L"item"));
+}
+
+TEST_F(QueryPath, FormatsPathsOfAnyLength)
+{
+    for (const std::size_t length : {200u, 255u, 256u, 1000u}) {
+        const std::wstring driver(length, L'x');
+        XmlDocument::XmlNode* setup = AddSetup(driver.c_str());
+        EXPECT_EQ(document.Root()->NodeV(L"unitSetups/unitSetup?driverId=%s?", driver.c_str()), setup) << length;
+    }
+}
+
 TEST_F(QueryPath, ReadsIntegersInAFormat)
 {
     XmlDocument::XmlNode* check = document.Root()->NewChild(L"check", nullptr);
