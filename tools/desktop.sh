@@ -64,10 +64,11 @@ desktop_probe_start() {
   desktop_probe_pid=$desktop_coproc_PID
 }
 
-# editor ARGUMENT...: starts the editor; editor_end waits until it has ended and stores what it wrote and its exit status.
-# Not to be called in a subshell, which could not wait for it.
-editor() {
-  timeout 300 "${wine_pin[@]}" wine "$desktop_bin/KZEditor.exe" "$@" < /dev/null > "$desktop_folder/editor" 2> "$desktop_folder/editor.err" &
+# editor ARGUMENT...: starts the editor, program FILE ARGUMENT... another program; editor_end waits until it has ended and
+# stores what it wrote and its exit status. Not to be called in a subshell, which could not wait for it.
+editor() { program "$desktop_bin/KZEditor.exe" "$@"; }
+program() {
+  timeout 300 "${wine_pin[@]}" wine "$@" < /dev/null > "$desktop_folder/editor" 2> "$desktop_folder/editor.err" &
   desktop_editor=$!
 }
 editor_end() {

@@ -2,9 +2,15 @@
 # The guided tour: opens the editor on a copy of examples/plant on a private virtual display, walks the roads through the
 # module with real clicks and keys, leaves one picture per step under build/tour, and prints what the roads have produced.
 # A step that does not come true ends it with an error.
-#   tour.sh [BUILD_FOLDER [PICTURE_FOLDER]]
+#   tour.sh [--docs] [BUILD_FOLDER [PICTURE_FOLDER]]
+# With --docs it also renews the pictures of the documents, docs/images.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+docs=''
+if [ "${1:-}" = --docs ]; then
+  docs=$root/docs/images
+  shift
+fi
 build=${1:-$root/build/windows}
 tour=${2:-$root/build/tour}
 desktop_bin=$build/bin
@@ -28,14 +34,25 @@ steps=(
   "settings          Device settings: another minimum current, one more filtered harmonic"
   "confirmation      OK asks before it writes"
   "units             Units: plain watts with three decimals"
-  "limits            Limits of the powers: an outer limit beyond the range is refused"
+  "limits            Limits of the powers"
+  "refused           A limit beyond the range is refused"
   "harmonic_limits   Limits of the harmonics of the net side"
   "saved             Back in the main window; everything is saved"
   "maximum           Asked for two variables at most, the dialog refuses the third"
   "spanish           The same dialog in Spanish"
 )
 
-step_plant() { open_editor "$project"; }
+# The steps that the documents show, each with the picture's name there; it is the window that takes input.
+declare -A documented=(
+  [plant]=editor [hub]=options [settings]=device-settings [confirmation]=question [units]=units [limits]=limits-powers
+  [refused]=refused [harmonic_limits]=limits-harmonics [single_boxes]=selection-general [whole_row]=selection-power
+  [by_keyboard]=selection-harmonics
+)
+
+step_plant() {
+  open_editor "$project"
+  choose_device 0 $device
+}
 step_selection() { open_selection $device; }
 step_single_boxes() {
   check_box "$dialog" $((id_general_net_box + 1))
@@ -81,6 +98,8 @@ step_limits() {
   click '' $id_ok
   window "$dialog"
   open_section $id_section_limits $id_limits_tab
+}
+step_refused() {
   fill $id_active_power_outer 2000
   click '' $id_ok
   window "$message_title"
@@ -119,6 +138,18 @@ open_command() {
   window " - $1"
 }
 
+# document NAME PICTURE: cuts the window that takes input out of the picture and stores it, small, for the documents
+document() {
+  local x y width height state title
+  while read -r x y width height state title; do
+    if [ "$state" = enabled ] && [ -n "$title" ]; then
+      convert "$2" -crop "${width}x$height+$x+$y" +repage -strip -dither None -colors 128 "PNG8:$docs/$1.png"
+      return
+    fi
+  done < <(probe windows)
+  desktop_die "no window for the picture $1"
+}
+
 results=''
 printed() { results+="$1: ${2//$'\n'/, }"$'\n'; }
 
@@ -145,7 +176,9 @@ for step in "${steps[@]}"; do
   number=$((number + 1))
   printf '%2d  %s\n' "$number" "$caption"
   "step_$name"
-  picture "$(printf '%s/%02d-%s.png' "$tour" "$number" "$name")"
+  file=$(printf '%s/%02d-%s.png' "$tour" "$number" "$name")
+  picture "$file"
+  if [ -n "$docs" ] && [ -n "${documented[$name]:-}" ]; then document "${documented[$name]}" "$file"; fi
 done
 finish
 echo "The pictures are in $tour"

@@ -79,3 +79,16 @@ test_cancel_a_selection() {
   key Escape
   command_result 1 'select: false' 'variable: PINTURA.VI3N' 'variable: CPD.HZIN'
 }
+
+# The example of a host: a device that it describes itself, a list that it prints.
+test_minimal_host() {
+  WINEPATH=$(wine_path "$desktop_bin")
+  export WINEPATH
+  program "$build/examples/MinimalHost.exe" "$(wine_path "$desktop_bin/KZUsrZEP.dll")" "$(wine_path "$project")"
+  window ' - TREN1'
+  until_control ' - TREN1' $id_general_net_box disabled
+  check_box ' - TREN1' $((id_general_net_box + 1))
+  snapshot selection
+  click ' - TREN1' $id_ok
+  command_result 0 $'TREN1.HZIN\r'
+}
