@@ -3,9 +3,13 @@
 
   includes   every file includes only what its folder may know; rules and records include no window header
   controls   every control id of the templates is used in code, every id that is defined is in a template or in code
+  dialogs    every dialog template has a test that looks at its window
   texts      every text id has its text in each language, the texts take the same arguments, and code uses every id
+  formats    the arguments of a text are those that its header promises and that its callers pass
   exports    KZUsrZEP.dll exports exactly the committed list, and the products import only what ships with them
   files      no machine paths, no file of more than 400 lines, UTF-8, LF, no tabs, no blanks at line ends
+  documents  links lead to files and headings, quotes of the code are in the code, each picture is shown
+  verbs      each verb of ./dev help exists, is dispatched and is mentioned in a document; no document has another
 
 Each finding is one line "file:line: what is wrong"; the exit status is 1 when there is one.
 """
@@ -15,17 +19,25 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).parent / "consistency"))
 
 import controls  # noqa: E402
+import dialogs  # noqa: E402
+import documents  # noqa: E402
 import exports  # noqa: E402
 import files  # noqa: E402
+import formats  # noqa: E402
 import includes  # noqa: E402
 import texts  # noqa: E402
+import verbs  # noqa: E402
 
 CHECKS = {
     "includes": includes.check,
     "controls": controls.check,
+    "dialogs": dialogs.check,
     "texts": texts.check,
+    "formats": formats.check,
     "exports": exports.check,
     "files": files.check,
+    "documents": documents.check,
+    "verbs": verbs.check,
 }
 
 

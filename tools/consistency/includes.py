@@ -76,7 +76,7 @@ def native_sources():
     for path in tree("host", "module"):
         if path.name != "CMakeLists.txt" and path.suffix != ".cmake":
             continue
-        text = re.sub(r"#[^\n]*", "", text_of(path))
+        text = re.sub(r"#[^\n]*", "", text_of(path)).replace("${CMAKE_CURRENT_LIST_DIR}/", "")
         for block in re.finditer(r"(?:KZ_MODULE_RULES|KZ_HOST_CORE)\b([^)]*)\)", text):
             for name in re.findall(r"[\w/.-]+\.cpp", block.group(1)):
                 for base in (path.parent, path.parent.parent):
