@@ -1,0 +1,54 @@
+#include "FakeAccessibility.h"
+
+#include <gtest/gtest.h>
+
+namespace kztest {
+namespace {
+
+FakeAccessibility* offered = nullptr;
+
+HRESULT WINAPI Offer(REFCLSID, LPUNKNOWN, DWORD, REFIID, LPVOID* service)
+{
+    offered->AddRef();
+    *service = offered;
+    return S_OK;
+}
+
+HRESULT WINAPI OfferNothing(REFCLSID, LPUNKNOWN, DWORD, REFIID, LPVOID*)
+{
+    return REGDB_E_CLASSNOTREG;
+}
+
+// The dialogs are part of the test program, so it is the program that asks for the service.
+HMODULE Program() noexcept
+{
+    return ::GetModuleHandleW(nullptr);
+}
+
+}  // namespace
+
+FakeAccessibility::FakeAccessibility() : m_patch(Program(), "CoCreateInstance", reinterpret_cast<void*>(Offer))
+{
+    offered = this;
+}
+
+HRESULT WINAPI FakeAccessibility::SetHwndPropStr(HWND window, DWORD object, DWORD child, MSAAPROPID, LPCWSTR text)
+{
+    EXPECT_EQ(object, static_cast<DWORD>(OBJID_CLIENT));
+    EXPECT_EQ(child, static_cast<DWORD>(CHILDID_SELF));
+    if (refusesNames)
+        return E_NOTIMPL;
+    names[window] = text;
+    return S_OK;
+}
+
+HRESULT WINAPI FakeAccessibility::ClearHwndProps(HWND window, DWORD, DWORD, const MSAAPROPID*, int count)
+{
+    EXPECT_EQ(count, 1);
+    EXPECT_EQ(names.erase(window), 1U) << "only what was given is taken back";
+    return S_OK;
+}
+
+NoAccessibility::NoAccessibility() : m_patch(Program(), "CoCreateInstance", reinterpret_cast<void*>(OfferNothing)) {}
+
+}  // namespace kztest
