@@ -10,9 +10,11 @@
 #include "Conditions.h"
 #include "Controls.h"
 #include "DialogLayout.h"
+#include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
 #include "ModalScript.h"
 #include "modules/ModuleLoader.h"
+#include "project/ChosenVariables.h"
 #include "project/Project.h"
 #include "resources/EditorIds.h"
 #include "text/EditorText.h"
@@ -95,9 +97,21 @@ void ExpectCellsFit(HWND list)
             item.pszText = text;
             item.cchTextMax = 256;
             ::SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-            EXPECT_LE(NeededWidth(list, text), width) << "column " << column << ", " << testing::PrintToString(std::wstring(text));
+            EXPECT_LE(NeededWidth(list, text), width)
+                << "column " << column << ", " << testing::PrintToString(std::wstring(text));
         }
     }
+}
+
+int TextWidth(HWND window, std::wstring_view text)
+{
+    const HDC dc = ::GetDC(window);
+    const HGDIOBJ before = ::SelectObject(dc, reinterpret_cast<HFONT>(::SendMessageW(window, WM_GETFONT, 0, 0)));
+    SIZE size{};
+    ::GetTextExtentPoint32W(dc, text.data(), static_cast<int>(text.size()), &size);
+    ::SelectObject(dc, before);
+    ::ReleaseDC(window, dc);
+    return size.cx;
 }
 
 std::string LanguageName(const testing::TestParamInfo<KZLanguage>& language)
@@ -116,6 +130,22 @@ TEST_P(MainWindowLook, IsTidyWhenItIsLarge)
 {
     m_window.MoveWindow(0, 0, 2400, 1800);
     ForEachDevice([this] { kztest::ExpectNothingClippedOrOverlapping(m_window.m_hWnd); });
+}
+
+// As many variables as a filter has, with names as long as they get in this plant.
+TEST_P(MainWindowLook, IsTidyWithAllVariablesChosen)
+{
+    constexpr int lastDevice = 5;
+    VariableList variables;
+    for (int i = 0; i < 118; ++i)
+        variables.push_back(KZBasicString::Format(L"LAB ENSAYOS.ARM25A3L%d", i));
+    StoreChosenVariables(*KZMainCfg::Get(), *m_project.Devices()[lastDevice].driver, variables);
+    ChooseDevice(lastDevice);
+    const HWND list = Control(IDC_CHOSEN);
+    ASSERT_EQ(::SendMessageW(list, LB_GETCOUNT, 0, 0), 118);
+    kztest::ExpectNothingClippedOrOverlapping(m_window.m_hWnd);
+    EXPECT_TRUE(::GetWindowLongPtrW(list, GWL_STYLE) & WS_HSCROLL);
+    EXPECT_GE(::SendMessageW(list, LB_GETHORIZONTALEXTENT, 0, 0), TextWidth(list, L"LAB ENSAYOS.ARM25A3L117"));
 }
 
 TEST_P(MainWindowLook, ShowsEachCellOfItsListsInFull)
