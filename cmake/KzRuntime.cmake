@@ -1,5 +1,8 @@
 # The compiler's runtime DLLs stand beside the products, so that build/windows/bin can be copied to a Windows machine as it is.
 set(runtime_dlls libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+if(KZ_HARDEN)
+  list(APPEND runtime_dlls libssp-0.dll)  # the stack protector's
+endif()
 set(copies)
 foreach(dll ${runtime_dlls})
   execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll} OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)

@@ -15,6 +15,7 @@ packages_display=(xvfb xdotool imagemagick)
 packages_check=(python3)
 packages_format=(clang-format)
 packages_bench=(libbenchmark-dev)
+packages_coverage=(gcovr)
 packages_fuzz=(clang-14 libclang-rt-14-dev)
 packages_package=(zip)
 

@@ -24,7 +24,7 @@ wine_pin_session() {
 wine_use() {
   wine_session=$1
   export WINEPREFIX=$wine_base-$wine_session
-  export WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
+  export WINEARCH=win64 WINEDEBUG=${KZ_WINE_DEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
   wine_pin_session
   if [ "$wine_session" != desktop ]; then unset DISPLAY WAYLAND_DISPLAY; fi
   if [ ! -f "$WINEPREFIX/$wine_mark" ]; then wine_boot; fi

@@ -206,5 +206,17 @@ TEST(PowerName, EachCodePicksItsRow)
     EXPECT_EQ(ParseVariableName(Family::Power, L"PFI1L"), (VariablePosition{3, 0, Side::Load}));
 }
 
+TEST(VariablePosition, DiffersInEachCoordinate)
+{
+    const VariablePosition position{3, 1, Side::Net};
+    EXPECT_EQ(position, (VariablePosition{3, 1, Side::Net}));
+    EXPECT_NE(position, (VariablePosition{4, 1, Side::Net}));
+    EXPECT_NE(position, (VariablePosition{3, 2, Side::Net}));
+    EXPECT_NE(position, (VariablePosition{3, 1, Side::Load}));
+    EXPECT_EQ((Variable{Family::Power, position}), (Variable{Family::Power, position}));
+    EXPECT_NE((Variable{Family::Power, position}), (Variable{Family::General, position}));
+    EXPECT_NE((Variable{Family::Power, position}), (Variable{Family::Power, {3, 2, Side::Net}}));
+}
+
 }  // namespace
 }  // namespace zep

@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# Runs the tests of both coverage builds and reports what they executed: coverage.sh NATIVE WINDOWS REPORT
+# NATIVE and WINDOWS are the build folders of the presets "coverage-native" and "coverage-windows", REPORT is a folder for the
+# report. The exit status is 1 when a test failed or the module misses its goal.
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+mkdir -p "$3/log"
+native=$(realpath "$1") windows=$(realpath "$2") report=$(realpath "$3")
+failed=0
+
+# run PROGRAM NAME [ARGUMENT...]
+run() {
+  local log=$report/log/$2.txt
+  "$1" "${@:3}" > "$log" 2>&1 && return
+  failed=1
+  echo "coverage: $2 failed:" >&2
+  grep -F '[  FAILED  ]' "$log" >&2 || tail -5 "$log" >&2
+}
+
+# Whole programs, not single cases: each start under Wine adds its counts to one file per source.
+find "$native" "$windows" -name '*.gcda' -delete
+run ctest native --test-dir "$native" -L native --parallel "$(nproc)" --output-on-failure --no-tests=error
+for program in "$windows"/tests/*.exe; do run "$root/tools/run-wine.sh" "$(basename "$program")" "$program"; done
+
+# count FOLDER GCOV NAME
+count() {
+  KZ_GCOV=$2 gcovr --root "$root" --gcov-executable "$root/tools/coverage-gcov.sh" \
+    --filter "$root/(module|host|mfc|editor)/" --exclude-throw-branches --exclude-unreachable-branches \
+    --json "$report/$3.json" "$1"
+}
+count "$native" gcov native
+count "$windows" x86_64-w64-mingw32-gcov windows
+report() { gcovr --root "$root" --add-tracefile "$report/native.json" --add-tracefile "$report/windows.json" "$@"; }
+report --html-details "$report/index.html" --json-summary "$report/summary.json" --txt "$report/lines.txt"
+report --branches --txt "$report/branches.txt"
+python3 -B "$root/tools/coverage-table.py" "$report/summary.json" || failed=1
+exit "$failed"
