@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2034
+# shellcheck shell=bash disable=SC2034,SC2154
 # To be sourced after desktop.sh. What a user does on the roads through the module, one function per action, for the tour and
 # the end-to-end tests. Controls are named by their ids, so the actions are the same in each language.
 

@@ -1,4 +1,7 @@
 // That the helpers of the tests find what they are for.
+#include <windows.h>
+
+#include <commctrl.h>
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
@@ -55,6 +58,29 @@ TEST_F(Support, LayoutCheckFindsTextsThatDoNotFit)
 {
     ::SetWindowTextW(dialog.Item(IDC_BUTTON), L"far more text than such a button can show");
     EXPECT_NONFATAL_FAILURE(kztest::ExpectNothingClippedOrOverlapping(shown->m_hWnd), "far more text");
+}
+
+TEST_F(Support, LayoutCheckFindsItemsThatDoNotFit)
+{
+    ::SendMessageW(dialog.Item(IDC_COMBO), CB_ADDSTRING, 0,
+                   reinterpret_cast<LPARAM>(L"far more text than such a box can show"));
+    EXPECT_NONFATAL_FAILURE(kztest::ExpectNothingClippedOrOverlapping(shown->m_hWnd), "item of control 106");
+}
+
+TEST_F(Support, LayoutCheckFindsTabsThatDoNotFit)
+{
+    wchar_t text[] = L"far more text than such a tab can show";
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = text;
+    ::SendMessageW(dialog.Item(IDC_TAB), TCM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    EXPECT_NONFATAL_FAILURE(kztest::ExpectNothingClippedOrOverlapping(shown->m_hWnd), "tabs of control 120");
+}
+
+TEST_F(Support, LayoutCheckFindsATitleThatDoesNotFit)
+{
+    ::SetWindowTextW(shown->m_hWnd, std::wstring(100, L'W').c_str());
+    EXPECT_NONFATAL_FAILURE(kztest::ExpectNothingClippedOrOverlapping(shown->m_hWnd), "title");
 }
 
 TEST_F(Support, CountsSeeWindowsMenusAndGdiObjects)

@@ -4,6 +4,8 @@
 
 #include <afxwin.h>
 
+#include <commctrl.h>
+
 #include <string>
 #include <vector>
 
@@ -81,6 +83,52 @@ void ExpectTextFits(const Placed& control)
         << "text of control " << ::GetDlgCtrlID(control.window) << ": " << testing::PrintToString(text);
 }
 
+// A combo box shows its items beside its button.
+void ExpectItemsFit(const Placed& combo)
+{
+    const auto count = ::SendMessageW(combo.window, CB_GETCOUNT, 0, 0);
+    for (LRESULT item = 0; item < count; ++item) {
+        std::wstring text(static_cast<size_t>(::SendMessageW(combo.window, CB_GETLBTEXTLEN, item, 0)), L'\0');
+        ::SendMessageW(combo.window, CB_GETLBTEXT, item, reinterpret_cast<LPARAM>(text.data()));
+        const int needed = TextSize(combo.window, text, 0).cx + ::GetSystemMetrics(SM_CXVSCROLL);
+        EXPECT_LE(needed, combo.place.Width())
+            << "item of control " << ::GetDlgCtrlID(combo.window) << ": " << testing::PrintToString(text);
+    }
+}
+
+// Tabs that do not fit in a row are reached by arrows only.
+void ExpectTabsFit(const Placed& tab)
+{
+    RECT last{};
+    TabCtrl_GetItemRect(tab.window, TabCtrl_GetItemCount(tab.window) - 1, &last);
+    EXPECT_LE(last.right, tab.place.Width()) << "tabs of control " << ::GetDlgCtrlID(tab.window);
+}
+
+void ExpectCaptionFits(HWND dialog)
+{
+    if ((StyleOf(dialog) & WS_CAPTION) != WS_CAPTION)
+        return;
+    const std::wstring text = TextOf(dialog);
+    TITLEBARINFO bar{};
+    bar.cbSize = sizeof bar;
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    ASSERT_TRUE(::GetTitleBarInfo(dialog, &bar));
+    ASSERT_TRUE(::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0));
+    const HDC dc = ::GetDC(dialog);
+    const HFONT font = ::CreateFontIndirectW(&metrics.lfCaptionFont);
+    const HGDIOBJ before = ::SelectObject(dc, font);
+    SIZE size{};
+    ::GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+    ::SelectObject(dc, before);
+    ::DeleteObject(font);
+    ::ReleaseDC(dialog, dc);
+    // Before the text there is an icon, behind it at least one button.
+    const int others = 2 * ::GetSystemMetrics(SM_CXSIZE);
+    EXPECT_LE(size.cx + others, bar.rcTitleBar.right - bar.rcTitleBar.left)
+        << "title: " << testing::PrintToString(text);
+}
+
 void ExpectApart(const Placed& one, const Placed& other)
 {
     CRect common;
@@ -97,6 +145,7 @@ void ExpectNothingClippedOrOverlapping(HWND dialog)
 {
     CRect client;
     ::GetClientRect(dialog, &client);
+    ExpectCaptionFits(dialog);
     std::vector<Placed> controls;
     for (HWND child = ::GetWindow(dialog, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
         if ((StyleOf(child) & WS_VISIBLE) == 0)
@@ -108,6 +157,10 @@ void ExpectNothingClippedOrOverlapping(HWND dialog)
         EXPECT_TRUE(inside.IntersectRect(&control.place, &client) && inside == control.place)
             << "control " << ::GetDlgCtrlID(child) << " leaves its dialog";
         ExpectTextFits(control);
+        if (control.kind == L"ComboBox")
+            ExpectItemsFit(control);
+        if (control.kind == L"SysTabControl32")
+            ExpectTabsFit(control);
         for (const Placed& other : controls)
             ExpectApart(control, other);
         if (control.kind == L"#32770")
