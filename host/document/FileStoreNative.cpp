@@ -129,7 +129,7 @@ FileOutcome ReplaceFileSafely(const std::filesystem::path& file, std::string_vie
     FileDescriptor descriptor(CreateBeside(file, mode, name));
     if (!descriptor.IsOpen())
         return SystemFailure(errno);
-    TemporaryFile temporary(name);
+    TemporaryFile temporary(std::move(name));  // a copy might find no memory and leave the file
     const bool written = WriteAll(descriptor.Get(), bytes);
     const int error = errno;
     if (const bool closed = descriptor.Close(); !written || !closed)

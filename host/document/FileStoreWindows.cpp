@@ -132,7 +132,7 @@ FileOutcome ReplaceFileSafely(const std::filesystem::path& file, std::string_vie
     FileHandle handle(CreateBeside(file, name));
     if (!handle.IsOpen())
         return LastFailure();
-    TemporaryFile temporary(name);
+    TemporaryFile temporary(std::move(name));  // a copy might find no memory and leave the file
     const bool written = WriteAll(handle.Get(), bytes);
     const DWORD error = GetLastError();
     if (const bool closed = handle.Close(); !written || !closed)
