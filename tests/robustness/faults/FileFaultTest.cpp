@@ -12,7 +12,6 @@
 namespace {
 
 using testing::HasSubstr;
-using testing::Not;
 using testing::SizeIs;
 
 constexpr int MostCalls = 50;
@@ -30,6 +29,15 @@ void ForEachFault(const std::function<void(FileCall)>& test)
                 break;
         }
     }
+}
+
+// The first pass may open what the system keeps open, such as the texts of its messages.
+void ExpectNoHandlesLeft(const std::function<void(FileCall)>& test)
+{
+    ForEachFault(test);
+    const int handles = CountKernelHandles();
+    ForEachFault(test);
+    EXPECT_EQ(CountKernelHandles(), handles);
 }
 
 bool HasFailed(int failing)
@@ -53,8 +61,7 @@ protected:
 TEST_F(FailingFiles, LeaveTheOldDocumentOrTheNewOneAndSayWhich)
 {
     const std::filesystem::path file = m_project.plant.DeviceFile();
-    const int handles = CountKernelHandles();
-    ForEachFault([&](FileCall) {
+    const auto save = [&](FileCall) {
         m_project.plant.WriteDevice("<a>old</a>");
         const std::string before = m_project.plant.DeviceText();
         XmlDocument document(L"device");
@@ -65,23 +72,22 @@ TEST_F(FailingFiles, LeaveTheOldDocumentOrTheNewOneAndSayWhich)
         EXPECT_EQ(document.IsDirty(), !saved);
         EXPECT_EQ(saved.message.IsEmpty(), saved.ok);
         EXPECT_THAT(FilesOfDevices(), SizeIs(1));
-    });
-    EXPECT_EQ(CountKernelHandles(), handles);
+    };
+    ExpectNoHandlesLeft(save);
 }
 
 TEST_F(FailingFiles, LeaveWhatADocumentHeldBeforeItsLoad)
 {
     m_project.plant.WriteDevice("<a>in the file</a>");
-    const int handles = CountKernelHandles();
-    ForEachFault([&](FileCall) {
+    const auto load = [&](FileCall) {
         XmlDocument document(L"device");
         document.Root()->SetValue(L"a", L"in memory");
         const std::string before = document.Serialize();
         const KZDocumentResult loaded = document.Load(m_project.plant.DeviceFile());
         EXPECT_EQ(document.Serialize(), loaded ? m_project.plant.DeviceText() : before);
         EXPECT_EQ(loaded.message.IsEmpty(), loaded.ok);
-    });
-    EXPECT_EQ(CountKernelHandles(), handles);
+    };
+    ExpectNoHandlesLeft(load);
 }
 
 TEST_F(FailingFiles, AreSaidInTheDeviceDialogWhichStaysOpen)
