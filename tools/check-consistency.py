@@ -9,6 +9,7 @@
   exports    KZUsrZEP.dll exports exactly the committed list, and the products import only what ships with them
   files      no machine paths, no file of more than 400 lines, UTF-8, LF, no tabs, no blanks at line ends
   documents  links lead to files and headings, quotes of the code are in the code, each picture is shown
+  guide      the messages that the user guide explains are the product's own
   verbs      each verb of ./dev help exists, is dispatched and is mentioned in a document; no document has another
 
 Each finding is one line "file:line: what is wrong"; the exit status is 1 when there is one.
@@ -24,6 +25,7 @@ import documents  # noqa: E402
 import exports  # noqa: E402
 import files  # noqa: E402
 import formats  # noqa: E402
+import guide  # noqa: E402
 import includes  # noqa: E402
 import texts  # noqa: E402
 import verbs  # noqa: E402
@@ -37,6 +39,7 @@ CHECKS = {
     "exports": exports.check,
     "files": files.check,
     "documents": documents.check,
+    "guide": guide.check,
     "verbs": verbs.check,
 }
 
