@@ -20,7 +20,8 @@ run() {
 # Whole programs, not single cases: each start under Wine adds its counts to one file per source.
 find "$native" "$windows" -name '*.gcda' -delete
 run ctest native --test-dir "$native" -L native --parallel "$(nproc)" --output-on-failure --no-tests=error
-for program in "$windows"/tests/*.exe; do run "$root/tools/run-wine.sh" "$(basename "$program")" "$program"; done
+mapfile -t programs < <(find "$windows/tests" -name '*_include.cmake' -printf '%f\n' | sed 's/\[.*//' | sort -u)
+for program in "${programs[@]}"; do run "$root/tools/run-wine.sh" "$program" "$windows/tests/$program.exe"; done
 
 # count FOLDER GCOV NAME
 count() {
@@ -30,8 +31,8 @@ count() {
 }
 count "$native" gcov native
 count "$windows" x86_64-w64-mingw32-gcov windows
-report() { gcovr --root "$root" --add-tracefile "$report/native.json" --add-tracefile "$report/windows.json" "$@"; }
-report --html-details "$report/index.html" --json-summary "$report/summary.json" --txt "$report/lines.txt"
-report --branches --txt "$report/branches.txt"
+combined() { gcovr --root "$root" --add-tracefile "$report/native.json" --add-tracefile "$report/windows.json" "$@"; }
+combined --html-details "$report/index.html" --json-summary "$report/summary.json" --txt "$report/lines.txt"
+combined --branches --txt "$report/branches.txt"
 python3 -B "$root/tools/coverage-table.py" "$report/summary.json" || failed=1
 exit "$failed"
