@@ -66,6 +66,20 @@ bool IsRadioButton(HWND control) noexcept
     return (::SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0;
 }
 
+// Sets one button of a group whose others are set too. Checking an automatic one would make the system walk over the
+// whole dialog in search of them, so it is not automatic meanwhile. The checked one is the group's tab stop.
+void CheckRadio(HWND control, bool checked) noexcept
+{
+    const auto style = static_cast<DWORD>(::GetWindowLongPtrW(control, GWL_STYLE));
+    const bool isChecked = SendInt(control, BM_GETCHECK) == BST_CHECKED;
+    if (isChecked == checked && ((style & WS_TABSTOP) != 0) == checked)
+        return;
+    const WORD buttonStyle = LOWORD(style);
+    ::SendMessageW(control, BM_SETSTYLE, (buttonStyle & ~BS_TYPEMASK) | BS_RADIOBUTTON, FALSE);
+    SendInt(control, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
+    ::SendMessageW(control, BM_SETSTYLE, buttonStyle, FALSE);
+}
+
 bool StartsGroup(HWND control) noexcept
 {
     return (::GetWindowLongPtrW(control, GWL_STYLE) & WS_GROUP) != 0;
@@ -153,7 +167,7 @@ void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value)
     do {
         if (IsRadioButton(control)) {
             if (!pDX->m_bSaveAndValidate)
-                SendInt(control, BM_SETCHECK, button == value);
+                CheckRadio(control, button == value);
             else if (SendInt(control, BM_GETCHECK) != BST_UNCHECKED)
                 value = button;
             ++button;

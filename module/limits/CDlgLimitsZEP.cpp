@@ -40,23 +40,28 @@ BOOL CDlgLimitsZEP::OnInitDialog()
     SetWindowText(KZBasicString::Format(KZLoadString(KZS_LIMITS_TITLE).c_str(), model.c_str()).c_str());
     KZSetBigIcon(*this);
     KZSetUpOkCancel(m_btnOK, m_btnCancel);
-    if (!CreatePages()) {
+    MakePages();
+    LoadPages();
+    if (!CreatePageWindows()) {
         EndDialog(-1);
         return TRUE;
     }
     CreateTabs();
     ShowOnly(m_pages.front().get());
     Layout();
-    LoadPages();
     UpdateData(FALSE);
     return TRUE;
 }
 
-bool CDlgLimitsZEP::CreatePages()
+void CDlgLimitsZEP::MakePages()
 {
     m_pages[0] = std::make_unique<CDlgLimitsPowerZEP>(m_pDriver);
     m_pages[1] = std::make_unique<CDlgLimitsArmonicZEP>(zep::LimitSide::Net);
     m_pages[2] = std::make_unique<CDlgLimitsArmonicZEP>(zep::LimitSide::Load);
+}
+
+bool CDlgLimitsZEP::CreatePageWindows()
+{
     return std::all_of(m_pages.begin(), m_pages.end(), [this](const auto& page) { return page->Create(this); });
 }
 
@@ -80,11 +85,12 @@ void CDlgLimitsZEP::ShowOnly(LimitsPage* shown)
     m_pCurrentPage = shown;
     if (!shown)
         return;
-    shown->ShowWindow(SW_SHOW);
+    shown->Show();
     shown->BringWindowToTop();
     shown->Invalidate(TRUE);
 }
 
+// Before the pages have windows, so that their many boxes get their texts once.
 void CDlgLimitsZEP::LoadPages()
 {
     if (!m_pViewSetup)
@@ -137,9 +143,8 @@ void CDlgLimitsZEP::SavePages()
 void CDlgLimitsZEP::OnSize(UINT type, int cx, int cy)
 {
     CDialog::OnSize(type, cx, cy);
-    // Before the pages exist there is nothing to lay out. Fitting the height to them comes here once more, with the
-    // height that fits.
-    if (m_pages.back())
+    // Before the pages exist there is nothing to lay out.
+    if (m_pages.back() && m_pages.back()->GetSafeHwnd())
         Layout();
 }
 

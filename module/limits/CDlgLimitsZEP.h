@@ -37,8 +37,9 @@ protected:
 private:
     static constexpr std::size_t PageCount = 3;
 
-    // Returns false when a page's window cannot be created.
-    [[nodiscard]] bool CreatePages();
+    void MakePages();
+    // Returns false when one cannot be created.
+    [[nodiscard]] bool CreatePageWindows();
     void CreateTabs();
     void ShowOnly(LimitsPage* page);
     void LoadPages();
@@ -57,5 +58,6 @@ private:
     KZDriver* m_pDriver = nullptr;
     std::array<std::unique_ptr<LimitsPage>, PageCount> m_pages;  // in tab order
     LimitsPage* m_pCurrentPage = nullptr;
+    bool m_bLayingOut = false;
     CImageList m_imageList;
 };

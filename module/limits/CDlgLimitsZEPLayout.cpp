@@ -2,10 +2,17 @@
 #include "CDlgLimitsArmonicZEP.h"
 #include "CDlgLimitsZEP.h"
 #include "LimitsControls.h"
+#include "Raised.h"
 
 void CDlgLimitsZEP::Layout()
 {
-    LayoutTabAndButtons();
+    // Fitting the height sends WM_SIZE, which comes here again: the outer call finishes with the new client area.
+    if (m_bLayingOut)
+        return;
+    {
+        const Raised layingOut(m_bLayingOut);
+        LayoutTabAndButtons();
+    }
 
     const CRect area = PageArea();
     for (const auto& page : m_pages)

@@ -88,10 +88,11 @@ BOOL LimitsPage::OnInitDialog()
 
 void LimitsPage::NameForScreenReaders()
 {
-    ForEachCell([this](LimitCell cell, int id) {
-        const KZBasicString row = ControlText(*GetDlgItem(RowLabelId(cell.variable)));
-        m_names.Set(::GetDlgItem(m_hWnd, id),
-                    row + std::wstring_view(L", ") + KZLoadString(zep::LimitFieldTitle(cell.field)));
+    KZBasicString row;
+    ForEachCell([&](LimitCell cell, int) {
+        if (cell.field == zep::LimitField::Nominal)
+            row = ControlText(*GetDlgItem(RowLabelId(cell.variable)));
+        m_names.Set(Edit(cell), row + std::wstring_view(L", ") + KZLoadString(zep::LimitFieldTitle(cell.field)));
     });
 }
 
@@ -115,7 +116,8 @@ void LimitsPage::OnCancel()
 void LimitsPage::Load(const XmlDocument::XmlNode& viewSetup)
 {
     m_store.Load(viewSetup);
-    UpdateData(FALSE);
+    if (m_hWnd)
+        UpdateData(FALSE);
 }
 
 bool LimitsPage::Validate()
@@ -149,15 +151,34 @@ void LimitsPage::Save(XmlDocument::XmlNode& viewSetup) const
 
 int LimitsPage::PreferredHeight()
 {
-    LayoutPlan plan(*this);
-    PlanLayout(plan);
-    return plan.Height();
+    if (m_nPreferredHeight == 0) {
+        LayoutPlan plan(*this);
+        PlanLayout(plan);
+        m_nPreferredHeight = plan.Height();
+    }
+    return m_nPreferredHeight;
 }
 
 void LimitsPage::MoveTo(const CRect& area)
 {
     MoveWindow(&area);
+    if ((GetStyle() & WS_VISIBLE) != 0)
+        LayoutNow();
+    else
+        m_bLayoutPending = true;
+}
+
+void LimitsPage::LayoutNow()
+{
+    m_bLayoutPending = false;
     LayoutPlan plan(*this);
     PlanLayout(plan);
     plan.Apply();
+}
+
+void LimitsPage::Show()
+{
+    if (m_bLayoutPending)
+        LayoutNow();
+    ShowWindow(SW_SHOW);
 }

@@ -35,7 +35,7 @@ public:
     // Creates the page's window as a hidden child of the container. Returns false when it cannot be created.
     [[nodiscard]] bool Create(CWnd* container);
 
-    // Reads the page's variables from a "viewSetup" and shows them.
+    // Reads the page's variables from a "viewSetup" and shows them, as soon as there is a window to show them in.
     void Load(const XmlDocument::XmlNode& viewSetup);
     // Whether the page accepts what its boxes hold; says in a message what it refuses.
     [[nodiscard]] bool Validate();
@@ -47,8 +47,10 @@ public:
     // The height in pixels that the page's controls need.
     [[nodiscard]] int PreferredHeight();
 
-    // Moves the page to a rectangle of its container and lays its controls out in it.
+    // Moves the page to a rectangle of its container and lays its controls out in it: a page that is hidden only when
+    // it is shown.
     void MoveTo(const CRect& area);
+    void Show();
 
 protected:
     explicit LimitsPage(const LimitsPageTable& table);
@@ -79,10 +81,13 @@ private:
     template <class Visitor>
     void ForEachCell(Visitor visit) const;
     void NameForScreenReaders();
+    void LayoutNow();
     void ShowFailure(const zep::LimitFailure& failure);
 
     const LimitsPageTable& m_table;
     zep::LimitsStore m_store;
     std::vector<EditRow> m_edits;
     AccessibleNames m_names;
+    int m_nPreferredHeight = 0;  // 0 until it is asked for
+    bool m_bLayoutPending = false;
 };

@@ -93,10 +93,11 @@ void CDlgUnitsZEP::DoDataExchange(CDataExchange* pDX)
 
 BOOL CDlgUnitsZEP::OnInitDialog()
 {
+    // Before the base class shows the choices, so that each radio button is checked once.
+    m_initial = m_choices = m_record.Read();
     CDialog::OnInitDialog();
     SetTexts();
     KZSetUpOkCancel(m_btnOK, m_btnCancel);
-    m_initial = m_choices = m_record.Read();
     LayoutControls();
     UpdateData(FALSE);
     KZSetBigIcon(*this, m_hIcon);

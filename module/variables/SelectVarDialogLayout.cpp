@@ -5,23 +5,8 @@
 #include "CDlgSelectVarZEP.h"
 #include "KZDialogSetup.h"
 #include "KZLayout.h"
+#include "Raised.h"
 #include "SelectVarControls.h"
-
-namespace {
-
-// A flag that is up for the length of a scope.
-class Raised {
-public:
-    explicit Raised(bool& flag) noexcept : m_flag(flag) { m_flag = true; }
-    ~Raised() { m_flag = false; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
-private:
-    bool& m_flag;
-};
-
-}  // namespace
 
 void CDlgSelectVarZEP::Layout(int, int)
 {

@@ -160,6 +160,26 @@ TEST_F(DataExchange, MovesTheIndexOfARadioGroupOfItsOwnGroupAlone)
     }
 }
 
+TEST_F(DataExchange, LeavesRadioButtonsAutomaticAndTheCheckedOneTheTabStop)
+{
+    const auto styleOf = [this](int button) {
+        return static_cast<DWORD>(
+            ::GetWindowLongPtrW(::GetDlgItem(dialog.m_hWnd, IDC_RADIO_FIRST + button), GWL_STYLE));
+    };
+    const DWORD first = styleOf(0);
+    for (const int index : {1, 1, 2, 0}) {
+        int value = index;
+        EXPECT_TRUE(Exchange(FALSE, [&](CDataExchange* pDX) { DDX_Radio(pDX, IDC_RADIO_FIRST, value); }));
+        for (int button = 0; button < 3; ++button) {
+            EXPECT_EQ(styleOf(button) & BS_TYPEMASK, DWORD{BS_AUTORADIOBUTTON}) << index;
+            EXPECT_EQ((styleOf(button) & WS_TABSTOP) != 0, button == index) << index;
+        }
+    }
+    EXPECT_EQ(styleOf(0), first);
+    ::SendDlgItemMessageW(dialog.m_hWnd, IDC_RADIO_SECOND, BM_CLICK, 0, 0);
+    EXPECT_FALSE(kztest::IsChecked(dialog.m_hWnd, IDC_RADIO_FIRST));
+}
+
 TEST_F(DataExchange, MovesSelectionsOfLists)
 {
     for (const wchar_t* text : {L"one", L"two", L"three"}) {
