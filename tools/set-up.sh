@@ -14,7 +14,6 @@ packages_wine=(
 packages_display=(xvfb xdotool imagemagick)
 packages_check=(python3)
 packages_format=(clang-format)
-packages_bench=(libbenchmark-dev)
 packages_coverage=(gcovr)
 packages_fuzz=(clang-14 libclang-rt-14-dev)
 packages_package=(zip)

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <vector>
 
-#include "PairedRuns.h"
+#include "Report.h"
 
 namespace {
 
@@ -92,16 +92,16 @@ INT_PTR CALLBACK EmptyProcedure(HWND, UINT message, WPARAM, LPARAM)
 int main()
 {
     const TemplateWriter bytes;
-    kzbench::PrintHeading();
-    const bool within = kzbench::Compare(
-        "160 bound controls / the bare template", 41, 1.25, [] {},
-        [&] {
-            BoundDialog dialog;
-            dialog.CreateIndirect(bytes.Get());
-        },
-        [&] {
-            ::DestroyWindow(
-                ::CreateDialogIndirectParamW(AfxGetInstanceHandle(), bytes.Get(), nullptr, EmptyProcedure, 0));
-        });
-    return within ? 0 : 1;
+    kzbench::Report report;
+    report.Add({"open and close a dialog of 160 bound controls", "the bare template", 1.25},
+               kzbench::RunInTurn(
+                   [&] {
+                       BoundDialog dialog;
+                       dialog.CreateIndirect(bytes.Get());
+                   },
+                   [&] {
+                       ::DestroyWindow(::CreateDialogIndirectParamW(AfxGetInstanceHandle(), bytes.Get(), nullptr,
+                                                                    EmptyProcedure, 0));
+                   }));
+    return report.ExitCode();
 }
