@@ -93,8 +93,10 @@ click() {
 key() { xdotool key --clearmodifiers "$@"; }
 type_text() { xdotool type --clearmodifiers "$1"; }
 
-# picture FILE: waits until two pictures in a row are equal, so that nothing is caught half drawn
+# picture FILE: waits until two pictures in a row are equal, so that nothing is caught half drawn. The mouse moves aside first:
+# what lies under it looks different.
 picture() {
+  xdotool mousemove --sync 1279 1023
   import -window root "$1"
   for _ in $(seq 50); do
     mv "$1" "$1.before"
