@@ -206,6 +206,13 @@ TEST(PowerName, EachCodePicksItsRow)
     EXPECT_EQ(ParseVariableName(Family::Power, L"PFI1L"), (VariablePosition{3, 0, Side::Load}));
 }
 
+TEST(VariableName, BelongsToNoFamilyThatDoesNotExist)
+{
+    constexpr auto none = static_cast<Family>(FamilyCount);
+    EXPECT_EQ(ParseVariableName(none, L"VI1N"), std::nullopt);
+    EXPECT_EQ(ParseVariableName(none, L"ARM1A1N"), std::nullopt);
+}
+
 TEST(VariablePosition, DiffersInEachCoordinate)
 {
     const VariablePosition position{3, 1, Side::Net};
