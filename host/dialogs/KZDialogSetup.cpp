@@ -20,7 +20,7 @@ void KZSetUpOkCancel(CImageButton& ok, CImageButton& cancel)
     SetUpButton(cancel, KZS_CANCEL, L"CANCEL-16.png");
 }
 
-HICON KZLoadProgramIcon() noexcept
+HICON KZLoadProgramIcon()
 {
     const unsigned id = KZQuorvelantaSetup::Get()->ProgramIDResource();
     if (id == 0)
@@ -35,7 +35,7 @@ void KZSetBigIcon(CWnd& dialog, HICON icon) noexcept
     dialog.SendMessage(WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
 }
 
-void KZSetBigIcon(CWnd& dialog) noexcept
+void KZSetBigIcon(CWnd& dialog)
 {
     KZSetBigIcon(dialog, KZLoadProgramIcon());
 }

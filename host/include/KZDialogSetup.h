@@ -13,13 +13,13 @@ KZ_API void KZSetUpOkCancel(CImageButton& ok, CImageButton& cancel);
 
 // The program's icon at its large size, or null when the program has set none. Shared by the system: not to be
 // destroyed.
-[[nodiscard]] KZ_API HICON KZLoadProgramIcon() noexcept;
+[[nodiscard]] KZ_API HICON KZLoadProgramIcon();
 
 // Sets the icon that stands for the dialog in the task switcher (WM_SETICON, ICON_BIG); null takes it away.
 KZ_API void KZSetBigIcon(CWnd& dialog, HICON icon) noexcept;
 
 // The same with the program's icon.
-KZ_API void KZSetBigIcon(CWnd& dialog) noexcept;
+KZ_API void KZSetBigIcon(CWnd& dialog);
 
 // Makes the dialog's window as much higher or lower as its client area differs from what the layout needs (FixedSize);
 // left, top and width stay. The layout is not applied.

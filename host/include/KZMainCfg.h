@@ -5,8 +5,9 @@
 
 class KZ_API KZMainCfg {
 public:
-    // The document, root element "configuration"; never null. Empty until the host loads a project.
-    [[nodiscard]] static XmlDocument* Get() noexcept;
+    // The document, root element "configuration"; never null. Empty until the host loads a project. The first call
+    // makes it and throws std::bad_alloc when there is no memory.
+    [[nodiscard]] static XmlDocument* Get();
 
     // The folder of the project that the document belongs to: the device documents are under it. Empty until the host
     // opens a project. Windows only.

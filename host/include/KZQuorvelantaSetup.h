@@ -9,8 +9,9 @@ enum class KZLanguage { English, Spanish };
 
 class KZ_API KZQuorvelantaSetup {
 public:
-    // The one set-up of the process; never null.
-    [[nodiscard]] static KZQuorvelantaSetup* Get() noexcept;
+    // The one set-up of the process; never null. The first call makes it and throws std::bad_alloc when there is no
+    // memory.
+    [[nodiscard]] static KZQuorvelantaSetup* Get();
 
     // Resource id of the program's icon (RT_GROUP_ICON), 0 while the program has set none.
     [[nodiscard]] unsigned ProgramIDResource() const noexcept;

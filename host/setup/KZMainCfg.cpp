@@ -1,6 +1,6 @@
 #include "KZMainCfg.h"
 
-XmlDocument* KZMainCfg::Get() noexcept
+XmlDocument* KZMainCfg::Get()
 {
     static XmlDocument document(L"configuration");
     return &document;

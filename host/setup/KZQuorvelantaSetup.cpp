@@ -45,7 +45,7 @@ KZQuorvelantaSetup::KZQuorvelantaSetup() : m_state(std::make_unique<State>()) {}
 
 KZQuorvelantaSetup::~KZQuorvelantaSetup() = default;
 
-KZQuorvelantaSetup* KZQuorvelantaSetup::Get() noexcept
+KZQuorvelantaSetup* KZQuorvelantaSetup::Get()
 {
     static KZQuorvelantaSetup setup;
     return &setup;

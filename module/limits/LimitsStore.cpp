@@ -1,6 +1,6 @@
 #include "LimitsStore.h"
 
-#include <cwchar>
+#include <cstdlib>
 
 #include "KZNumber.h"
 
@@ -18,9 +18,14 @@ constexpr LimitField FieldAt(std::size_t index) noexcept
     return static_cast<LimitField>(index);
 }
 
+// Not wcstod: MinGW's makes a copy of the text on the heap without looking whether there was memory for it. For a
+// number of a usual length strtod takes none.
 double Parse(const wchar_t* text) noexcept
 {
-    return std::wcstod(text, nullptr);
+    std::array<char, 512> copy{};  // of more digits than any double has
+    for (std::size_t i = 0; i + 1 < copy.size() && text[i] > L'\0' && text[i] <= L'\x7F'; ++i)
+        copy[i] = static_cast<char>(text[i]);
+    return std::strtod(copy.data(), nullptr);
 }
 
 XmlDocument::XmlNode* FindCheck(const XmlDocument::XmlNode& viewSetup, const LimitVariable& variable)

@@ -1,6 +1,20 @@
 #include "MemoryFaults.h"
 
-#include <cstdlib>
+namespace {
+
+// The C library's own, also where the program that this is linked into is itself one of the watched modules.
+template <class Function>
+Function* CLibrary(const char* symbol)
+{
+    static const HMODULE library = ::GetModuleHandleW(L"msvcrt.dll");
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(::GetProcAddress(library, symbol)));
+}
+void* (*const RealMalloc)(std::size_t) = CLibrary<void*(std::size_t)>("malloc");
+void* (*const RealCalloc)(std::size_t, std::size_t) = CLibrary<void*(std::size_t, std::size_t)>("calloc");
+void* (*const RealRealloc)(void*, std::size_t) = CLibrary<void*(void*, std::size_t)>("realloc");
+void (*const RealFree)(void*) = CLibrary<void(void*)>("free");
+
+}  // namespace
 
 MemoryFaults::MemoryFaults(const std::vector<const wchar_t*>& modules)
 {
@@ -10,7 +24,11 @@ MemoryFaults::MemoryFaults(const std::vector<const wchar_t*>& modules)
     for (const wchar_t* name : watched) {
         const HMODULE module = ::GetModuleHandleW(name);
         const auto patch = [&](const char* symbol, void* replacement) {
-            m_patches.push_back(std::make_unique<kztest::ImportPatch>(module, symbol, replacement));
+            try {
+                m_patches.push_back(std::make_unique<kztest::ImportPatch>(module, symbol, replacement));
+            } catch (const std::runtime_error&) {
+                // A module that does not import it does not call it.
+            }
         };
         patch("malloc", reinterpret_cast<void*>(&Malloc));
         patch("calloc", reinterpret_cast<void*>(&Calloc));
@@ -52,19 +70,19 @@ void* MemoryFaults::Counted(void* memory) noexcept
 
 void* MemoryFaults::Malloc(std::size_t size) noexcept
 {
-    return Fails() ? nullptr : Counted(std::malloc(size));
+    return Fails() ? nullptr : Counted(RealMalloc(size));
 }
 
 void* MemoryFaults::Calloc(std::size_t count, std::size_t size) noexcept
 {
-    return Fails() ? nullptr : Counted(std::calloc(count, size));
+    return Fails() ? nullptr : Counted(RealCalloc(count, size));
 }
 
 void* MemoryFaults::Realloc(void* memory, std::size_t size) noexcept
 {
     if (Fails())
         return nullptr;
-    void* const grown = std::realloc(memory, size);
+    void* const grown = RealRealloc(memory, size);
     return memory ? grown : Counted(grown);
 }
 
@@ -72,5 +90,5 @@ void MemoryFaults::Free(void* memory) noexcept
 {
     if (memory && Counts())
         --s_balance;
-    std::free(memory);
+    RealFree(memory);
 }
