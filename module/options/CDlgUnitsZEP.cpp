@@ -93,13 +93,12 @@ void CDlgUnitsZEP::DoDataExchange(CDataExchange* pDX)
 
 BOOL CDlgUnitsZEP::OnInitDialog()
 {
-    // Before the base class shows the choices, so that each radio button is checked once.
+    // The base class shows the choices.
     m_initial = m_choices = m_record.Read();
     CDialog::OnInitDialog();
     SetTexts();
     KZSetUpOkCancel(m_btnOK, m_btnCancel);
     LayoutControls();
-    UpdateData(FALSE);
     KZSetBigIcon(*this, m_hIcon);
     return TRUE;
 }
