@@ -74,9 +74,13 @@ void CheckRadio(HWND control, bool checked) noexcept
     const bool isChecked = SendInt(control, BM_GETCHECK) == BST_CHECKED;
     if (isChecked == checked && ((style & WS_TABSTOP) != 0) == checked)
         return;
+    if (!checked) {
+        SendInt(control, BM_SETCHECK, BST_UNCHECKED);
+        return;
+    }
     const WORD buttonStyle = LOWORD(style);
     ::SendMessageW(control, BM_SETSTYLE, (buttonStyle & ~BS_TYPEMASK) | BS_RADIOBUTTON, FALSE);
-    SendInt(control, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
+    SendInt(control, BM_SETCHECK, BST_CHECKED);
     ::SendMessageW(control, BM_SETSTYLE, buttonStyle, FALSE);
 }
 
