@@ -11,12 +11,23 @@ namespace {
 
 constexpr long ToldEvery = 10'000;  // events between two words of progress
 
+// A fault in the system's own libraries, which a vectored handler cannot tell from one that they expect.
+LONG WINAPI DescribeUnhandled(EXCEPTION_POINTERS* pointers)
+{
+    std::fprintf(stderr, "unhandled exception %08lx at %p\n", pointers->ExceptionRecord->ExceptionCode,
+                 pointers->ExceptionRecord->ExceptionAddress);
+    EventLog::DescribeCurrent();
+    std::fflush(nullptr);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
+
 }  // namespace
 
 EventLog::EventLog(std::uint64_t seed) : m_seed(seed), m_since(Now()), m_watchdog([this] { Watch(); })
 {
     s_current = this;
     kztest::SetCrashNote(&EventLog::DescribeCurrent);
+    ::SetUnhandledExceptionFilter(&DescribeUnhandled);
 }
 
 EventLog::~EventLog()
