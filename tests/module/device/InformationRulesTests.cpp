@@ -138,6 +138,16 @@ TEST(InformationRules, FindAChangeInEverySetting)
     EXPECT_NE((InformationSettings{1, 2, 3, 4, 0}), initial);
 }
 
+TEST(InformationRules, TellRefusalsApart)
+{
+    EXPECT_NE((InformationBounds{0, 200}), (InformationBounds{1, 200}));
+    EXPECT_NE((InformationBounds{0, 200}), (InformationBounds{0, 8}));
+    const InformationFailure failure{InformationField::UnitCount, KZS_OUT_OF_RANGE, InformationBounds{1, 8}};
+    EXPECT_NE((InformationFailure{InformationField::MinimumCurrent, KZS_OUT_OF_RANGE, failure.bounds}), failure);
+    EXPECT_NE((InformationFailure{InformationField::UnitCount, KZS_FIELD_EMPTY, failure.bounds}), failure);
+    EXPECT_NE((InformationFailure{InformationField::UnitCount, KZS_OUT_OF_RANGE, std::nullopt}), failure);
+}
+
 // The rules once more, as one list of conditions.
 Failure Expected(const std::wstring& ratio, const std::wstring& current, const std::wstring& units)
 {

@@ -224,4 +224,17 @@ TEST(HarmonicRules, AgreeWithTheConditionsAfterRandomEdits)
     EXPECT_GT(outcomes[1], 100);
 }
 
+TEST(LimitFailures, DifferInTheirLinesAndTheirFocus)
+{
+    const LimitMessageLine line{KZS_HARMONIC_ORDER, 11};
+    EXPECT_EQ(line, (LimitMessageLine{KZS_HARMONIC_ORDER, 11}));
+    EXPECT_NE(line, (LimitMessageLine{KZS_FUNDAMENTAL, 11}));
+    EXPECT_NE(line, (LimitMessageLine{KZS_HARMONIC_ORDER, 13}));
+    const LimitFailure failure{{line}, LimitCell{5, LimitField::MaxD}};
+    EXPECT_EQ(failure, (LimitFailure{{line}, LimitCell{5, LimitField::MaxD}}));
+    EXPECT_NE(failure, (LimitFailure{{line, line}, LimitCell{5, LimitField::MaxD}}));
+    EXPECT_NE(failure, (LimitFailure{{line}, LimitCell{4, LimitField::MaxD}}));
+    EXPECT_NE(failure, (LimitFailure{{line}, LimitCell{5, LimitField::MaxW}}));
+}
+
 }  // namespace

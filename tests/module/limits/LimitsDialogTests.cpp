@@ -1,6 +1,6 @@
-#include "LimitsDialogFixture.h"
-
+#include "CDlgLimitsPowerZEP.h"
 #include "KZStringIds.h"
+#include "LimitsDialogFixture.h"
 
 namespace {
 
@@ -44,6 +44,17 @@ TEST_F(LimitsDialog, LoadsEveryPageFromTheViewSetup)
         EXPECT_EQ(TextOf(Net, IDC_HARMONIC_MAXD + 3), Typed(L"55.125"));
         EXPECT_EQ(TextOf(Load, IDC_HARMONIC_MAXD + 3), L"1");
         EXPECT_EQ(TextOf(Load, IDC_HARMONIC_MAXW + 12), Typed(L"0.5"));
+    });
+}
+
+TEST_F(LimitsDialog, ShowsWhatAPageLoadsWhenItIsThereAlready)
+{
+    Configure("<check><var>AP</var><nominal>7.500000</nominal></check>");
+    Run([&] {
+        CDlgLimitsPowerZEP page(m_plant.Device());
+        ASSERT_TRUE(page.Create(m_dialog));
+        page.Load(*m_viewSetup);
+        EXPECT_EQ(ControlText(*page.GetDlgItem(IDC_AP_NOMINAL)).View(), Typed(L"7.5"));
     });
 }
 

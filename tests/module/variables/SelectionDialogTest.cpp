@@ -94,6 +94,14 @@ TEST_F(SelectionDialog, ShowsTheGeneralPageFirstAndOnePageAtATime)
         EXPECT_EQ(::GetWindow(dialog.m_hWnd, GW_CHILD), dialog.Page(Family::Harmonic));
         dialog.ShowTab(0);
         EXPECT_THAT(visible(), ElementsAre(true, false, false));
+
+        const HWND tab = ::GetDlgItem(dialog.m_hWnd, 6697);
+        NMHDR change{tab, 6697, static_cast<UINT>(TCN_SELCHANGE)};
+        TabCtrl_SetCurSel(tab, -1);
+        for (int twice = 0; twice < 2; ++twice) {
+            dialog.SendMessage(WM_NOTIFY, 6697, reinterpret_cast<LPARAM>(&change));
+            EXPECT_THAT(visible(), ElementsAre(false, false, false));
+        }
     }});
 }
 

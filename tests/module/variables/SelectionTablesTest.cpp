@@ -153,5 +153,15 @@ TEST(SelectionCommands, FindEveryBoxBackFromItsId)
     }
 }
 
+TEST(SelectionCommands, DifferInEachPart)
+{
+    const SelectionCommand command{Kind::Box, 3, 1, Side::Net};
+    EXPECT_EQ(command, (SelectionCommand{Kind::Box, 3, 1, Side::Net}));
+    EXPECT_NE(command, (SelectionCommand{Kind::Row, 3, 1, Side::Net}));
+    EXPECT_NE(command, (SelectionCommand{Kind::Box, 4, 1, Side::Net}));
+    EXPECT_NE(command, (SelectionCommand{Kind::Box, 3, 2, Side::Net}));
+    EXPECT_NE(command, (SelectionCommand{Kind::Box, 3, 1, Side::Load}));
+}
+
 }  // namespace
 }  // namespace zep
