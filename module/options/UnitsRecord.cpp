@@ -20,17 +20,15 @@ UnitChoice ReadUnit(const XmlDocument::XmlNode& unit)
     return {KZWideChar::ToInteger(unit.Value(L"decimals", L"1")), ScaleOf(unit.Value(L"factor", L"1"))};
 }
 
-XmlDocument::XmlNode* FindUnit(const XmlDocument::XmlNode& setup, const wchar_t* name)
-{
-    return setup.NodeV(L"unit?name=%s?", name);
-}
+// Where a set-up has the units of PowerUnitNames. Formatting these paths takes longer than following them.
+constexpr std::array<const wchar_t*, PowerUnitCount> UnitPaths{L"unit?name=AP-VA?", L"unit?name=RP?"};
 
-XmlDocument::XmlNode& FindOrMakeUnit(XmlDocument::XmlNode& setup, const wchar_t* name)
+XmlDocument::XmlNode& FindOrMakeUnit(XmlDocument::XmlNode& setup, std::size_t index)
 {
-    if (XmlDocument::XmlNode* unit = FindUnit(setup, name))
+    if (XmlDocument::XmlNode* unit = setup.Node(UnitPaths[index]))
         return *unit;
     XmlDocument::XmlNode* unit = setup.NewChild(L"unit", nullptr);
-    unit->SetValue(L"name", name);
+    unit->SetValue(L"name", PowerUnitNames[index]);
     return *unit;
 }
 
@@ -48,7 +46,7 @@ UnitChoices UnitsRecord::Read() const
     if (!m_setup)
         return choices;
     for (std::size_t i = 0; i < PowerUnitCount; ++i)
-        if (const XmlDocument::XmlNode* unit = FindUnit(*m_setup, PowerUnitNames[i]))
+        if (const XmlDocument::XmlNode* unit = m_setup->Node(UnitPaths[i]))
             choices[i] = ReadUnit(*unit);
     return choices;
 }
@@ -57,7 +55,7 @@ void UnitsRecord::Write(const UnitChoices& choices)
 {
     XmlDocument::XmlNode& setup = MakeSetup();
     for (std::size_t i = 0; i < PowerUnitCount; ++i) {
-        XmlDocument::XmlNode& unit = FindOrMakeUnit(setup, PowerUnitNames[i]);
+        XmlDocument::XmlNode& unit = FindOrMakeUnit(setup, i);
         unit.SetValue(L"decimals", choices[i].decimals);
         unit.SetValue(L"factor", choices[i].scale == UnitChoice::Kilo ? KiloFactor : PlainFactor);
     }
