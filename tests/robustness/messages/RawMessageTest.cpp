@@ -24,6 +24,27 @@ constexpr UINT Favourites[] = {WM_COMMAND,  WM_COMMAND,        WM_SIZE,        W
                                WM_KEYDOWN,  WM_CHAR,           WM_LBUTTONDOWN, WM_LBUTTONUP,  WM_THEMECHANGED,
                                WM_SETFOCUS, WM_KILLFOCUS,      WM_ACTIVATE,    WM_PAINT,      BM_CLICK};
 
+// Windows draws on the device context in such a message; a random number may by chance be that of another kind of
+// object, on which Wine faults. They come with a real one.
+bool CarriesDeviceContext(UINT message)
+{
+    return message == WM_PAINT || message == WM_ERASEBKGND || message == WM_ICONERASEBKGND || message == WM_PRINT ||
+           message == WM_PRINTCLIENT || (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC);
+}
+
+class DeviceContext {
+public:
+    explicit DeviceContext(HWND window) noexcept : m_window(window), m_context(::GetDC(window)) {}
+    ~DeviceContext() { ::ReleaseDC(m_window, m_context); }
+    DeviceContext(const DeviceContext&) = delete;
+    DeviceContext& operator=(const DeviceContext&) = delete;
+    [[nodiscard]] WPARAM Value() const noexcept { return reinterpret_cast<WPARAM>(m_context); }
+
+private:
+    HWND m_window;
+    HDC m_context;
+};
+
 class RawMessages {
 public:
     explicit RawMessages(std::uint64_t seed) : m_random(seed), m_log(seed), m_user(m_random, m_log, 10) {}
@@ -106,12 +127,14 @@ void RawMessages::Bombard(HWND dialog)
     const UINT message = Message();
     if (WhyLethal(target, message))
         return;
-    const auto wParam = static_cast<WPARAM>(Parameter(windows));
+    const DeviceContext context(target);
+    const bool draws = CarriesDeviceContext(message);
+    const WPARAM wParam = draws ? context.Value() : static_cast<WPARAM>(Parameter(windows));
     const LPARAM lParam = Parameter(windows);
     // Keys come through the queue to the window that has the focus, never to a hidden one: Wine's search for the letter
     // of a button then runs in circles.
     const bool isKey = message >= WM_KEYFIRST && message <= WM_KEYLAST;
-    const bool posted = m_random.OneIn(3) && (!isKey || IsReachable(target));
+    const bool posted = m_random.OneIn(3) && !draws && (!isKey || IsReachable(target));
     char what[80];
     std::snprintf(what, sizeof what, "%s 0x%04x (0x%llx, 0x%llx)", posted ? "post" : "send", message,
                   static_cast<unsigned long long>(wParam), static_cast<unsigned long long>(lParam));
