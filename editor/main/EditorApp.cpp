@@ -31,10 +31,10 @@ void RegisterControlClasses() noexcept
 
 int EditorApp::RunProgram() noexcept
 {
-    KZQuorvelantaSetup::Get()->SetLanguage(UserLanguage());
-    KZQuorvelantaSetup::Get()->SetProgramIDResource(IDI_PROGRAM);
     RegisterControlClasses();
     try {
+        KZQuorvelantaSetup::Get()->SetLanguage(UserLanguage());
+        KZQuorvelantaSetup::Get()->SetProgramIDResource(IDI_PROGRAM);
         return RunArguments(ParseArguments(ProcessArguments()));
     } catch (const std::exception& error) {
         Report(error.what());
