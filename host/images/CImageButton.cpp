@@ -4,15 +4,11 @@
 
 #include <exception>
 #include <memory>
+#include <optional>
 
 #include "KZQuorvelantaSetup.h"
 #include "PictureFiles.h"
 #include "PictureStore.h"
-
-struct CImageButton::State {
-    std::shared_ptr<PictureStore> store = PictureStore::Acquire();
-    std::shared_ptr<const ButtonPicture> shown{};
-};
 
 namespace {
 
@@ -49,10 +45,6 @@ UINT Alignment(HWND button, bool imageOnTop) noexcept
 bool ShowPicture(HWND button, HIMAGELIST list, UINT alignment) noexcept
 {
     constexpr LONG Margin = 3;
-    BUTTON_IMAGELIST shown{};
-    const bool known = SendMessageW(button, BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&shown)) != FALSE;
-    if (known && shown.himl == list && (!list || shown.uAlign == alignment))
-        return true;
     BUTTON_IMAGELIST wanted{list, {Margin, Margin, Margin, Margin}, alignment};
     return SendMessageW(button, BCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(&wanted)) != FALSE;
 }
@@ -65,7 +57,7 @@ Pixel WindowColour() noexcept
 
 bool LoadMaskedBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* transparentColour)
 {
-    const std::shared_ptr<const PixelImage> source = PictureFiles::Shared().Get(WithImageFolder(path));
+    const std::shared_ptr<const PixelImage> source = PictureFiles::Shared().Get(WithImageFolder(path)).image;
     if (!source)
         return false;
     PixelImage image = *source;
@@ -81,6 +73,53 @@ bool LoadMaskedBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* tran
 }
 
 }  // namespace
+
+class CImageButton::State {
+public:
+    // Whether the last call asked for the same and nothing has changed since: not the text, and not the file as far as
+    // that is looked at. One click sets the same picture on a dozen buttons that have it already.
+    [[nodiscard]] bool IsAnswered(const PictureStore::Key& key, bool imageOnTop) const
+    {
+        return m_answered && m_answered->key == key && m_answered->imageOnTop == imageOnTop &&
+               PictureFiles::IsTrusted(m_answered->checkedAt);
+    }
+    [[nodiscard]] bool HasPicture() const noexcept { return m_shown != nullptr; }
+
+    // False when the button keeps what it shows.
+    bool Show(HWND button, PictureStore::Key key, bool imageOnTop)
+    {
+        m_answered.reset();
+        auto [picture, checkedAt] = m_store->Get(key);
+        const UINT alignment = Alignment(button, imageOnTop);
+        if (picture != m_shown || (picture && alignment != m_alignment)) {
+            if (!ShowPicture(button, picture ? picture->Handle() : nullptr, alignment))
+                return false;
+            m_shown = std::move(picture);
+            m_alignment = alignment;
+        }
+        m_answered = Answered{std::move(key), imageOnTop, checkedAt};
+        return true;
+    }
+    void ForgetAnswer() noexcept { m_answered.reset(); }
+    // For the next window, which shows nothing yet.
+    void ForgetWindow() noexcept
+    {
+        ForgetAnswer();
+        m_shown.reset();
+    }
+
+private:
+    struct Answered {
+        PictureStore::Key key;
+        bool imageOnTop;
+        ULONGLONG checkedAt;
+    };
+
+    std::shared_ptr<PictureStore> m_store = PictureStore::Acquire();
+    std::shared_ptr<const ButtonPicture> m_shown;
+    UINT m_alignment = BUTTON_IMAGELIST_ALIGN_LEFT;
+    std::optional<Answered> m_answered;
+};
 
 CImageButton::CImageButton() : m_state(nullptr) {}
 
@@ -99,14 +138,27 @@ bool CImageButton::SetImage(const KZBasicString& path, COLORREF transparent, boo
     try {
         if (!m_state)
             m_state = new State;
-        auto picture = m_state->store->Get(WithImageFolder(path), transparent, WindowDpi(m_hWnd));
-        const HIMAGELIST list = picture ? picture->Handle() : nullptr;
-        const bool shown = ShowPicture(m_hWnd, list, Alignment(m_hWnd, imageOnTop));
-        m_state->shown = std::move(picture);
-        return shown && list;
+        PictureStore::Key key{WithImageFolder(path), transparent, WindowDpi(m_hWnd)};
+        if (m_state->IsAnswered(key, imageOnTop) || m_state->Show(m_hWnd, std::move(key), imageOnTop))
+            return m_state->HasPicture();
+        return false;
     } catch (const std::exception&) {
         return false;  // out of memory: the button keeps what it shows
     }
+}
+
+// Where the picture goes depends on whether there is a text.
+LRESULT CImageButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_SETTEXT && m_state)
+        m_state->ForgetAnswer();
+    return CButton::WindowProc(message, wParam, lParam);
+}
+
+void CImageButton::PostNcDestroy()
+{
+    if (m_state)
+        m_state->ForgetWindow();
 }
 
 bool CImageButton::GetBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* transparentColour)

@@ -29,22 +29,27 @@ PictureFiles& PictureFiles::Shared()
     return files;
 }
 
-std::shared_ptr<const PixelImage> PictureFiles::Get(const KZBasicString& path)
+bool PictureFiles::IsTrusted(ULONGLONG checkedAt) noexcept
 {
-    const ULONGLONG now = GetTickCount64();
+    return GetTickCount64() - checkedAt < TrustMilliseconds;
+}
+
+PictureFiles::Answer PictureFiles::Get(const KZBasicString& path)
+{
     if (m_entries.size() >= MostEntries && !m_entries.contains(path))
         m_entries.clear();
     const auto [found, isNew] = m_entries.try_emplace(path);
     Entry& entry = found->second;
-    if (!isNew && now - entry.checkedAt < TrustMilliseconds)
-        return entry.image;
+    if (!isNew && IsTrusted(entry.checkedAt))
+        return entry;
+    const ULONGLONG now = GetTickCount64();
     const FileStamp stamp = StampOf(path);
     if (stamp != entry.stamp) {
         entry.image = stamp == FileStamp{} ? nullptr : Read(path);
         entry.stamp = stamp;
     }
     entry.checkedAt = now;
-    return entry.image;
+    return entry;
 }
 
 PictureFiles::FileStamp PictureFiles::StampOf(const KZBasicString& path) noexcept

@@ -15,9 +15,17 @@ class PictureFiles {
 public:
     [[nodiscard]] static PictureFiles& Shared();
 
+    struct Answer {
+        std::shared_ptr<const PixelImage> image;
+        ULONGLONG checkedAt;  // when the file was last looked at, in GetTickCount64's milliseconds
+    };
+
     // The pixels of a file, or null when it is missing or no picture. Both answers are remembered until the file
     // changes, which is noticed within a second.
-    [[nodiscard]] std::shared_ptr<const PixelImage> Get(const KZBasicString& path);
+    [[nodiscard]] Answer Get(const KZBasicString& path);
+
+    // Whether a file looked at then need not be looked at again yet.
+    [[nodiscard]] static bool IsTrusted(ULONGLONG checkedAt) noexcept;
 
 private:
     // What tells one content of a file from the next; all 0 when there is no file.
@@ -26,10 +34,8 @@ private:
         ULONGLONG size = 0;
         bool operator==(const FileStamp&) const = default;
     };
-    struct Entry {
-        FileStamp stamp;
-        ULONGLONG checkedAt = 0;
-        std::shared_ptr<const PixelImage> image;
+    struct Entry : Answer {
+        FileStamp stamp{};
     };
 
     [[nodiscard]] static FileStamp StampOf(const KZBasicString& path) noexcept;

@@ -25,18 +25,17 @@ std::shared_ptr<PictureStore> PictureStore::Acquire()
     return store;
 }
 
-std::shared_ptr<const ButtonPicture> PictureStore::Get(const KZBasicString& path, COLORREF transparent, int dpi)
+PictureStore::Answer PictureStore::Get(const Key& key)
 {
-    std::shared_ptr<const PixelImage> source = PictureFiles::Shared().Get(path);
+    auto [source, checkedAt] = PictureFiles::Shared().Get(key.path);
     if (!source)
-        return nullptr;
-    const auto found = m_entries.try_emplace(Key{path, transparent, dpi}).first;
-    Entry& entry = found->second;
+        return {nullptr, checkedAt};
+    Entry& entry = m_entries.try_emplace(key).first->second;
     if (entry.source != source) {
-        entry.picture = Make(*source, found->first);
+        entry.picture = Make(*source, key);
         entry.source = std::move(source);
     }
-    return entry.picture;
+    return {entry.picture, checkedAt};
 }
 
 std::shared_ptr<const ButtonPicture> PictureStore::Make(PixelImage image, const Key& key)

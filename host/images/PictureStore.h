@@ -14,18 +14,20 @@ public:
     // The store that the image buttons share; made when there is none.
     [[nodiscard]] static std::shared_ptr<PictureStore> Acquire();
 
-    // The picture of a file at a resolution in dots per inch (96: the file's own size), or null when there is none to
-    // be had.
-    //   transparent   the colour that counts as transparent; CLR_INVALID (0xFFFFFFFF) for the file's own transparency
-    [[nodiscard]] std::shared_ptr<const ButtonPicture> Get(const KZBasicString& path, COLORREF transparent, int dpi);
-
-private:
     struct Key {
         KZBasicString path;
-        COLORREF transparent;
-        int dpi;
+        COLORREF transparent;  // the colour that counts as such; CLR_INVALID (0xFFFFFFFF): the file's own transparency
+        int dpi;               // in dots per inch; 96: the file's own size
         auto operator<=>(const Key&) const = default;
     };
+    struct Answer {
+        std::shared_ptr<const ButtonPicture> picture;  // null when there is none to be had
+        ULONGLONG checkedAt;                           // as PictureFiles has it
+    };
+
+    [[nodiscard]] Answer Get(const Key& key);
+
+private:
     struct Entry {
         std::shared_ptr<const PixelImage> source;
         std::shared_ptr<const ButtonPicture> picture;

@@ -25,7 +25,11 @@ public:
     // (may be null) receives. Returns false, leaving the bitmap empty, when the file is missing or cannot be read.
     static bool GetBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* transparentColour);
 
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void PostNcDestroy() override;
+
 private:
-    struct State;
+    class State;
     State* m_state;
 };

@@ -267,12 +267,13 @@ LRESULT SelectVarPage::SendToContainer(UINT message, std::size_t count) const
 // bare name up there itself. It says that a row has been touched; the boxes beside it say how.
 void SelectVarPage::RefreshRowImages(int firstRow, int rowCount, Side side)
 {
+    const KZBasicString picture(L"SYSTEM-check.png");
     CRect changed(0, 0, 0, 0);
     for (int row = firstRow; row < firstRow + rowCount; ++row) {
         CImageButton& button = m_rows[static_cast<std::size_t>(row)].buttons[static_cast<std::size_t>(side)];
         if (!button.GetSafeHwnd())
             continue;
-        button.SetImage(L"SYSTEM-check.png", FileTransparency, false);
+        button.SetImage(picture, FileTransparency, false);
         CRect place;
         button.GetWindowRect(&place);
         changed.UnionRect(&changed, &place);

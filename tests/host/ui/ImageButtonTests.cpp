@@ -118,6 +118,43 @@ TEST_F(ImageButton, DoesNothingWhenThePictureIsShownAlready)
     ::RemoveWindowSubclass(m_first.m_hWnd, CountImageLists, 1);
 }
 
+TEST_F(ImageButton, ShowsThePictureOnItsNextWindowToo)
+{
+    ASSERT_TRUE(Set(m_first, ImageFile(L"OK-16.png")));
+    m_first.DestroyWindow();
+    ASSERT_TRUE(m_first.SubclassDlgItem(3, m_dialog.Window()));
+    EXPECT_TRUE(Set(m_first, ImageFile(L"OK-16.png")));
+    EXPECT_TRUE(ShownOn(m_first.m_hWnd).himl);
+}
+
+TEST_F(ImageButton, MovesThePictureWhenTheTextHasGone)
+{
+    ASSERT_TRUE(Set(m_first, ImageFile(L"OK-16.png")));
+    m_first.SetWindowTextW(L"");
+    EXPECT_TRUE(Set(m_first, ImageFile(L"OK-16.png")));
+    EXPECT_EQ(ShownOn(m_first.m_hWnd).uAlign, UINT{BUTTON_IMAGELIST_ALIGN_CENTER});
+}
+
+TEST_F(ImageButton, NoticesAChangedFileWithinASecond)
+{
+    const fs::path file = m_folder.Path() / L"changing.png";
+    const auto take = [&](const wchar_t* name) {
+        fs::copy_file(ImageFile(name).c_str(), file, fs::copy_options::overwrite_existing);
+    };
+    take(L"OK-16.png");
+    ASSERT_TRUE(Set(m_first, file.wstring()));
+    take(L"ZEP-50.png");
+    const ULONGLONG changed = ::GetTickCount64();
+    int width = 0;
+    int height = 0;
+    while (width != ScaledForScreen(50) && ::GetTickCount64() - changed < 5000) {
+        ASSERT_TRUE(Set(m_first, file.wstring()));
+        ImageList_GetIconSize(ShownOn(m_first.m_hWnd).himl, &width, &height);
+    }
+    EXPECT_EQ(width, ScaledForScreen(50));
+    EXPECT_LE(::GetTickCount64() - changed, 1500U) << "a second, and the time that a busy machine takes";
+}
+
 TEST_F(ImageButton, ShowsItsTextAloneWhenTheFileIsMissing)
 {
     ASSERT_TRUE(Set(m_first, ImageFile(L"OK-16.png")));
