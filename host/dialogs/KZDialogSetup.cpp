@@ -8,7 +8,12 @@ namespace {
 
 void SetUpButton(CImageButton& button, unsigned text, const wchar_t* picture)
 {
-    button.SetWindowTextW(KZLoadString(text).c_str());
+    const KZBasicString wanted = KZLoadString(text);
+    CString present;
+    button.GetWindowText(present);
+    // The templates say it in English already; a text set anew is drawn anew.
+    if (wanted != present.GetString())
+        button.SetWindowTextW(wanted.c_str());
     button.SetImage(KZQuorvelantaSetup::Get()->getImageFilePath() + picture, CLR_INVALID, false);
 }
 
@@ -49,7 +54,7 @@ void KZFitDialogHeight(CWnd& dialog, const KZLayout& layout)
     const int difference = layout.FixedSize().cy - client.Height();
     if (difference != 0)
         dialog.SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + difference,
-                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_DEFERERASE);
 }
 
 void KZShowMessageAndFocus(const KZBasicString& text, CEdit& field)

@@ -28,9 +28,9 @@ enum KZLayoutSize : int {
     KZSizeEditLine = -16777222,     // 0xFEFFFFFA: an edit line; as a gap: between a label and what it labels
 };
 
-// One row or column. A layout is a plan: it touches windows in Layout() alone. Nested layouts are referred to, not
-// copied, and must live as long as the layout that holds them. The first FixedSize() or Layout() looks the controls up;
-// those created afterwards are not seen. Adding may throw std::bad_alloc.
+// One row or column. A layout is a plan: it touches windows in Layout() and SetControlText() alone. Nested layouts are
+// referred to, not copied, and must live as long as the layout that holds them. The first SetControlText(), FixedSize()
+// or Layout() looks the controls up; those created afterwards are not seen. Adding may throw std::bad_alloc.
 class KZ_API KZLayout {
 public:
     virtual ~KZLayout();
@@ -57,6 +57,10 @@ public:
     // Space left and right (x), above and below (y) the content, inside the box if there is one: named sizes or pixels,
     // shares count as none.
     void SetBorders(int x, int y) noexcept;
+
+    // Sets the text of a control of this layout's own dialog, whether it is part of the layout or not; an id that the
+    // dialog lacks is passed over. Faster than SetDlgItemText, which searches all controls for each text.
+    void SetControlText(int id, const wchar_t* text) const;
 
     // What the layout needs, in pixels, with every share at its smallest: the height at which every line is whole, the
     // width at which no text is cut. A gap's smallest size is 0; what has no natural size of its own, a tab control or

@@ -24,3 +24,12 @@ void ControlTable::ForgetSizes() noexcept
         std::fill(std::begin(control.smallest), std::end(control.smallest), -1);
     }
 }
+
+ControlTable& ControlTables::Of(HWND dialog)
+{
+    for (ControlTable& table : m_tables) {
+        if (table.Dialog() == dialog)
+            return table;
+    }
+    return m_tables.emplace_back(dialog);
+}

@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include <list>
 #include <vector>
 
 #include "ControlKind.h"
@@ -31,4 +32,14 @@ public:
 private:
     HWND m_dialog;
     std::vector<LayoutControl> m_controls;  // by id
+};
+
+// The dialogs that one layout has met; nearly always one.
+class ControlTables {
+public:
+    // The dialog's table, made when it is new.
+    [[nodiscard]] ControlTable& Of(HWND dialog);
+
+private:
+    std::list<ControlTable> m_tables;
 };

@@ -38,7 +38,7 @@ ButtonPicture PictureOf(HWND button) noexcept
 
 }  // namespace
 
-DialogMetrics::DialogMetrics(ControlTable& controls) : m_controls(controls), m_text(controls.Dialog())
+DialogMetrics::DialogMetrics(ControlTable& controls) : m_controls(controls)
 {
     RECT units{0, 0, 4, 8};
     if (!MapDialogRect(Dialog(), &units)) {

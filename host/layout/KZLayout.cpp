@@ -67,6 +67,12 @@ void KZLayout::SetBorders(int x, int y) noexcept
     m_state->borders[1] = y;
 }
 
+void KZLayout::SetControlText(int id, const wchar_t* text) const
+{
+    if (const LayoutControl* control = m_state->tables.Of(m_state->dialog).Find(id))
+        SetWindowTextW(control->window, text);
+}
+
 CSize KZLayout::FixedSize() const
 {
     LayoutRun run(m_state->tables);

@@ -38,22 +38,13 @@ bool KeepsHeightInRow(ControlKind kind) noexcept
 
 }  // namespace
 
-ControlTable& LayoutRun::Table(HWND dialog)
-{
-    for (ControlTable& table : m_tables) {
-        if (table.Dialog() == dialog)
-            return table;
-    }
-    return m_tables.emplace_back(dialog);
-}
-
 DialogMetrics& LayoutRun::Metrics(HWND dialog)
 {
     for (DialogMetrics& metrics : m_metrics) {
         if (metrics.Dialog() == dialog)
             return metrics;
     }
-    return m_metrics.emplace_back(Table(dialog));
+    return m_metrics.emplace_back(m_tables.Of(dialog));
 }
 
 int LayoutRun::BorderPixels(int code, LayoutAxis axis, HWND dialog)

@@ -11,7 +11,7 @@
 class LayoutRun {
 public:
     // tables keeps what is found out about the dialogs' controls for the next run.
-    explicit LayoutRun(std::list<ControlTable>& tables) noexcept : m_tables(tables) {}
+    explicit LayoutRun(ControlTables& tables) noexcept : m_tables(tables) {}
 
     // The length that the layout needs along the axis with every share at its smallest.
     [[nodiscard]] int Smallest(const KZLayout::State& layout, LayoutAxis axis, HWND inherited);
@@ -41,11 +41,10 @@ private:
     void PlaceItem(const Entry& entry, const RECT& slot, LayoutAxis along, HWND dialog);
     void PlaceControl(LayoutControl& control, RECT slot, LayoutAxis along, HWND dialog);
 
-    [[nodiscard]] ControlTable& Table(HWND dialog);
     [[nodiscard]] DialogMetrics& Metrics(HWND dialog);
     [[nodiscard]] int BorderPixels(int code, LayoutAxis axis, HWND dialog);
 
-    std::list<ControlTable>& m_tables;
+    ControlTables& m_tables;
     std::list<DialogMetrics> m_metrics;  // one for each dialog
     ControlMover m_mover;
 };

@@ -1,7 +1,6 @@
 // The plan that a KZLayout holds: its items, borders and box.
 #pragma once
 
-#include <list>
 #include <memory>
 #include <vector>
 
@@ -30,6 +29,6 @@ struct KZLayout::State {
     HWND dialog = nullptr;
     std::vector<LayoutItem> items{};
     LayoutBox box{};
-    int borders[2] = {0, 0};           // per LayoutAxis
-    std::list<ControlTable> tables{};  // of the dialogs met so far; nearly always one
+    int borders[2] = {0, 0};  // per LayoutAxis
+    ControlTables tables{};
 };

@@ -8,7 +8,7 @@ TextMeter::~TextMeter()
         return;
     if (m_oldFont)
         SelectObject(m_dc, m_oldFont);
-    ReleaseDC(m_dialog, m_dc);
+    DeleteDC(m_dc);
 }
 
 SIZE TextMeter::Measure(HWND window, bool prefix) noexcept
@@ -26,7 +26,7 @@ SIZE TextMeter::Measure(HWND window, bool prefix) noexcept
 void TextMeter::SelectFontOf(HWND window) noexcept
 {
     if (!m_dc)
-        m_dc = GetDC(m_dialog);
+        m_dc = CreateCompatibleDC(nullptr);  // nothing is drawn, so no window need be asked for its visible part
     const auto font = reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0));
     if (!font || font == m_font)
         return;

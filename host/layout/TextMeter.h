@@ -5,7 +5,7 @@
 
 class TextMeter {
 public:
-    explicit TextMeter(HWND dialog) noexcept : m_dialog(dialog) {}
+    TextMeter() noexcept = default;
     ~TextMeter();
     TextMeter(const TextMeter&) = delete;
     TextMeter& operator=(const TextMeter&) = delete;
@@ -17,7 +17,6 @@ public:
 private:
     void SelectFontOf(HWND window) noexcept;
 
-    HWND m_dialog;
     HDC m_dc = nullptr;
     HFONT m_font = nullptr;
     HGDIOBJ m_oldFont = nullptr;

@@ -155,8 +155,9 @@ void CDialog::RunDialog(LPCDLGTEMPLATEW lpDialogTemplate, HWND hWndParent, HINST
     if ((GetStyle() & DS_NOIDLEMSG) != 0)
         flags |= MLF_NOIDLEMSG;
     RunModalLoop(flags);
-    // Hidden before the owner is enabled, so that no click meets a dialog that has ended.
-    if (m_hWnd)
+    // Hidden before the owner is enabled, so that no click meets a dialog that has ended. EndDialog has done it
+    // already.
+    if (m_hWnd && IsWindowVisible())
         SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
 }
 

@@ -6,6 +6,7 @@
 #include "KZLoadString.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
+#include "LayoutPlan.h"
 
 using zep::InformationField;
 
@@ -118,39 +119,40 @@ BOOL KZDeviceCfgZEP::OnInitDialog()
 {
     CDialog::OnInitDialog();
     KZSetBigIcon(*this);
-    SetTexts();
+    LayoutPlan plan(*this);
+    SetTexts(plan);
     KZSetUpOkCancel(m_btnOK, m_btnCancel);
     m_edtRatio.LimitText(4);
     m_edtCurrent.LimitText(3);
     m_edtUnits.LimitText(1);
     const zep::InformationRecord record(*Document()->Root());
     m_initial = record.Settings();
-    ShowIdentity(record);
+    ShowIdentity(record, plan);
     ShowSettings(record);
-    LayoutControls();
+    LayoutControls(plan);
     UpdateData(FALSE);
     return TRUE;
 }
 
-void KZDeviceCfgZEP::SetTexts()
+void KZDeviceCfgZEP::SetTexts(const LayoutPlan& plan)
 {
     const KZBasicString model = KZQuorvelantaSetup::Get()->DriverName(Driver()->TypeName().c_str());
     SetWindowText(KZBasicString::Format(KZLoadString(KZS_DEVICE_TITLE).c_str(), model.c_str()).c_str());
     for (const Label& label : Labels)
-        SetDlgItemText(label.control, KZLoadString(label.text).c_str());
+        plan.SetText(label.control, KZLoadString(label.text));
     const KZBasicString order = KZLoadString(KZS_HARMONIC_ORDER);
     for (int i = 0; i < zep::FilterCount; ++i)
-        SetDlgItemText(IDC_FILTER + i, KZBasicString::Format(order.c_str(), zep::FilteredOrder(i)).c_str());
-    SetDlgItemText(IDC_CURRENT_GROUP, KZLoadString(KZS_MINIMUM_CURRENT).c_str());
+        plan.SetText(IDC_FILTER + i, KZBasicString::Format(order.c_str(), zep::FilteredOrder(i)));
+    plan.SetText(IDC_CURRENT_GROUP, KZLoadString(KZS_MINIMUM_CURRENT));
 }
 
-void KZDeviceCfgZEP::ShowIdentity(const zep::InformationRecord& record)
+void KZDeviceCfgZEP::ShowIdentity(const zep::InformationRecord& record, const LayoutPlan& plan)
 {
     const KZDriver& driver = *Driver();
-    SetDlgItemText(IDC_NUMBER, KZBasicString::Format(L"%d", driver.Number()).c_str());
-    SetDlgItemText(IDC_IDENTIFIER, driver.Name().c_str());
+    plan.SetText(IDC_NUMBER, KZBasicString::Format(L"%d", driver.Number()));
+    plan.SetText(IDC_IDENTIFIER, driver.Name());
     m_stcModel.SetWindowText(KZQuorvelantaSetup::Get()->DriverName(driver.TypeName().c_str()).c_str());
-    SetDlgItemText(IDC_DESCRIPTION, driver.Description().c_str());
+    plan.SetText(IDC_DESCRIPTION, driver.Description());
     m_stcVersion.SetWindowText(record.Text(InformationField::Version).c_str());
     m_stcSerialNumber.SetWindowText(record.Text(InformationField::SerialNumber).c_str());
     m_stcGamma.SetWindowText(record.Text(InformationField::Gamma).c_str());

@@ -9,7 +9,7 @@ namespace {
 
 class DevicePage {
 public:
-    explicit DevicePage(CWnd& dialog) : m_plan(dialog)
+    explicit DevicePage(LayoutPlan& plan) : m_plan(plan)
     {
         KZLayout& page = m_plan.Root();
         page.SetBorders(KZSizeStandard, KZSizeStandard);
@@ -24,8 +24,6 @@ public:
         page.AddLayout(m_plan.NewOkCancelRow(), KZSizeStandard);
         page.AddGap(KZSizeStandard);
     }
-
-    void FitAndApply() { m_plan.FitAndApply(); }
 
 private:
     // One box, or two side by side.
@@ -144,12 +142,13 @@ private:
 
     KZLayout& StatusBox() { return CentredBox(IDC_STATUS_GROUP, SingleFieldRow(IDC_STATUS), KZSizeCheckLine); }
 
-    LayoutPlan m_plan;
+    LayoutPlan& m_plan;
 };
 
 }  // namespace
 
-void KZDeviceCfgZEP::LayoutControls()
+void KZDeviceCfgZEP::LayoutControls(LayoutPlan& plan)
 {
-    DevicePage(*this).FitAndApply();
+    const DevicePage page(plan);
+    plan.FitAndApply();
 }

@@ -96,29 +96,39 @@ BOOL CDlgUnitsZEP::OnInitDialog()
     // The base class shows the choices.
     m_initial = m_choices = m_record.Read();
     CDialog::OnInitDialog();
-    SetTexts();
+    KeepDecimalsReachable();
+    LayoutPlan plan(*this);
+    SetTexts(plan);
     KZSetUpOkCancel(m_btnOK, m_btnCancel);
-    LayoutControls();
+    LayoutControls(plan);
     KZSetBigIcon(*this, m_hIcon);
     return TRUE;
 }
 
-void CDlgUnitsZEP::SetTexts()
+// The checked button is the tab stop of its group: a group without one would be out of the keyboard's reach.
+void CDlgUnitsZEP::KeepDecimalsReachable()
+{
+    for (std::size_t i = 0; i < zep::PowerUnitCount; ++i) {
+        if (const int chosen = m_choices[i].decimals; chosen < 0 || chosen >= zep::DecimalsChoiceCount)
+            GetDlgItem(Units[i].decimals[0])->ModifyStyle(0, WS_TABSTOP);
+    }
+}
+
+void CDlgUnitsZEP::SetTexts(const LayoutPlan& plan)
 {
     const KZBasicString model = KZQuorvelantaSetup::Get()->DriverName(m_pDriver->TypeName().c_str());
     SetWindowText(KZBasicString::Format(KZLoadString(KZS_UNITS_TITLE).c_str(), model.c_str()).c_str());
     for (const UnitControls& unit : Units) {
-        SetDlgItemText(unit.group, KZLoadString(unit.groupText).c_str());
-        SetDlgItemText(unit.unitLabel, KZLoadString(KZS_UNIT).c_str());
-        SetDlgItemText(unit.decimalsLabel, KZLoadString(KZS_DECIMALS).c_str());
+        plan.SetText(unit.group, KZLoadString(unit.groupText));
+        plan.SetText(unit.unitLabel, KZLoadString(KZS_UNIT));
+        plan.SetText(unit.decimalsLabel, KZLoadString(KZS_DECIMALS));
         for (int i = 0; i < zep::DecimalsChoiceCount; ++i)
-            SetDlgItemText(unit.decimals[i], DecimalsText(i).c_str());
+            plan.SetText(unit.decimals[i], DecimalsText(i));
     }
 }
 
-void CDlgUnitsZEP::LayoutControls()
+void CDlgUnitsZEP::LayoutControls(LayoutPlan& plan)
 {
-    LayoutPlan plan(*this);
     KZLayout& boxes = plan.NewRow();
     boxes.AddLayout(UnitBox(plan, Units[0]), 50);
     boxes.AddGap(KZSizeStandard);

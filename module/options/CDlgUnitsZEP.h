@@ -9,6 +9,8 @@
 #include "KZDriver.h"
 #include "UnitsRecord.h"
 
+class LayoutPlan;
+
 class CDlgUnitsZEP : public CDialog {
 public:
     // The driver is not owned.
@@ -24,8 +26,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void SetTexts();
-    void LayoutControls();
+    void KeepDecimalsReachable();
+    void SetTexts(const LayoutPlan& plan);
+    void LayoutControls(LayoutPlan& plan);
 
     CImageButton m_btnCancel;
     CImageButton m_btnOK;

@@ -26,6 +26,30 @@ TEST(Layout, SharesTheWidthOfARowInProportion)
     EXPECT_EQ(dialog.Place(3), CRect(300, 0, 400, 40));
 }
 
+TEST(Layout, SetsTheTextOfAnyControlOfItsDialogAndPassesOverOthers)
+{
+    TestDialog dialog{Push(1, L"one"), Push(2, L"two")};
+    KZHoritzontalLayout row(dialog.Window());
+    row.AddControl(1, 1);
+    row.SetControlText(2, L"zwei");
+    row.SetControlText(3, L"drei");
+    CString text;
+    dialog.Window()->GetDlgItemText(1, text);
+    EXPECT_STREQ(text, L"one");
+    dialog.Window()->GetDlgItemText(2, text);
+    EXPECT_STREQ(text, L"zwei");
+}
+
+TEST(Layout, MakesRoomForATextThatWasSetAfterItMeasured)
+{
+    TestDialog dialog{Text(1, L"A")};
+    KZHoritzontalLayout row(dialog.Window());
+    row.AddControl(1, KZSizeNatural);
+    const CSize before = row.FixedSize();
+    row.SetControlText(1, L"A much longer text");
+    EXPECT_GT(row.FixedSize().cx, before.cx);
+}
+
 TEST(Layout, StacksAColumnFromTopToBottomOverItsWholeWidth)
 {
     TestDialog dialog{Push(1), Push(2)};

@@ -50,6 +50,14 @@ void TypeKey(WORD key)
     ::PostMessageW(::GetFocus(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
 }
 
+void TypeKeyNow(WORD key)
+{
+    TypeKey(key);
+    MSG waiting;
+    while (::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE))
+        AfxPumpMessage();
+}
+
 void TypeCharacter(wchar_t character)
 {
     ::PostMessageW(::GetFocus(), WM_CHAR, character, 1);

@@ -14,5 +14,8 @@ INT_PTR RunModal(CDialog& dialog, std::function<void()> step);
 // Presses and releases a key in the window that has the focus; it takes effect after the step.
 void TypeKey(WORD key);
 
+// The same, and the dialog has handled it when this returns.
+void TypeKeyNow(WORD key);
+
 // The same with a character, for edit boxes.
 void TypeCharacter(wchar_t character);

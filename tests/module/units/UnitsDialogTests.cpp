@@ -186,6 +186,33 @@ TEST_F(UnitsDialog, ChoosesWithTheArrowKeys)
     EXPECT_EQ(Stored(L"AP-VA", L"factor"), L"3");
 }
 
+TEST_F(UnitsDialog, ReachesDecimalsOfWhichNoneIsCheckedWithTheKeyboard)
+{
+    Plant::Configure(SetupWith("<unit><name>RP</name><decimals>7</decimals></unit>"));
+    EXPECT_EQ(Run([&] {
+                  Item(ReactiveUnits[0]).SetFocus();
+                  TypeKeyNow(VK_TAB);
+                  EXPECT_EQ(::GetFocus(), Item(ReactiveDecimals[0]).m_hWnd);
+                  TypeKeyNow(VK_DOWN);
+                  TypeKey(VK_RETURN);
+              }),
+              IDOK);
+    EXPECT_EQ(Stored(L"RP", L"decimals"), L"1");
+}
+
+TEST_F(UnitsDialog, StopsOnceInEachGroupOnTheWayWithTab)
+{
+    Run([&] {
+        Item(ApparentUnits[1]).SetFocus();
+        for (const int stop : {ApparentDecimals[1], ReactiveUnits[1], ReactiveDecimals[1], IDOK, IDCANCEL}) {
+            TypeKeyNow(VK_TAB);
+            EXPECT_EQ(::GetFocus(), Item(stop).m_hWnd) << stop;
+        }
+        TypeKeyNow(VK_TAB);
+        EXPECT_EQ(::GetFocus(), Item(ApparentUnits[1]).m_hWnd);
+    });
+}
+
 class UnitsDialogLanguages : public UnitsDialog, public testing::WithParamInterface<KZLanguage> {
 protected:
     UnitsDialogLanguages() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
