@@ -43,9 +43,16 @@ endfunction()
 # Resource scripts are UTF-8. CMake does not hand a target's compile options to the resource compiler.
 set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} --codepage=65001")
 
-# The folders in which a target's resource scripts find what they include.
+# The folders in which a target's resource scripts find what they include. The resource compiler does not say what that
+# is, so a script is compiled again when anything there changes that it may include.
 function(kz_resources target)
+  set(includable "")
   foreach(folder ${ARGN})
     set_property(TARGET ${target} APPEND PROPERTY INCLUDE_DIRECTORIES ${folder})
+    file(GLOB files CONFIGURE_DEPENDS ${folder}/*.rc ${folder}/*Controls.h ${folder}/*Ids.h)
+    list(APPEND includable ${files})
   endforeach()
+  get_target_property(scripts ${target} SOURCES)
+  list(FILTER scripts INCLUDE REGEX "\\.rc$")
+  set_property(SOURCE ${scripts} APPEND PROPERTY OBJECT_DEPENDS "${includable}")
 endfunction()
