@@ -42,8 +42,8 @@ void AppendLimits(std::string& text, int driver, bool all)
     text += "    <viewSetup>\n      <driverId>" + PlainDriverId(driver) + "</driverId>\n";
     if (!all)
         AppendCheck(text, zep::PowerLimitsTable.variables.front());
-    for (const zep::LimitsTable* table : {&zep::PowerLimitsTable, &HarmonicLimitsTable(zep::LimitSide::Net),
-                                          &HarmonicLimitsTable(zep::LimitSide::Load)})
+    for (const zep::LimitsTable* table :
+         {&zep::PowerLimitsTable, &HarmonicLimitsTable(zep::Side::Net), &HarmonicLimitsTable(zep::Side::Load)})
         for (const zep::LimitVariable& variable : table->variables)
             if (all)
                 AppendCheck(text, variable);

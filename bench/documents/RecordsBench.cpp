@@ -28,8 +28,8 @@ void MustBe(bool equal)
         throw std::runtime_error("both sides of a comparison must do the same");
 }
 
-const zep::LimitsTable* const LimitTables[] = {&zep::PowerLimitsTable, &HarmonicLimitsTable(zep::LimitSide::Net),
-                                               &HarmonicLimitsTable(zep::LimitSide::Load)};
+const zep::LimitsTable* const LimitTables[] = {&zep::PowerLimitsTable, &HarmonicLimitsTable(zep::Side::Net),
+                                               &HarmonicLimitsTable(zep::Side::Load)};
 
 XmlDocument::XmlNode& ViewSetup(const XmlDocument& document, const KZBasicString& driver)
 {
@@ -54,7 +54,7 @@ double LoadRawLimits(const RawDocument& document, const KZBasicString& driver)
     const pugi::xml_node viewSetup = FindDriver(document.Root(), L"viewSetups", L"viewSetup", driver.c_str());
     double last = 0;
     for (const zep::LimitsTable* table : LimitTables) {
-        std::array<LimitValues, zep::HarmonicLimitCount> values;
+        std::array<LimitValues, zep::HarmonicRowCount> values;
         ReadLimits(viewSetup, *table, values);
         last = values[table->variables.size() - 1][static_cast<std::size_t>(zep::LimitField::MaxD)];
         Keep(values);

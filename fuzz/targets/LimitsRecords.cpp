@@ -152,7 +152,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!viewSetup)
         viewSetup = &AppendViewSetup(document, L"zep-01");
     for (const LimitsTable* table :
-         {&PowerLimitsTable, &HarmonicLimitsTable(LimitSide::Net), &HarmonicLimitsTable(LimitSide::Load)}) {
+         {&PowerLimitsTable, &HarmonicLimitsTable(Side::Net), &HarmonicLimitsTable(Side::Load)}) {
         const LimitsStore store = Loaded(*table, *viewSetup);
         CheckExchange(store);
         CheckRules(store);

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int Rows = zep::HarmonicLimitCount;
+constexpr int Rows = zep::HarmonicRowCount;
 
 // The page's three parts, each with its own heads.
 struct Block {
@@ -29,13 +29,13 @@ constexpr auto Edits = [] {
     return edits;
 }();
 
-const LimitsPageTable& TableOf(zep::LimitSide side)
+const LimitsPageTable& TableOf(zep::Side side)
 {
-    static const LimitsPageTable net{IDD_LIMITS_HARMONIC, zep::HarmonicLimitsTable(zep::LimitSide::Net), Edits,
+    static const LimitsPageTable net{IDD_LIMITS_HARMONIC, zep::HarmonicLimitsTable(zep::Side::Net), Edits,
                                      &zep::CheckHarmonicLimits};
-    static const LimitsPageTable load{IDD_LIMITS_HARMONIC, zep::HarmonicLimitsTable(zep::LimitSide::Load), Edits,
+    static const LimitsPageTable load{IDD_LIMITS_HARMONIC, zep::HarmonicLimitsTable(zep::Side::Load), Edits,
                                       &zep::CheckHarmonicLimits};
-    return side == zep::LimitSide::Net ? net : load;
+    return side == zep::Side::Net ? net : load;
 }
 
 // One block: heads, captions under them, rows of a label and three edit boxes.
@@ -111,7 +111,7 @@ private:
 
 }  // namespace
 
-CDlgLimitsArmonicZEP::CDlgLimitsArmonicZEP(zep::LimitSide side) : LimitsPage(TableOf(side)) {}
+CDlgLimitsArmonicZEP::CDlgLimitsArmonicZEP(zep::Side side) : LimitsPage(TableOf(side)) {}
 
 void CDlgLimitsArmonicZEP::SetLabels()
 {
@@ -120,7 +120,7 @@ void CDlgLimitsArmonicZEP::SetLabels()
     SetTexts(IDC_HARMONIC_MAXW_HEAD, blocks, KZS_WARNING_LIMIT);
     SetTexts(IDC_HARMONIC_MAXD_HEAD, blocks, KZS_ALARM_LIMIT);
     SetTexts(IDC_HARMONIC_MAX_CAPTION, blocks, KZS_MAXIMUM);
-    for (std::size_t row = 0; row < zep::HarmonicLimitCount; ++row)
+    for (std::size_t row = 0; row < zep::HarmonicRowCount; ++row)
         SetDlgItemText(RowLabelId(row), TextOf(zep::HarmonicLimitLabel(row)).c_str());
     SetDlgItemText(IDC_FUNDAMENTAL_UNIT, L"(A)");
 }

@@ -5,7 +5,7 @@
 
 class CDlgLimitsArmonicZEP : public LimitsPage {
 public:
-    explicit CDlgLimitsArmonicZEP(zep::LimitSide side);
+    explicit CDlgLimitsArmonicZEP(zep::Side side);
 
 protected:
     void SetLabels() override;

@@ -56,8 +56,8 @@ BOOL CDlgLimitsZEP::OnInitDialog()
 void CDlgLimitsZEP::MakePages()
 {
     m_pages[0] = std::make_unique<CDlgLimitsPowerZEP>(m_pDriver);
-    m_pages[1] = std::make_unique<CDlgLimitsArmonicZEP>(zep::LimitSide::Net);
-    m_pages[2] = std::make_unique<CDlgLimitsArmonicZEP>(zep::LimitSide::Load);
+    m_pages[1] = std::make_unique<CDlgLimitsArmonicZEP>(zep::Side::Net);
+    m_pages[2] = std::make_unique<CDlgLimitsArmonicZEP>(zep::Side::Load);
 }
 
 bool CDlgLimitsZEP::CreatePageWindows()

@@ -133,7 +133,7 @@ LimitMessageLine HarmonicLimitLabel(std::size_t row) noexcept
 {
     if (row == 0)
         return {KZS_FUNDAMENTAL, {}};
-    return {KZS_HARMONIC_ORDER, HarmonicLimitOrder(row)};
+    return {KZS_HARMONIC_ORDER, HarmonicOrder(static_cast<int>(row))};
 }
 
 unsigned PowerLimitTitle(PowerLimit variable) noexcept
@@ -152,7 +152,7 @@ unsigned LimitFieldTitle(LimitField field) noexcept
 
 std::optional<LimitFailure> CheckHarmonicLimits(const LimitsStore& store)
 {
-    for (std::size_t row = 0; row < HarmonicLimitCount; ++row)
+    for (std::size_t row = 0; row < HarmonicRowCount; ++row)
         if (const auto fault = CheckHarmonic({store, row}))
             return HarmonicFailure(row, *fault);
     return std::nullopt;

@@ -33,11 +33,11 @@ constexpr LimitVariable HarmonicVariable(int order, wchar_t sideLetter)
     return variable;
 }
 
-constexpr std::array<LimitVariable, HarmonicLimitCount> HarmonicVariables(wchar_t sideLetter)
+constexpr std::array<LimitVariable, HarmonicRowCount> HarmonicVariables(wchar_t sideLetter)
 {
-    std::array<LimitVariable, HarmonicLimitCount> variables{};
-    for (std::size_t row = 0; row < HarmonicLimitCount; ++row)
-        variables[row] = HarmonicVariable(HarmonicLimitOrder(row), sideLetter);
+    std::array<LimitVariable, HarmonicRowCount> variables{};
+    for (std::size_t row = 0; row < HarmonicRowCount; ++row)
+        variables[row] = HarmonicVariable(HarmonicOrder(static_cast<int>(row)), sideLetter);
     return variables;
 }
 
@@ -51,9 +51,9 @@ constexpr LimitsTable LoadLimits{LoadVariables, L"0", L"1", LimitSaving::WhenMod
 
 constexpr LimitsTable PowerLimitsTable{PowerVariables, L"0.0", L"1.0", LimitSaving::Always};
 
-const LimitsTable& HarmonicLimitsTable(LimitSide side) noexcept
+const LimitsTable& HarmonicLimitsTable(Side side) noexcept
 {
-    return side == LimitSide::Net ? NetLimits : LoadLimits;
+    return side == Side::Net ? NetLimits : LoadLimits;
 }
 
 }  // namespace zep

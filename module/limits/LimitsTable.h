@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <span>
 
+#include "Harmonics.h"
+
 namespace zep {
 
 // W is the inner limit, D the outer one. Only the power factor has lower limits.
@@ -41,16 +43,7 @@ struct LimitsTable {
 enum class PowerLimit { PowerFactor, Active, Reactive, Apparent };
 inline constexpr std::size_t PowerLimitCount = 4;
 
-// Row r of a harmonic page is the harmonic of order 2r + 1; row 0 is the fundamental.
-inline constexpr std::size_t HarmonicLimitCount = 13;
-[[nodiscard]] constexpr int HarmonicLimitOrder(std::size_t row) noexcept
-{
-    return 2 * static_cast<int>(row) + 1;
-}
-
-enum class LimitSide { Net, Load };
-
 extern const LimitsTable PowerLimitsTable;
-[[nodiscard]] const LimitsTable& HarmonicLimitsTable(LimitSide side) noexcept;
+[[nodiscard]] const LimitsTable& HarmonicLimitsTable(Side side) noexcept;
 
 }  // namespace zep

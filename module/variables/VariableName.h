@@ -13,9 +13,10 @@
 #include <string>
 #include <string_view>
 
+#include "Harmonics.h"
+
 namespace zep {
 
-enum class Side { Net, Load };
 inline constexpr std::array Sides{Side::Net, Side::Load};
 inline constexpr int PhaseCount = 3;
 
@@ -23,13 +24,7 @@ inline constexpr int PhaseCount = 3;
 enum class Family { General, Power, Harmonic };
 inline constexpr std::size_t FamilyCount = 3;
 
-inline constexpr int HarmonicRowCount = 13;
 inline constexpr int QuantityRowCount = 4;
-
-[[nodiscard]] constexpr int HarmonicOrder(int row) noexcept
-{
-    return 2 * row + 1;
-}
 
 // The codes that open the names of the general and the power family, by row. The voltage's code is the single letter V
 // although its row is captioned VPN: the code goes into names, not the caption.

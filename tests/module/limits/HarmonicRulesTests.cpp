@@ -17,7 +17,7 @@ using Failure = std::optional<LimitFailure>;
 // A harmonic page whose boxes hold what passes, then what the test types.
 class HarmonicPage {
 public:
-    explicit HarmonicPage(LimitSide side = LimitSide::Net) : m_store(HarmonicLimitsTable(side)) { Show(m_store); }
+    explicit HarmonicPage(Side side = Side::Net) : m_store(HarmonicLimitsTable(side)) { Show(m_store); }
 
     HarmonicPage& Type(std::size_t row, LimitField field, const std::wstring& text)
     {
@@ -135,8 +135,8 @@ TEST_P(EveryHarmonicRow, IsCheckedNominalThenOuterThenInner)
 
 TEST(HarmonicRules, AcceptAPageAsItStarts)
 {
-    EXPECT_EQ(HarmonicPage(LimitSide::Net).Check(), Accepted);
-    EXPECT_EQ(HarmonicPage(LimitSide::Load).Check(), Accepted);
+    EXPECT_EQ(HarmonicPage(Side::Net).Check(), Accepted);
+    EXPECT_EQ(HarmonicPage(Side::Load).Check(), Accepted);
 }
 
 TEST(HarmonicRules, ReportTheFirstRowAtFault)
@@ -160,8 +160,8 @@ TEST(HarmonicRules, NameTheOrderOfTheRowInTheSecondLine)
 
 TEST(HarmonicRules, SayTheSameOnBothSides)
 {
-    EXPECT_EQ(HarmonicPage(LimitSide::Net).Type(4, LimitField::MaxW, L"x").Check(),
-              HarmonicPage(LimitSide::Load).Type(4, LimitField::MaxW, L"x").Check());
+    EXPECT_EQ(HarmonicPage(Side::Net).Type(4, LimitField::MaxW, L"x").Check(),
+              HarmonicPage(Side::Load).Type(4, LimitField::MaxW, L"x").Check());
 }
 
 // The rules once more, as one condition after the other on what was typed.
@@ -207,7 +207,7 @@ TEST(HarmonicRules, AgreeWithTheConditionsAfterRandomEdits)
     };
     std::array<int, 2> outcomes{};
     for (int round = 0; round < 2500; ++round) {
-        HarmonicPage page(round % 2 == 0 ? LimitSide::Net : LimitSide::Load);
+        HarmonicPage page(round % 2 == 0 ? Side::Net : Side::Load);
         std::array<TypedRow, 13> rows;
         for (int edit = 0; edit < 4; ++edit) {
             const auto row = pick(rows.size());

@@ -29,11 +29,11 @@ TEST(LimitsTables, NameThePowersInTheOrderInWhichTheyAreSaved)
 
 TEST(LimitsTables, NameTheOddHarmonicsUpTo25OnBothSides)
 {
-    for (const auto side : {LimitSide::Net, LimitSide::Load}) {
+    for (const auto side : {Side::Net, Side::Load}) {
         const auto& table = HarmonicLimitsTable(side);
         ASSERT_EQ(table.variables.size(), 13U);
         for (std::size_t row = 0; row < 13; ++row) {
-            const auto name = L"ARM" + std::to_wstring(2 * row + 1) + (side == LimitSide::Net ? L"AN" : L"AL");
+            const auto name = L"ARM" + std::to_wstring(2 * row + 1) + (side == Side::Net ? L"AN" : L"AL");
             EXPECT_EQ(table.variables[row].name.data(), name);
             EXPECT_EQ(table.variables[row].fieldCount, 3U);
         }
@@ -55,8 +55,8 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Pages, EveryLimitsTable,
-                         testing::Values(&PowerLimitsTable, &HarmonicLimitsTable(LimitSide::Net),
-                                         &HarmonicLimitsTable(LimitSide::Load)));
+                         testing::Values(&PowerLimitsTable, &HarmonicLimitsTable(Side::Net),
+                                         &HarmonicLimitsTable(Side::Load)));
 
 TEST_P(EveryLimitsTable, StartsWithNominalsOf0AndLimitsOf1)
 {
@@ -177,7 +177,7 @@ TEST_P(EveryLimitsTable, SavingTwiceKeepsOneCheckPerVariable)
 TEST(LimitsStoreSaving, AHarmonicPageWritesOnlyWhenItWasFoundModified)
 {
     Configuration configuration("");
-    LimitsStore store(HarmonicLimitsTable(LimitSide::Net));
+    LimitsStore store(HarmonicLimitsTable(Side::Net));
     store.Save(configuration.ViewSetup());
     EXPECT_EQ(configuration.Count("<check>"), 0U);
 
@@ -195,7 +195,7 @@ TEST(LimitsStoreSaving, AHarmonicPageWritesOnlyWhenItWasFoundModified)
 TEST(LimitsStoreSaving, AHarmonicPageThatWasChangedBackWritesNothing)
 {
     Configuration configuration("");
-    LimitsStore store(HarmonicLimitsTable(LimitSide::Load));
+    LimitsStore store(HarmonicLimitsTable(Side::Load));
     Show(store);
     store.Text({12, LimitField::MaxD}) = L"5";
     Pull(store);
@@ -273,8 +273,8 @@ TEST(LimitsStoreLoading, LoadsEachSideFromItsOwnVariables)
 {
     const Configuration configuration("<check><var>ARM7AN</var><maxW>7</maxW></check>"
                                       "<check><var>ARM7AL</var><maxW>8</maxW></check>");
-    LimitsStore net(HarmonicLimitsTable(LimitSide::Net));
-    LimitsStore load(HarmonicLimitsTable(LimitSide::Load));
+    LimitsStore net(HarmonicLimitsTable(Side::Net));
+    LimitsStore load(HarmonicLimitsTable(Side::Load));
     net.Load(configuration.ViewSetup());
     load.Load(configuration.ViewSetup());
     EXPECT_EQ(net.Value({3, LimitField::MaxW}), 7.0);
@@ -305,7 +305,7 @@ TEST(LimitsStoreExchange, AStoredNumberSurvivesBeingShown)
 {
     std::mt19937 random(4711);
     std::uniform_real_distribution<double> pick(-1000.0, 1000.0);
-    const auto& table = HarmonicLimitsTable(LimitSide::Net);
+    const auto& table = HarmonicLimitsTable(Side::Net);
     for (int round = 0; round < 250; ++round) {
         const Configuration configuration(ChecksOf(table, [&](std::size_t) { return pick(random); }));
         LimitsStore store(table);
