@@ -130,6 +130,12 @@ close_dialog() {
   window_gone "$1"
 }
 
+save_by_key() {
+  until_control "$main_title" $id_save enabled
+  key ctrl+s
+  until_control "$main_title" $id_save disabled
+}
+
 save_project() {
   until_control "$main_title" $id_save enabled
   click "$main_title" $id_save

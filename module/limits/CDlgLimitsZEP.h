@@ -49,7 +49,6 @@ private:
     void Layout();
     void LayoutTabAndButtons();
     [[nodiscard]] int TabItemHeight() const;
-    [[nodiscard]] CRect PageArea() const;
 
     CTabCtrl m_tab;
     CImageButton m_btnOK;

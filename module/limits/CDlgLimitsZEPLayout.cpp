@@ -3,6 +3,7 @@
 #include "CDlgLimitsZEP.h"
 #include "LimitsControls.h"
 #include "Raised.h"
+#include "TabPages.h"
 
 void CDlgLimitsZEP::Layout()
 {
@@ -14,7 +15,7 @@ void CDlgLimitsZEP::Layout()
         LayoutTabAndButtons();
     }
 
-    const CRect area = PageArea();
+    const CRect area = TabPageArea(*this, m_tab, TabItemHeight());
     for (const auto& page : m_pages)
         page->MoveTo(area);
     Invalidate(TRUE);
@@ -54,18 +55,4 @@ void CDlgLimitsZEP::LayoutTabAndButtons()
     dialog.AddLayout(buttons, KZSizeStandard);
     dialog.AddGap(KZSizeStandard);
     plan.FitAndApply();
-}
-
-CRect CDlgLimitsZEP::PageArea() const
-{
-    const int edgeX = ::GetSystemMetrics(SM_CXEDGE);
-    const int edgeY = ::GetSystemMetrics(SM_CYEDGE);
-    CRect area;
-    m_tab.GetWindowRect(&area);
-    area.left += edgeX;
-    area.top += TabItemHeight() + 2 * edgeY;
-    area.right -= edgeX;
-    area.bottom -= edgeY;
-    ScreenToClient(&area);
-    return area;
 }

@@ -60,7 +60,6 @@ private:
     void ShowLimitMessage() const;
     [[nodiscard]] int PageHeight() const;
     [[nodiscard]] int TabExtraHeight();
-    [[nodiscard]] CRect PageArea();
     void LayoutTabAndButtons();
 
     CTabCtrl m_tab;

@@ -3,10 +3,10 @@
 
 #include "CDlgSelectVarArmonicZEP.h"
 #include "CDlgSelectVarZEP.h"
-#include "KZDialogSetup.h"
-#include "KZLayout.h"
+#include "LayoutPlan.h"
 #include "Raised.h"
 #include "SelectVarControls.h"
+#include "TabPages.h"
 
 void CDlgSelectVarZEP::Layout(int, int)
 {
@@ -18,7 +18,8 @@ void CDlgSelectVarZEP::Layout(int, int)
         LayoutTabAndButtons();
     }
 
-    const CRect area = PageArea();
+    // The height of the tabs comes from the control's own arithmetic, its edges and its empty display area.
+    const CRect area = TabPageArea(*this, m_tab, TabExtraHeight());
     for (const auto& page : m_pages)
         page->MoveTo(area);
     Invalidate(TRUE);
@@ -45,39 +46,13 @@ void CDlgSelectVarZEP::LayoutTabAndButtons()
 {
     const int tabHeight = TabExtraHeight() + 3 * ::GetSystemMetrics(SM_CYEDGE) + PageHeight();
 
-    constexpr int buttonWidth = 50;
-    KZHoritzontalLayout buttons;
-    buttons.AddGap(KZSizeCentringGap);
-    buttons.AddControl(IDOK, buttonWidth);
-    buttons.AddGap(KZSizeStandard);
-    buttons.AddControl(IDCANCEL, buttonWidth);
-    buttons.AddGap(KZSizeCentringGap);
-
-    KZVerticalLayout dialog(this);
+    LayoutPlan plan(*this);
+    KZLayout& dialog = plan.Root();
     dialog.SetBorders(KZSizeStandard, KZSizeStandard);
     dialog.AddGap(KZSizeStandard);
     dialog.AddControl(IDC_SELECTVAR_TAB, KZLayout::Pixels2Size(tabHeight).cy);
     dialog.AddGap(KZSizeStandard);
-    dialog.AddLayout(buttons, KZSizeStandard);
+    dialog.AddLayout(plan.NewOkCancelRow(), KZSizeStandard);
     dialog.AddGap(KZSizeStandard);
-
-    KZFitDialogHeight(*this, dialog);
-    CRect client;
-    GetClientRect(&client);
-    dialog.Layout(client);
-}
-
-// The tab control's own arithmetic, taken from its edges and its empty display area.
-CRect CDlgSelectVarZEP::PageArea()
-{
-    CRect area;
-    m_tab.GetWindowRect(&area);
-    const int edgeX = ::GetSystemMetrics(SM_CXEDGE);
-    const int edgeY = ::GetSystemMetrics(SM_CYEDGE);
-    area.left += edgeX;
-    area.top += TabExtraHeight() + 2 * edgeY;
-    area.right -= edgeX;
-    area.bottom -= edgeY;
-    ScreenToClient(&area);
-    return area;
+    plan.FitAndApply();
 }

@@ -56,9 +56,7 @@ test_limits_by_keyboard() {
   window ' - TREN1'
   press_key_on $id_ok Return
   window_gone ' - TREN1'
-  until_control "$main_title" $id_save enabled
-  key ctrl+s
-  until_control "$main_title" $id_save disabled
+  save_by_key
   close_editor
   limits_of_train
 }

@@ -50,8 +50,7 @@ test_select_by_keyboard() {
   key Return
   window_gone "$dialog"
   until_control "$main_title" $id_chosen ITEMS=13
-  key ctrl+s
-  until_control "$main_title" $id_save disabled
+  save_by_key
   close_editor
   equal 'the chosen variables' "$(chosen zep-03)" \
     "$(lines PINTURA.{API{1,2,3}N,RPI{1,2,3}N,VAI{1,2,3}N,PFI{1,2,3}N,PFI1L})"

@@ -44,9 +44,7 @@ test_units_by_keyboard() {
   window ' - TREN1'
   press_key_on $id_ok Return
   window_gone ' - TREN1'
-  until_control "$main_title" $id_save enabled
-  key ctrl+s
-  until_control "$main_title" $id_save disabled
+  save_by_key
   close_editor
   equal 'the units' "$(changes main.xml)" "$(lines \
     '-<decimals>1</decimals>' '-<factor>3</factor>' '+<decimals>3</decimals>' '+<factor>0</factor>' \
