@@ -23,7 +23,8 @@ run ctest native --test-dir "$native" -L native --parallel "$(nproc)" --output-o
 mapfile -t programs < <(find "$windows/tests" -name '*_include.cmake' -printf '%f\n' | sed 's/\[.*//' | sort -u)
 for program in "${programs[@]}"; do run "$root/tools/run-wine.sh" "$program" "$windows/tests/$program.exe"; done
 
-# count FOLDER GCOV NAME
+# count FOLDER GCOV NAME: without the branches that the compiler adds for exceptions and for what cannot be reached, as no
+# source has written them
 count() {
   KZ_GCOV=$2 gcovr --root "$root" --gcov-executable "$root/tools/coverage-gcov.sh" \
     --filter "$root/(module|host|mfc|editor)/" --exclude-throw-branches --exclude-unreachable-branches \
