@@ -15,6 +15,7 @@ add_library(zep_dialogs STATIC
   ${module}/shared/ControlText.cpp
   ${module}/shared/LayoutPlan.cpp
   ${module}/shared/TabImages.cpp
+  ${module}/shared/TabPages.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DialogRun.cpp)
 kz_common(zep_dialogs)
 target_include_directories(zep_dialogs PUBLIC ${CMAKE_CURRENT_LIST_DIR} ${module}/resources ${module}/shared)
