@@ -12,8 +12,8 @@ failed=0
 options='HKLM\Software\Microsoft\Windows NT\CurrentVersion\Image File Execution Options'
 # Tail checks, free checks, parameter checks and a validation of the whole heap at every call: Wine finds nothing without.
 heap_flags=0xF0
-# That makes a dialog with hundreds of controls several hundred times slower, so of those it is a choice of roads: open, show
-# every page, change, refuse, save.
+# The limits dialog opens some two hundred times slower so. Of the dialogs with many controls it is therefore a choice of
+# roads: open, show every page, change, refuse, save.
 declare -A checked=(
   [device_dialog_tests]='*' [units_dialog_tests]='*' [module_entry_tests]='*' [options_zep_tests]='-*Limits*'
   [limits_dialog_tests]='LimitsDialog.SavesEveryPageThatChanged:LimitsDialog.ShowsThePageOfTheSelectedTab:*.NamesTheOrder*'
