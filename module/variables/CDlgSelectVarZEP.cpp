@@ -154,9 +154,11 @@ void CDlgSelectVarZEP::OnOK()
 {
     if (!IsValid())
         return;
-    m_pVariables->clear();
+    // Collected aside: a user who cancels when memory has run out finds the list as it was.
+    std::list<KZBasicString> chosen;
     for (const auto& page : m_pages)
-        page->CollectSelected(*m_pVariables);
+        page->CollectSelected(chosen);
+    m_pVariables->swap(chosen);
     CDialog::OnOK();
 }
 

@@ -16,6 +16,7 @@
 namespace {
 
 using testing::ElementsAre;
+using testing::SizeIs;
 using zep::Family;
 
 class SelectionFaults : public SelectionTest {
@@ -83,6 +84,40 @@ TEST_F(SelectionFaults, SurviveTheFailureOfAnyOneAllocation)
         open(failing);
         EXPECT_THAT(Names(), ElementsAre(L"DEV1.HZIN")) << failing;
     }
+}
+
+TEST_F(SelectionFaults, LeaveTheHostsListAsItWasWhenItsNewNamesCannotBeMade)
+{
+    // One allocation of OK after the other, until OK makes it through.
+    INT_PTR answer = IDCANCEL;
+    int failing = 0;
+    for (; answer == IDCANCEL; ++failing) {
+        ASSERT_LT(failing, 1000);
+        SCOPED_TRACE(failing);
+        m_names = {L"DEV1.HZIN", L"DEV2.HZIN"};
+        const kztest::MessageBoxes boxes;
+        bool isScarce = false;
+        int count = 0;
+        const kztest::FaultyMemory memory(Module(), [&](std::size_t) { return isScarce && count++ == failing; });
+        TestSelection dialog(m_device, m_names);
+        answer = dialog.Run({[&] {
+                                 dialog.Click(Family::General, 6713);
+                                 isScarce = true;
+                                 dialog.PressOk();
+                             },
+                             [&] {
+                                 isScarce = false;
+                                 dialog.PressCancel();
+                             },
+                             [] {}});
+        if (answer == IDCANCEL) {
+            EXPECT_THAT(Names(), ElementsAre(L"DEV1.HZIN", L"DEV2.HZIN"));
+            EXPECT_THAT(boxes.Texts(), SizeIs(1));
+        }
+    }
+    EXPECT_EQ(answer, IDOK);
+    EXPECT_GT(failing, 10);
+    EXPECT_THAT(m_names, SizeIs(9));
 }
 
 TEST_F(SelectionFaults, LeaveNoWindowAndNoHandleBehindAfterTwentyRuns)
