@@ -109,7 +109,7 @@ BOOL CDlgUnitsZEP::OnInitDialog()
 void CDlgUnitsZEP::KeepDecimalsReachable()
 {
     for (std::size_t i = 0; i < zep::PowerUnitCount; ++i) {
-        if (const int chosen = m_choices[i].decimals; chosen < 0 || chosen >= zep::DecimalsChoiceCount)
+        if (!zep::IsDecimalsChoice(m_choices[i].decimals))
             GetDlgItem(Units[i].decimals[0])->ModifyStyle(0, WS_TABSTOP);
     }
 }

@@ -16,6 +16,12 @@ inline constexpr std::array<const wchar_t*, PowerUnitCount> PowerUnitNames{L"AP-
 
 inline constexpr int DecimalsChoiceCount = 4;  // 0 to 3 decimals
 
+// Whether a number of decimals has a radio of its own.
+[[nodiscard]] constexpr bool IsDecimalsChoice(int decimals) noexcept
+{
+    return decimals >= 0 && decimals < DecimalsChoiceCount;
+}
+
 // One unit as its two radio groups show it: the index of the checked radio, -1 when none is checked.
 struct UnitChoice {
     static constexpr int Kilo = 0;

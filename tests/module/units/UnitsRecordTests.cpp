@@ -51,6 +51,9 @@ std::size_t Count(const std::string& text, const std::string& what)
     return count;
 }
 
+static_assert(!IsDecimalsChoice(-1) && IsDecimalsChoice(0));
+static_assert(IsDecimalsChoice(3) && !IsDecimalsChoice(4));
+
 TEST(UnitsReading, GivesPlainUnitsAndOneDecimalToADriverWithoutARecord)
 {
     EXPECT_EQ(Configuration().Read(), (UnitChoices{DefaultChoice, DefaultChoice}));
