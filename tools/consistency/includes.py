@@ -74,14 +74,13 @@ def check():
 def native_sources():
     """The sources that CMake's lists of rules name: they are built without windows too."""
     for path in tree("host", "module"):
-        if path.name != "CMakeLists.txt" and path.suffix != ".cmake":
+        if path.name != "CMakeLists.txt":
             continue
-        text = re.sub(r"#[^\n]*", "", text_of(path)).replace("${CMAKE_CURRENT_LIST_DIR}/", "")
+        text = re.sub(r"#[^\n]*", "", text_of(path))
         for block in re.finditer(r"(?:KZ_MODULE_RULES|KZ_HOST_CORE)\b([^)]*)\)", text):
             for name in re.findall(r"[\w/.-]+\.cpp", block.group(1)):
-                for base in (path.parent, path.parent.parent):
-                    if (base / name).is_file():
-                        yield base / name
+                if (path.parent / name).is_file():
+                    yield path.parent / name
 
 
 def window_free(headers):

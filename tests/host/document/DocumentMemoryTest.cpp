@@ -6,24 +6,24 @@
 #include <new>
 #include <pugixml.hpp>
 
+#include "FailingMemory.h"
 #include "KZXmlDocument.h"
-#include "LimitedMemory.h"
 
 namespace {
 
 // Runs an operation with memory for 0, 1, 2 … allocations until it succeeds.
 void WithScarceMemory(const std::function<void()>& operation, const std::function<void()>& check)
 {
-    for (long allocations = 0;; ++allocations) {
-        ASSERT_LT(allocations, 1000);
+    for (long failing = 1;; ++failing) {
+        ASSERT_LT(failing, 1000);
         bool failed = false;
-        LimitAllocations(allocations);
+        FailAllocationsFrom(failing);
         try {
             operation();
         } catch (const std::bad_alloc&) {
             failed = true;
         }
-        LimitAllocations(-1);
+        FailAllocation(0);
         if (!failed)
             return;
         check();
@@ -32,7 +32,7 @@ void WithScarceMemory(const std::function<void()>& operation, const std::functio
 
 class ScarceMemory : public testing::Test {
 protected:
-    ScarceMemory() { pugi::set_memory_management_functions(&MallocWithLimit, &std::free); }
+    ScarceMemory() { pugi::set_memory_management_functions(&FailingMalloc, &std::free); }
     ~ScarceMemory() override { pugi::set_memory_management_functions(&std::malloc, &std::free); }
 
     static constexpr char Text[] = "<r>\n  <a>\n    <v>old</v>\n  </a>\n</r>\n";

@@ -9,7 +9,7 @@
 #include <new>
 #include <pugixml.hpp>
 
-#include "FailingAllocation.h"
+#include "FailingMemory.h"
 #include "InformationRecord.h"
 #include "LimitsStore.h"
 #include "UnitsRecord.h"
@@ -26,7 +26,7 @@ constexpr const char* Device = "<device><information><mode>10</mode><numZEP>3</n
 
 class FailingMemory : public testing::Test {
 protected:
-    FailingMemory() { pugi::set_memory_management_functions(&CountedMalloc, &std::free); }
+    FailingMemory() { pugi::set_memory_management_functions(&FailingMalloc, &std::free); }
     ~FailingMemory() override { pugi::set_memory_management_functions(&std::malloc, &std::free); }
 
     // Prepares and runs the operation with its first, second, third… allocation failing, until it makes it through.
