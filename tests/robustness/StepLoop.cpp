@@ -37,6 +37,14 @@ HWND TopDialogOfThread()
     return found;
 }
 
+void LeaveMenu()
+{
+    GUITHREADINFO state{};
+    state.cbSize = sizeof state;
+    if (::GetGUIThreadInfo(::GetCurrentThreadId(), &state) && (state.flags & GUI_INMENUMODE) != 0)
+        ::EndMenu();
+}
+
 bool IsMessageBox(HWND dialog)
 {
     constexpr int MessageTextId = 0xFFFF;

@@ -26,6 +26,8 @@ private:
 
 // The dialog or message box of this thread that a user could work with, or null.
 [[nodiscard]] HWND TopDialogOfThread();
+// Ends a menu that a key or a message has opened, as Escape does.
+void LeaveMenu();
 [[nodiscard]] bool IsMessageBox(HWND dialog);
 // The window's descendants in their order.
 [[nodiscard]] std::vector<HWND> DescendantsOf(HWND window);

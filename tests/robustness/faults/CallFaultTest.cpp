@@ -9,14 +9,10 @@ namespace {
 
 using testing::IsEmpty;
 
-constexpr int DeviceSection = 1;
-constexpr int LimitsSection = 2;
-constexpr int UnitsSection = 3;
-
 class MemoryRunningOut : public testing::Test {
 protected:
     void Walk(const FaultyCall& call) { EXPECT_THAT(WalkFaults(call, m_log), IsEmpty()) << m_log.Describe(); }
-    void WalkOptions(const std::string& name, int section = -1, bool confirms = true)
+    void WalkOptions(const std::string& name, OptionalSection section = {}, bool confirms = true)
     {
         Walk({name, [](ZepProject& project, auto&) { return project.Options(); }, confirms ? 8 : 4, section, confirms});
     }
@@ -32,25 +28,27 @@ TEST_F(MemoryRunningOut, LeavesTheOptionsHubWhole)
 
 TEST_F(MemoryRunningOut, LeavesTheDevicesRecordWhole)
 {
-    WalkOptions("device", DeviceSection);
-    WalkOptions("device given up", DeviceSection, false);
+    WalkOptions("device", KZSectionDevice);
+    WalkOptions("device given up", KZSectionDevice, false);
 }
 
 TEST_F(MemoryRunningOut, LeavesTheUnitsWhole)
 {
-    WalkOptions("units", UnitsSection);
-    WalkOptions("units given up", UnitsSection, false);
+    WalkOptions("units", KZSectionUnits);
+    WalkOptions("units given up", KZSectionUnits, false);
 }
 
 TEST_F(MemoryRunningOut, LeavesTheLimitsWhole)
 {
-    WalkOptions("limits", LimitsSection);
-    WalkOptions("limits given up", LimitsSection, false);
+    WalkOptions("limits", KZSectionLimits);
+    WalkOptions("limits given up", KZSectionLimits, false);
 }
 
 TEST_F(MemoryRunningOut, LeavesTheHostsListWhole)
 {
-    Walk({"selection", [](ZepProject& project, auto& names) { return project.Select(names); }, 12});
+    const auto select = [](ZepProject& project, auto& names) { return project.Select(names); };
+    Walk({"selection", select, 8});
+    Walk({"selection given up", select, 8, {}, false});
 }
 
 TEST_F(MemoryRunningOut, StillSaysThatTheDeviceLacksTheVariables)
@@ -70,7 +68,7 @@ TEST_F(MemoryRunningOut, LeavesNoHalfMadeChildDialog)
         delete child;
         return child != nullptr;
     };
-    Walk({"child options", embed, 40, -1, true, true});
+    Walk({"child options", embed, 40, {}, true, true});
     parent.DestroyWindow();
 }
 
@@ -84,7 +82,7 @@ TEST_F(MemoryRunningOut, LeavesTheDriverRegisteredOrNotAtAll)
         EXPECT_TRUE(project.Register());  // for the next round
         return registered;
     };
-    Walk({"registration", registerAgain, 40, -1, true, true});
+    Walk({"registration", registerAgain, 40, {}, true, true});
 }
 
 }  // namespace

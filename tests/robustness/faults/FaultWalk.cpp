@@ -50,7 +50,7 @@ private:
     void Judge(long failing, const Outcome& outcome);
     [[nodiscard]] bool IsTold(const Outcome& outcome) const;
     void Find(long failing, const std::string& what);
-    [[nodiscard]] bool AreNamesInOrder(const std::vector<std::wstring>& names) const;
+    [[nodiscard]] bool AreNamesInOrder(const Outcome& outcome) const;
 
     const FaultyCall& m_call;
     EventLog& m_log;
@@ -119,14 +119,13 @@ long Walk::Pass(long last, long stride)
     return calls;
 }
 
-bool Walk::AreNamesInOrder(const std::vector<std::wstring>& names) const
+bool Walk::AreNamesInOrder(const Outcome& outcome) const
 {
+    const std::vector<std::wstring>& names = outcome.traces.names;
+    if (names == m_before.names || !outcome.answer)
+        return names == m_before.names;
     // A page that could not be made is missing, and the user takes from the next what he would have taken from it.
-    const SelectionModel offered(L"DEV1", {}, 0);
-    return names == m_before.names || std::all_of(names.begin(), names.end(), [&](const std::wstring& name) {
-               return std::any_of(offered.Boxes().begin(), offered.Boxes().end(),
-                                  [&](const SelectionModel::Box& box) { return name == L"DEV1." + box.name; });
-           });
+    return SelectionModel(L"DEV1", {}, 0).Offers(names);
 }
 
 // Whether the user read something that an undisturbed call does not say.
@@ -151,7 +150,7 @@ void Walk::Judge(long failing, const Outcome& outcome)
         Find(failing, "the configuration is half changed: " + traces.configuration);
     if (traces.device != m_before.device && traces.device != m_undisturbed.traces.device)
         Find(failing, "the device's document is half changed: " + traces.device);
-    if (!AreNamesInOrder(traces.names))
+    if (!AreNamesInOrder(outcome))
         Find(failing, "the host's list is neither the old one nor the new one");
     const bool isAsUndisturbed = traces == m_undisturbed.traces && outcome.answer == m_undisturbed.answer;
     if (!isAsUndisturbed && traces.names == m_before.names && !IsTold(outcome))

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "DialogKind.h"
 #include "EventLog.h"
 #include "ZepProject.h"
 
@@ -22,7 +23,7 @@ struct FaultyCall {
     std::function<bool(ZepProject&, std::list<KZBasicString>&)> run;
     long shortSamples;  // how many of the allocations fail in the short run, spread over all
     // How the user works meanwhile, as ScriptedUser takes it.
-    int section = -1;
+    OptionalSection section{};
     bool confirms = true;
     // Whether a false answer alone tells the caller, who tells the user.
     bool answerTells = false;

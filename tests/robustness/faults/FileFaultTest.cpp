@@ -15,7 +15,6 @@ using testing::HasSubstr;
 using testing::SizeIs;
 
 constexpr int MostCalls = 50;
-constexpr int DeviceSection = 1;
 
 // Runs a test with the first, second, third… call of every file function failing, until there is none more to fail.
 void ForEachFault(const std::function<void(FileCall)>& test)
@@ -97,7 +96,7 @@ TEST_F(FailingFiles, AreSaidInTheDeviceDialogWhichStaysOpen)
         m_project.plant.WriteDevice(ZepProject::Record);
         const std::string before = m_project.plant.DeviceText();
         const FileFaults faults(call, 1);
-        const ScriptedUser user(DeviceSection, false);
+        const ScriptedUser user(KZSectionDevice, false);
         EXPECT_TRUE(m_project.Options());
         ASSERT_TRUE(HasFailed(1)) << NameOf(call);
         // The question whether to write, and that it could not be; the dialog was still there to be cancelled.
@@ -112,7 +111,7 @@ TEST_F(FailingFiles, AreSaidInTheDeviceDialogWhichStaysOpen)
 TEST_F(FailingFiles, AreGoneWhenTheUserPressesOkOnceMore)
 {
     const FileFaults faults(FileCall::Move, 1);
-    const ScriptedUser user(DeviceSection);
+    const ScriptedUser user(KZSectionDevice);
     EXPECT_TRUE(m_project.Options());
     ASSERT_TRUE(HasFailed(1));
     // What the script changes is the first mode, which the record has not set: 10 becomes 11.
@@ -123,7 +122,7 @@ TEST_F(FailingFiles, AreNotOverwrittenWhenTheyCouldNotBeRead)
 {
     const std::string before = m_project.plant.DeviceText();
     const FileFaults faults(FileCall::Read, 1);
-    const ScriptedUser user(DeviceSection);
+    const ScriptedUser user(KZSectionDevice);
     EXPECT_TRUE(m_project.Options());
     ASSERT_TRUE(HasFailed(1));
     EXPECT_GE(user.Messages().size(), 1U);

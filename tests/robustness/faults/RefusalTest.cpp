@@ -11,10 +11,6 @@ namespace {
 
 using testing::SizeIs;
 
-constexpr int DeviceSection = 1;
-constexpr int LimitsSection = 2;
-constexpr int UnitsSection = 3;
-
 bool RefuseToWrite(KZDriver*, bool)
 {
     return false;
@@ -57,7 +53,7 @@ TEST_F(Refusals, OfTheHostToWriteLeaveTheDeviceDialogOpenAndTheDocumentAsItWas)
     const std::string before = m_project.plant.DeviceText();
     const kztest::ImportPatch patch(m_project.Module(), "_ZN15KZBaseDeviceCfg8writeCfgEb",
                                     reinterpret_cast<void*>(&RefuseToWrite));
-    const ScriptedUser user(DeviceSection);
+    const ScriptedUser user(KZSectionDevice);
     EXPECT_TRUE(m_project.Options());
     // Asked at the first OK and, since the dialog was still there, at the second.
     EXPECT_THAT(user.Messages(), SizeIs(2));
@@ -79,7 +75,9 @@ TEST_F(Refusals, OfAChildWindowGiveNullAndLeaveNothing)
 
 TEST_F(Refusals, OfAnyOneDialogOrPageLeaveTheDocumentsAsTheyWere)
 {
-    for (const int section : {-1, DeviceSection, LimitsSection, UnitsSection}) {
+    for (const OptionalSection section : {OptionalSection(), OptionalSection(KZSectionDevice),
+                                          OptionalSection(KZSectionLimits), OptionalSection(KZSectionUnits)}) {
+        SCOPED_TRACE(section ? "section " + std::to_string(*section) : "the hub alone");
         // One more each time, until the call makes it through.
         for (int refused = 1;; ++refused) {
             ASSERT_LT(refused, 10);
@@ -90,9 +88,9 @@ TEST_F(Refusals, OfAnyOneDialogOrPageLeaveTheDocumentsAsTheyWere)
             const bool answer = m_project.Options();
             if (!RefusedWindow::WasRefused())
                 break;
-            EXPECT_EQ(answer, refused > 1) << section;  // the hub is the first
-            EXPECT_EQ(Plant::Configuration(), configuration) << section << ", " << refused;
-            EXPECT_EQ(m_project.plant.DeviceText(), device) << section << ", " << refused;
+            EXPECT_EQ(answer, refused > 1);  // the hub is the first
+            EXPECT_EQ(Plant::Configuration(), configuration) << refused;
+            EXPECT_EQ(m_project.plant.DeviceText(), device) << refused;
         }
     }
 }

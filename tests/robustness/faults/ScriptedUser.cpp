@@ -6,14 +6,10 @@
 namespace {
 
 constexpr int MessageTextId = 0xFFFF;
-constexpr int FirstSectionId = 1200;
-
-// A control that tells the dialog, and one whose click changes something.
-struct Signs {
-    int mark;
-    int change;
-};
-constexpr Signs Dialogs[] = {{FirstSectionId, 0}, {8094, 8094}, {8049, 8071}, {5150, 0}, {6697, 6713}};
+// Controls of the dialogs in which this user changes something.
+constexpr int FirstMode = 8094;
+constexpr int ThreeDecimals = 8071;
+constexpr int WholeNetSide = 6713;
 constexpr int ActivePowerNominal = 5370;
 
 HWND FindControl(HWND dialog, int id)
@@ -26,7 +22,7 @@ HWND FindControl(HWND dialog, int id)
 
 }  // namespace
 
-ScriptedUser::ScriptedUser(int section, bool confirms)
+ScriptedUser::ScriptedUser(OptionalSection section, bool confirms)
     : m_section(section), m_confirms(confirms), m_loop([this] { Step(); })
 {
 }
@@ -46,31 +42,36 @@ void ScriptedUser::Step()
     m_loop.Continue();
 }
 
-ScriptedUser::Kind ScriptedUser::KindOf(HWND dialog)
-{
-    int kind = Hub;
-    while (kind != Unknown && !::GetDlgItem(dialog, Dialogs[kind].mark))
-        ++kind;
-    return static_cast<Kind>(kind);
-}
-
-void ScriptedUser::Work(HWND dialog, Kind kind)
+void ScriptedUser::Work(HWND dialog, DialogKind kind)
 {
     const int visit = ++m_visits[static_cast<std::size_t>(kind)];
-    if (visit == 1 && kind == Hub && m_section >= 0) {
-        ::PostMessageW(::GetDlgItem(dialog, FirstSectionId + m_section), BM_CLICK, 0, 0);
+    if (visit == 1 && kind == DialogKind::Hub && m_section) {
+        ClickSection(dialog, *m_section);
         return;
     }
     if (visit == 1)
         Change(dialog, kind);
-    const int patience = m_confirms || kind == Hub ? 2 : 1;
+    const int patience = m_confirms || kind == DialogKind::Hub ? 2 : 1;
     ::PostMessageW(dialog, WM_COMMAND, visit <= patience ? IDOK : IDCANCEL, 0);
 }
 
-void ScriptedUser::Change(HWND dialog, Kind kind)
+void ScriptedUser::Change(HWND dialog, DialogKind kind)
 {
-    if (kind == Limits)
+    const auto click = [&](int id) { ::PostMessageW(FindControl(dialog, id), BM_CLICK, 0, 0); };
+    switch (kind) {
+    case DialogKind::Device:
+        click(FirstMode);
+        break;
+    case DialogKind::Units:
+        click(ThreeDecimals);
+        break;
+    case DialogKind::Limits:
         ::SendMessageW(FindControl(dialog, ActivePowerNominal), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"5"));
-    else if (kind != Unknown && Dialogs[kind].change != 0)
-        ::PostMessageW(FindControl(dialog, Dialogs[kind].change), BM_CLICK, 0, 0);
+        break;
+    case DialogKind::Selection:
+        click(WholeNetSide);
+        break;
+    default:
+        break;
+    }
 }

@@ -8,28 +8,26 @@
 #include <string>
 #include <vector>
 
+#include "DialogKind.h"
 #include "StepLoop.h"
 
 class ScriptedUser {
 public:
-    // section: the section of the options hub that the user opens; -1 for none.
+    // section: the section of the options hub that the user opens, if any.
     // confirms: whether a dialog that is still open after its OK is confirmed again, or cancelled at once.
-    explicit ScriptedUser(int section = -1, bool confirms = true);
+    explicit ScriptedUser(OptionalSection section = {}, bool confirms = true);
 
     // What the message boxes said.
     [[nodiscard]] const std::vector<std::wstring>& Messages() const noexcept { return m_messages; }
 
 private:
-    enum Kind { Hub, Device, Units, Limits, Selection, Unknown, KindCount };
-
     void Step();
-    [[nodiscard]] static Kind KindOf(HWND dialog);
-    void Work(HWND dialog, Kind kind);
-    static void Change(HWND dialog, Kind kind);
+    void Work(HWND dialog, DialogKind kind);
+    static void Change(HWND dialog, DialogKind kind);
 
-    int m_section;
+    OptionalSection m_section;
     bool m_confirms;
     std::vector<std::wstring> m_messages;
-    std::array<int, KindCount> m_visits{};
+    std::array<int, DialogKindCount> m_visits{};
     StepLoop m_loop;
 };

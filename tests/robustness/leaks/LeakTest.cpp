@@ -13,14 +13,10 @@
 
 namespace {
 
-constexpr int DeviceSection = 1;
-constexpr int LimitsSection = 2;
-constexpr int UnitsSection = 3;
-
 class RepeatedDialog : public testing::Test {
 protected:
     // Opens and closes a dialog in the usual number of rounds, after some that make what stays.
-    void Repeat(const std::function<void(std::list<KZBasicString>&)>& openAndClose, int section = -1)
+    void Repeat(const std::function<void(std::list<KZBasicString>&)>& openAndClose, OptionalSection section = {})
     {
         constexpr long WarmUp = 12;
         const long rounds = endurance::Rounds(25, 1000);
@@ -42,7 +38,7 @@ protected:
                     "own for %ld static controls\n",
                     rounds, blocks, bytes, systems, StaticControlCount::Count());
     }
-    void RepeatOptions(int section)
+    void RepeatOptions(OptionalSection section = {})
     {
         Repeat([&](auto&) { m_project.Options(); }, section);
     }
@@ -53,7 +49,7 @@ protected:
 
 private:
     // Returns how many blocks it has left.
-    long Round(const std::function<void(std::list<KZBasicString>&)>& openAndClose, int section)
+    long Round(const std::function<void(std::list<KZBasicString>&)>& openAndClose, OptionalSection section)
     {
         Plant::Configure("");
         m_project.plant.WriteDevice(ZepProject::Record);
@@ -75,22 +71,22 @@ private:
 
 TEST_F(RepeatedDialog, OfTheOptionsLeavesNothing)
 {
-    RepeatOptions(-1);
+    RepeatOptions();
 }
 
 TEST_F(RepeatedDialog, OfTheDeviceLeavesNothing)
 {
-    RepeatOptions(DeviceSection);
+    RepeatOptions(KZSectionDevice);
 }
 
 TEST_F(RepeatedDialog, OfTheLimitsLeavesNothing)
 {
-    RepeatOptions(LimitsSection);
+    RepeatOptions(KZSectionLimits);
 }
 
 TEST_F(RepeatedDialog, OfTheUnitsLeavesNothing)
 {
-    RepeatOptions(UnitsSection);
+    RepeatOptions(KZSectionUnits);
 }
 
 TEST_F(RepeatedDialog, OfTheSelectionLeavesNothing)

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 #include "TestApp.h"
 
@@ -79,10 +80,18 @@ void EventLog::Watch() noexcept
         ::Sleep(Interval);
         if (Now() - m_since < HangMilliseconds)
             continue;
-        std::fprintf(stderr, "hang: an event has taken %ld ms\n%s\n", Now() - m_since, Describe().c_str());
-        std::fflush(nullptr);
-        ::TerminateProcess(::GetCurrentProcess(), HangExitCode);
+        char what[80];
+        std::snprintf(what, sizeof what, "hang: an event has taken %ld ms", Now() - m_since);
+        GiveUp(what);
     }
+}
+
+void EventLog::GiveUp(const char* what) const noexcept
+{
+    std::fprintf(stderr, "%s\n%s\n", what, Describe().c_str());
+    std::fflush(nullptr);
+    ::TerminateProcess(::GetCurrentProcess(), GivenUpExitCode);
+    std::abort();  // not reached: tells the compiler
 }
 
 long EventLog::Now() noexcept

@@ -11,7 +11,7 @@
 
 class EventLog {
 public:
-    static constexpr int HangExitCode = 98;
+    static constexpr int GivenUpExitCode = 98;
 
     explicit EventLog(std::uint64_t seed);
     ~EventLog();
@@ -27,6 +27,8 @@ public:
     [[nodiscard]] std::string Describe() const;
     // Writes that down before a crash ends the process.
     static void DescribeCurrent() noexcept;
+    // Writes it down with what went wrong and ends the process, for a run that cannot go on.
+    [[noreturn]] void GiveUp(const char* what) const noexcept;
 
 private:
     static constexpr std::size_t Remembered = 40;

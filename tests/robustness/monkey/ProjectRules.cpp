@@ -22,11 +22,12 @@ bool IsWhole(const pugi::xml_node& node, const wchar_t* name, int least, int mos
     return end != text && *end == L'\0' && value >= least && value <= most;
 }
 
-bool IsUnitInOrder(const pugi::xml_node& unit)
+bool IsUnitInOrder(const pugi::xml_node& unit, int fewestDecimals)
 {
     const pugi::xml_node factor = unit.child(L"factor");
     const std::wstring power = factor ? factor.child_value() : L"3";
-    return (!unit.child(L"decimals") || IsWhole(unit, L"decimals", 0, 3)) && (power == L"0" || power == L"3");
+    return (!unit.child(L"decimals") || IsWhole(unit, L"decimals", fewestDecimals, 3)) &&
+           (power == L"0" || power == L"3");
 }
 
 double Folded(double factor)
@@ -62,14 +63,14 @@ bool IsCheckInOrder(const pugi::xml_node& check)
 
 }  // namespace
 
-std::string BrokenRuleOfConfiguration(const std::string& text)
+std::string BrokenRuleOfConfiguration(const std::string& text, int fewestDecimals)
 {
     pugi::xml_document document;
     if (!document.load_buffer(text.data(), text.size(), pugi::parse_full, pugi::encoding_utf8))
         return "the main configuration is not well-formed";
     const pugi::xml_node root = document.child(L"configuration");
     for (const pugi::xml_node unit : root.child(L"unitSetups").child(L"unitSetup").children(L"unit"))
-        if (!IsUnitInOrder(unit))
+        if (!IsUnitInOrder(unit, fewestDecimals))
             return "a unit is out of its ranges";
     const pugi::xml_node viewSetup = root.child(L"viewSetups").child(L"viewSetup");
     if (viewSetup.next_sibling(L"viewSetup"))

@@ -4,7 +4,8 @@
 
 #include <string>
 
-// The first rule that the main configuration breaks; empty when there is none.
-[[nodiscard]] std::string BrokenRuleOfConfiguration(const std::string& text);
+// The first rule that the main configuration breaks; empty when there is none. A message can uncheck the radio buttons
+// of a unit's decimals, which no user can: the unit then has -1.
+[[nodiscard]] std::string BrokenRuleOfConfiguration(const std::string& text, int fewestDecimals = 0);
 // The same of a device's document.
 [[nodiscard]] std::string BrokenRuleOfDevice(const std::string& text);

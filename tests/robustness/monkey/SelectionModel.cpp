@@ -135,6 +135,14 @@ int SelectionModel::Selected() const
         std::count_if(m_boxes.begin(), m_boxes.end(), [](const Box& box) { return box.checked && box.enabled; }));
 }
 
+bool SelectionModel::Offers(const std::vector<std::wstring>& names) const
+{
+    return std::all_of(names.begin(), names.end(), [&](const std::wstring& name) {
+        return std::any_of(m_boxes.begin(), m_boxes.end(),
+                           [&](const Box& box) { return name == m_device + L"." + box.name; });
+    });
+}
+
 std::vector<std::wstring> SelectionModel::Names() const
 {
     std::vector<std::wstring> names;

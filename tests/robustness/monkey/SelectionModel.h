@@ -26,6 +26,8 @@ public:
 
     [[nodiscard]] const std::vector<Box>& Boxes() const noexcept { return m_boxes; }
     [[nodiscard]] int Selected() const;
+    // Whether the dialog has a box for each of the names.
+    [[nodiscard]] bool Offers(const std::vector<std::wstring>& names) const;
     // What the host's list holds after OK.
     [[nodiscard]] std::vector<std::wstring> Names() const;
 

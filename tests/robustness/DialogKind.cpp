@@ -1,0 +1,31 @@
+#include "DialogKind.h"
+
+namespace {
+
+struct Sign {
+    const char* name;
+    int control;  // one that no other dialog has
+};
+constexpr std::array<Sign, DialogKindCount - 1> Signs{
+    {{"hub", KZSectionButtonBase}, {"device", 8094}, {"units", 8049}, {"limits", 5150}, {"selection", 6697}}};
+
+}  // namespace
+
+DialogKind KindOf(HWND dialog)
+{
+    std::size_t kind = 0;
+    while (kind < Signs.size() && !::GetDlgItem(dialog, Signs[kind].control))
+        ++kind;
+    return static_cast<DialogKind>(kind);
+}
+
+const char* NameOf(DialogKind kind) noexcept
+{
+    const auto index = static_cast<std::size_t>(kind);
+    return index < Signs.size() ? Signs[index].name : "other";
+}
+
+void ClickSection(HWND hub, KZOptionsSection section)
+{
+    ::PostMessageW(::GetDlgItem(hub, KZSectionButtonBase + section), BM_CLICK, 0, 0);
+}
