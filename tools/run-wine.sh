@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs a Windows program of the build under Wine, without a display: run-wine.sh PROGRAM.exe [ARGUMENT...]
 # KZ_TEST_DPI chooses a resolution (96 unless set), KZ_TEST_LOCALE a user locale such as es_ES. A program in tests/ finds
-# the product's DLLs in bin/ beside it.
+# the product's DLLs in bin/ beside it. With KZ_TEST_FOLLOW the output comes while the program runs, and ends a second after it.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/wine-env.sh"
 program=$(realpath "$1")
@@ -19,7 +19,14 @@ wine_serve
 output=$(mktemp)
 trap 'rm -f "$output"' EXIT
 status=0
-timeout --kill-after=5 "${KZ_TEST_TIMEOUT:-600}" "${wine_pin[@]}" wine "$program" "$@" < /dev/null > "$output" 2>&1 || status=$?
-cat "$output"
+run=(timeout --kill-after=5 "${KZ_TEST_TIMEOUT:-600}" "${wine_pin[@]}" wine "$program" "$@")
+if [ -n "${KZ_TEST_FOLLOW:-}" ]; then
+  "${run[@]}" < /dev/null > "$output" 2>&1 &
+  tail --lines=+1 --follow --pid=$! "$output"
+  wait $! || status=$?
+else
+  "${run[@]}" < /dev/null > "$output" 2>&1 || status=$?
+  cat "$output"
+fi
 if [ "$status" = 124 ]; then echo "run-wine.sh: $program ran longer than ${KZ_TEST_TIMEOUT:-600} s" >&2; fi
 exit "$status"
