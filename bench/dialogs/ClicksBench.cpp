@@ -21,6 +21,7 @@ using kzbench::RunInTurn;
 CWinApp application;
 
 constexpr int BoxCount = 39;
+constexpr int ClicksAtOnce = 20;
 
 // The harmonic page in its dialog, shown as it is after a click on its tab.
 class HarmonicPage {
@@ -81,13 +82,16 @@ void CompareClicks(Report& report, KZDriverDeviceZEP& device)
     HarmonicPage page(device);
     const HWND bare = CreateBareDialog({::GetModuleHandleW(L"KZUsrZEP.dll"), IDD_SELECTVAR_HARMONIC, {}});
     const HWND bareBox = ::GetDlgItem(bare, IDC_HARMONIC_NET_BOX);
+    // Several in one: the first of them brings its window to the front, which is no part of a click and costs more.
     const auto click = [](HWND box) {
         return [box] {
-            ::SendMessageW(box, BM_CLICK, 0, 0);
-            ::UpdateWindow(box);
+            for (int round = 0; round < ClicksAtOnce; ++round) {
+                ::SendMessageW(box, BM_CLICK, 0, 0);
+                ::UpdateWindow(box);
+            }
         };
     };
-    report.Add({"click on a box", "the box in a bare template", {}},
+    report.Add({"20 clicks on a box", "the box in a bare template", {}},
                RunInTurn(click(page.FirstBox()), click(bareBox), [&] { page.Update(); }));
     ::DestroyWindow(bare);
 

@@ -21,9 +21,9 @@ namespace {
 constexpr int TabId = 6697;
 constexpr int Maximum = 7;
 constexpr long MessagesPerVisit = 100;
-constexpr long MostEndings = 200;  // more than the messages of any dialog that is closed
+constexpr long MostEndings = 200;  // far more than a visit takes, whatever is open and asks back
 
-constexpr int UncheckedDecimals = -1;
+constexpr int UncheckedDecimals = -1;  // see BrokenRuleOfConfiguration
 constexpr OptionalSection Sections[] = {std::nullopt, KZSectionDevice, KZSectionUnits, KZSectionLimits};
 
 // What a dialog's code looks at more than at others.
