@@ -171,11 +171,9 @@ CWnd* CWinThread::GetMainWnd()
 
 LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg)
 {
-    if (pMsg->message == WM_CREATE || pMsg->message == WM_PAINT) {
-        // Left invalid, the window would be asked to paint for ever; and each time would report.
-        if (pMsg->message == WM_PAINT)
-            ::ValidateRect(pMsg->hwnd, nullptr);
-    }
+    // Left invalid, the window would be asked to paint for ever; and each time would report.
+    if (pMsg->message == WM_PAINT)
+        ::ValidateRect(pMsg->hwnd, nullptr);
     if (!e->IsKindOf(RUNTIME_CLASS(CUserException)))
         e->ReportError(e->IsKindOf(RUNTIME_CLASS(CMemoryException)) ? MB_ICONEXCLAMATION | MB_SYSTEMMODAL
                                                                     : MB_ICONSTOP);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "Conditions.h"
 #include "Controls.h"
 #include "TestDialog.h"
@@ -60,6 +62,76 @@ TEST(Application, RunsUntilItsMainWindowIsDestroyed)
     EXPECT_EQ(AfxWinMain(::GetModuleHandleW(nullptr), nullptr, nullptr, SW_HIDE), 0);
     EXPECT_TRUE(application.initialised);
     EXPECT_EQ(application.m_pMainWnd, nullptr);
+}
+
+TEST(Application, EndsAtOnceWhenItCannotBegin)
+{
+    class Failing : public CWinApp {
+    public:
+        BOOL InitInstance() override
+        {
+            m_pMainWnd = &window;
+            window.Open();
+            return CWinApp::InitInstance();
+        }
+        int ExitInstance() override { return 5; }
+        TestDialog window;
+    } application;
+    EXPECT_EQ(AfxWinMain(::GetModuleHandleW(nullptr), nullptr, nullptr, SW_HIDE), 5);
+    EXPECT_EQ(application.window.m_hWnd, nullptr) << "its window has gone with it";
+}
+
+TEST(Application, IsNamedAfterItsProgramUnlessItHasAName)
+{
+    const CWinApp nameless;
+    EXPECT_STREQ(AfxGetAppName(), L"mfc_tests");
+}
+
+TEST(Application, FindsNoIconAndNoCursorThatNobodyHas)
+{
+    EXPECT_EQ(AfxGetApp()->LoadIcon(4321), nullptr);
+    EXPECT_EQ(AfxGetApp()->LoadCursor(4321), nullptr);
+}
+
+TEST(Application, QuitsWithTheCodeThatItIsTold)
+{
+    App application;
+    AfxPostQuitMessage(9);
+    EXPECT_EQ(application.Run(), 9);
+}
+
+TEST(Application, IsNoneOfOtherThreads)
+{
+    std::thread([] {
+        EXPECT_EQ(AfxGetThread(), nullptr);
+        MSG made;
+        ::PeekMessageW(&made, nullptr, 0, 0, PM_NOREMOVE);  // makes the thread's queue
+        ::PostThreadMessageW(::GetCurrentThreadId(), WM_APP, 0, 0);
+        EXPECT_TRUE(AfxPumpMessage());
+        AfxPostQuitMessage(0);
+        EXPECT_FALSE(AfxPumpMessage());
+    }).join();
+}
+
+TEST(WaitCursor, StaysUntilTheLastWhoWaits)
+{
+    CCmdTarget& target = *AfxGetApp();
+    const HCURSOR wait = ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT));
+    const HCURSOR cross = ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_CROSS));
+    ::SetCursor(cross);
+    target.EndWaitCursor();
+    target.RestoreWaitCursor();
+    EXPECT_EQ(::GetCursor(), cross) << "nobody waits";
+    target.BeginWaitCursor();
+    target.BeginWaitCursor();
+    EXPECT_EQ(::GetCursor(), wait);
+    ::SetCursor(nullptr);
+    target.RestoreWaitCursor();
+    EXPECT_EQ(::GetCursor(), wait);
+    target.EndWaitCursor();
+    EXPECT_EQ(::GetCursor(), wait);
+    target.EndWaitCursor();
+    EXPECT_EQ(::GetCursor(), cross);
 }
 
 TEST(Application, GivesItsMainWindowTheKeysOfOtherWindows)

@@ -27,7 +27,10 @@ TEST_F(CommonControls, TabKeepsTextsImagesAndSelection)
     CBitmap bitmap;
     ASSERT_TRUE(bitmap.CreateBitmap(16, 16, 1, 24, nullptr));
     EXPECT_EQ(images.Add(&bitmap, RGB(255, 0, 255)), 0);
-    EXPECT_EQ(images.GetImageCount(), 1);
+    CBitmap mask;
+    ASSERT_TRUE(mask.CreateBitmap(16, 16, 1, 1, nullptr));
+    EXPECT_EQ(images.Add(&bitmap, &mask), 1);
+    EXPECT_EQ(images.GetImageCount(), 2);
     EXPECT_EQ(tab.SetImageList(&images), nullptr);
     EXPECT_EQ(tab.GetImageList(), &images);
 
@@ -36,6 +39,16 @@ TEST_F(CommonControls, TabKeepsTextsImagesAndSelection)
     EXPECT_EQ(tab.GetItemCount(), 2);
     tab.SetCurSel(1);
     EXPECT_EQ(tab.GetCurSel(), 1);
+    wchar_t renamed[] = L"2nd";
+    TCITEMW change{};
+    change.mask = TCIF_TEXT;
+    change.pszText = renamed;
+    EXPECT_TRUE(tab.SetItem(1, &change));
+    wchar_t read[32];
+    change.pszText = read;
+    change.cchTextMax = static_cast<int>(std::size(read));
+    ASSERT_TRUE(tab.GetItem(1, &change));
+    EXPECT_STREQ(read, L"2nd");
 
     wchar_t text[32];
     TCITEMW item{};

@@ -78,6 +78,7 @@ TEST_F(Controls, ListBoxKeepsTextsAndSelection)
     list.GetText(0, text);
     EXPECT_EQ(text, L"one");
     EXPECT_EQ(list.GetCurSel(), 0);
+    EXPECT_THROW(list.GetText(1, text), CInvalidArgException*);
 }
 
 TEST_F(Controls, WindowMembersDoWhatTheySay)

@@ -1,9 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <afxcmn.h>
 #include <afxwin.h>
 
 #include <memory>
 #include <string>
+#include <vector>
+
+#include "MessageCollector.h"
+#include "MfcTestIds.h"
 
 namespace {
 
@@ -49,6 +54,51 @@ TEST(RuntimeClass, IsFoundByNameWhenItCanBeCreated)
     EXPECT_EQ(CRuntimeClass::FromName("Unicorn"), nullptr);
 }
 
+// Classes that are there to be derived from.
+class AnyTarget : public CCmdTarget {};
+class AnyThread : public CWinThread {};
+
+// An object of a class of the library knows the class, whose base is the given one.
+template <class Class, class Derived = Class>
+void ExpectClass(const char* name, const CRuntimeClass* base)
+{
+    const Derived object;
+    const CRuntimeClass* const type = object.GetRuntimeClass();
+    EXPECT_EQ(type, RUNTIME_CLASS(Class)) << name;
+    EXPECT_STREQ(type->m_lpszClassName, name);
+    EXPECT_EQ(type->m_pfnGetBaseClass(), base) << name;
+    EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(CObject))) << name;
+}
+
+TEST(RuntimeClass, IsKnownToEachClassOfTheLibrary)
+{
+    const CRuntimeClass* const object = RUNTIME_CLASS(CObject);
+    const CRuntimeClass* const drawing = RUNTIME_CLASS(CGdiObject);
+    const CRuntimeClass* const window = RUNTIME_CLASS(CWnd);
+    ExpectClass<CCmdTarget, AnyTarget>("CCmdTarget", object);
+    ExpectClass<CWinThread, AnyThread>("CWinThread", RUNTIME_CLASS(CCmdTarget));
+    ExpectClass<CWinApp>("CWinApp", RUNTIME_CLASS(CWinThread));
+    ExpectClass<CGdiObject>("CGdiObject", object);
+    ExpectClass<CBitmap>("CBitmap", drawing);
+    ExpectClass<CBrush>("CBrush", drawing);
+    ExpectClass<CPen>("CPen", drawing);
+    ExpectClass<CFont>("CFont", drawing);
+    ExpectClass<CDC>("CDC", object);
+    ExpectClass<CMenu>("CMenu", object);
+    ExpectClass<CImageList>("CImageList", object);
+    ExpectClass<CWnd>("CWnd", RUNTIME_CLASS(CCmdTarget));
+    ExpectClass<CStatic>("CStatic", window);
+    ExpectClass<CButton>("CButton", window);
+    ExpectClass<CEdit>("CEdit", window);
+    ExpectClass<CComboBox>("CComboBox", window);
+    ExpectClass<CListBox>("CListBox", window);
+    ExpectClass<CTabCtrl>("CTabCtrl", window);
+    ExpectClass<CListCtrl>("CListCtrl", window);
+    ExpectClass<CDialog>("CDialog", window);
+    EXPECT_EQ(CClientDC(nullptr).GetRuntimeClass()->m_pfnGetBaseClass(), RUNTIME_CLASS(CDC));
+    EXPECT_EQ(RUNTIME_CLASS(CObject)->m_pfnGetBaseClass, nullptr);
+}
+
 TEST(DynamicDownCast, GivesTheObjectOrNull)
 {
     Dog dog;
@@ -69,6 +119,69 @@ TEST(ExceptionClasses, AreCaughtAsTheirBaseAndSayWhatTheyAre)
         EXPECT_STREQ(text, L"Out of memory.");
         exception->Delete();
     }
+}
+
+// Every kind of the library with what it says.
+template <class Exception>
+void ExpectException(void (*raise)(), const wchar_t* text)
+{
+    try {
+        raise();
+        ADD_FAILURE() << "nothing was thrown";
+    } catch (Exception* exception) {
+        const MessageCollector messages;
+        exception->ReportError();
+        EXPECT_EQ(messages.Texts(), std::vector<std::wstring>{text});
+        exception->Delete();
+    }
+}
+
+TEST(ExceptionClasses, ReportWhatWentWrong)
+{
+    ExpectException<CMemoryException>(AfxThrowMemoryException, L"Out of memory.");
+    ExpectException<CNotSupportedException>(AfxThrowNotSupportedException,
+                                            L"An operation that is not supported was attempted.");
+    ExpectException<CResourceException>(AfxThrowResourceException, L"A required resource was unavailable.");
+    ExpectException<CInvalidArgException>(AfxThrowInvalidArgException, L"An invalid argument was encountered.");
+    ExpectException<CUserException>(AfxThrowUserException, L"The input was not accepted.");
+}
+
+// A kind of exception that has nothing to say.
+class Speechless : public CException {
+    DECLARE_DYNAMIC(Speechless)
+
+public:
+    explicit Speechless(bool& gone) : m_gone(gone) {}
+    ~Speechless() override { m_gone = true; }
+
+private:
+    bool& m_gone;
+};
+IMPLEMENT_DYNAMIC(Speechless, CException)
+
+TEST(ExceptionClasses, ReportTheTextOfTheirCallerOrTheirClass)
+{
+    bool gone = false;
+    auto* const exception = new Speechless(gone);
+    wchar_t text[8] = L"old";
+    UINT help = 3;
+    EXPECT_FALSE(exception->GetErrorMessage(text, static_cast<UINT>(std::size(text)), &help));
+    EXPECT_STREQ(text, L"");
+    EXPECT_EQ(help, 0U);
+    const MessageCollector messages;
+    exception->ReportError(MB_OK, IDS_GREETING);
+    exception->ReportError(MB_OK, 4321);
+    EXPECT_EQ(messages.Texts(), (std::vector<std::wstring>{L"Good morning", L"The operation failed (Speechless)."}));
+    exception->Delete();
+    EXPECT_TRUE(gone) << "one from the heap deletes itself";
+}
+
+TEST(ExceptionClasses, SayNothingWithoutABuffer)
+{
+    const CResourceException exception(FALSE);
+    UINT help = 3;
+    EXPECT_FALSE(exception.GetErrorMessage(nullptr, 0, &help));
+    EXPECT_EQ(help, 0U);
 }
 
 TEST(ExceptionClasses, CutTheirTextAtTheBuffer)
