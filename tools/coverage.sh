@@ -35,6 +35,8 @@ mapfile -t programs < <(find "$windows/tests" -name '*_include.cmake' -printf '%
 for program in "${programs[@]}"; do
   [ ! -e "$windows/tests/$program.exe" ] || run "$root/tools/run-wine.sh" "$program" "$windows/tests/$program.exe"
 done
+# The editor's own windows are worked by mouse and keyboard.
+run ctest e2e --test-dir "$windows" -L e2e --output-on-failure --no-tests=error
 
 # count FOLDER GCOV NAME: without the branches that the compiler adds for exceptions and for what cannot be reached, as no
 # source has written them
