@@ -1,3 +1,4 @@
+#include <exception>
 #include <utility>
 
 #include "DialogTemplate.h"
@@ -34,6 +35,17 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         // A dialog that is not fully set up is not shown.
         dialog->EndDialog(-1);
         return FALSE;
+    }
+}
+
+// Only when the dialog has gone: in the loop of the message it would take commands that were posted before, OK among
+// them, although its answer is settled.
+void ReportFailure(const std::exception_ptr& failure) noexcept
+{
+    try {
+        std::rethrow_exception(failure);
+    } catch (...) {
+        ReportCurrentException(MSG{});
     }
 }
 
@@ -127,13 +139,12 @@ INT_PTR CDialog::DoModal()
         ::EnableWindow(owner, FALSE);
 
     m_nModalResult = -1;
+    std::exception_ptr failure;
     try {
         RunDialog(found.bytes, owner, found.module);
     } catch (...) {
-        // A message filter or the template's owner threw; the owner must not stay disabled.
-        MSG failed{};
-        failed.hwnd = m_hWnd;
-        ReportCurrentException(failed);
+        // A message filter threw, or there was no memory for a message; the owner must not stay disabled.
+        failure = std::current_exception();
         m_nModalResult = -1;
     }
 
@@ -144,6 +155,8 @@ INT_PTR CDialog::DoModal()
         ::SetActiveWindow(owner);
     DestroyWindow();
     PostModal();
+    if (failure)
+        ReportFailure(failure);
     return m_nModalResult;
 }
 

@@ -207,8 +207,10 @@ TEST(ModalDialog, EndsWithMinusOneWhenItsMessageLoopThrows)
         using TestDialog::TestDialog;
         BOOL PreTranslateMessage(MSG* message) override
         {
-            if (message->message == WM_KEYDOWN)
+            if (message->message == WM_KEYDOWN) {
+                PostMessage(WM_COMMAND, IDC_BUTTON, reinterpret_cast<LPARAM>(Item(IDC_BUTTON)));
                 throw std::runtime_error("key");
+            }
             return TestDialog::PreTranslateMessage(message);
         }
     };
@@ -216,11 +218,14 @@ TEST(ModalDialog, EndsWithMinusOneWhenItsMessageLoopThrows)
     TestDialog owner;
     owner.Open();
     ThrowingDialog dialog(&owner);
+    int presses = 0;
+    dialog.pressed = [&] { ++presses; };
     const ModalScript script([] { kztest::PressKey(WaitForDialog(), VK_F9); });
     EXPECT_EQ(dialog.DoModal(), -1);
     EXPECT_EQ(dialog.m_hWnd, nullptr);
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(collector.Texts(), std::vector<std::wstring>{L"key"});
+    EXPECT_EQ(presses, 0) << "it takes no command while its failure is read";
 }
 
 }  // namespace
