@@ -20,5 +20,9 @@ inline constexpr std::array DialogKinds{DialogKind::Hub, DialogKind::Device, Dia
 // A section of the hub, or none.
 using OptionalSection = std::optional<KZOptionsSection>;
 
+// The ways into the options: the hub alone, and each section that opens a dialog of the module.
+inline constexpr std::array<OptionalSection, 4> OptionsRoads{std::nullopt, KZSectionDevice, KZSectionUnits,
+                                                             KZSectionLimits};
+
 // Clicks a section's button; the section opens after this step.
 void ClickSection(HWND hub, KZOptionsSection section);

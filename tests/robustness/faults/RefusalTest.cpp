@@ -75,8 +75,7 @@ TEST_F(Refusals, OfAChildWindowGiveNullAndLeaveNothing)
 
 TEST_F(Refusals, OfAnyOneDialogOrPageLeaveTheDocumentsAsTheyWere)
 {
-    for (const OptionalSection section : {OptionalSection(), OptionalSection(KZSectionDevice),
-                                          OptionalSection(KZSectionLimits), OptionalSection(KZSectionUnits)}) {
+    for (const OptionalSection section : OptionsRoads) {
         SCOPED_TRACE(section ? "section " + std::to_string(*section) : "the hub alone");
         // One more each time, until the call makes it through.
         for (int refused = 1;; ++refused) {

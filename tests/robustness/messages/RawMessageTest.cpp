@@ -24,7 +24,6 @@ constexpr long MessagesPerVisit = 100;
 constexpr long MostEndings = 200;  // far more than a visit takes, whatever is open and asks back
 
 constexpr int UncheckedDecimals = -1;  // see BrokenRuleOfConfiguration
-constexpr OptionalSection Sections[] = {std::nullopt, KZSectionDevice, KZSectionUnits, KZSectionLimits};
 
 // What a dialog's code looks at more than at others.
 constexpr UINT Favourites[] = {WM_COMMAND,  WM_COMMAND,        WM_SIZE,        WM_SHOWWINDOW, WM_SELECTVAR_SELECT,
@@ -230,7 +229,7 @@ TEST(RandomMessages, NeitherCrashNorHangNorBreakARule)
     while (raw.Given() < messages && !testing::Test::HasFailure()) {
         raw.SelectVariables();
         ++visits;
-        for (const OptionalSection section : Sections) {
+        for (const OptionalSection section : OptionsRoads) {
             raw.SetOptions(section);
             AfxGetApp()->OnIdle(0);
             ++visits;
