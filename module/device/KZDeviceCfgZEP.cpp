@@ -2,11 +2,10 @@
 
 #include "ControlText.h"
 #include "DeviceControls.h"
+#include "HostText.h"
 #include "KZDialogSetup.h"
-#include "KZLoadString.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
-#include "LayoutPlan.h"
 
 using zep::InformationField;
 
@@ -63,15 +62,15 @@ template <std::size_t Count>
 void FillList(CComboBox& list, const unsigned (&items)[Count], int choice)
 {
     for (const unsigned item : items)
-        list.AddString(KZLoadString(item).c_str());
+        list.AddString(HostText(item).c_str());
     if (choice >= 0)
         list.SetCurSel(choice);
 }
 
 KZBasicString MessageOf(const zep::InformationFailure& failure)
 {
-    const KZBasicString text = KZLoadString(failure.textId);
-    return failure.bounds ? KZBasicString::Format(text.c_str(), failure.bounds->lowest, failure.bounds->highest) : text;
+    return failure.bounds ? FormatHostText(failure.textId, failure.bounds->lowest, failure.bounds->highest)
+                          : HostText(failure.textId);
 }
 
 // The wait cursor while a device is written, the arrow afterwards.
@@ -119,40 +118,38 @@ BOOL KZDeviceCfgZEP::OnInitDialog()
 {
     CDialog::OnInitDialog();
     KZSetBigIcon(*this);
-    LayoutPlan plan(*this);
-    SetTexts(plan);
+    SetTexts();
     KZSetUpOkCancel(m_btnOK, m_btnCancel);
     m_edtRatio.LimitText(4);
     m_edtCurrent.LimitText(3);
     m_edtUnits.LimitText(1);
     const zep::InformationRecord record(*Document()->Root());
     m_initial = record.Settings();
-    ShowIdentity(record, plan);
+    ShowIdentity(record);
     ShowSettings(record);
-    LayoutControls(plan);
+    LayoutControls();
     UpdateData(FALSE);
     return TRUE;
 }
 
-void KZDeviceCfgZEP::SetTexts(const LayoutPlan& plan)
+void KZDeviceCfgZEP::SetTexts()
 {
     const KZBasicString model = KZQuorvelantaSetup::Get()->DriverName(Driver()->TypeName().c_str());
-    SetWindowText(KZBasicString::Format(KZLoadString(KZS_DEVICE_TITLE).c_str(), model.c_str()).c_str());
+    SetWindowText(FormatHostText(KZS_DEVICE_TITLE, model.c_str()).c_str());
     for (const Label& label : Labels)
-        plan.SetText(label.control, KZLoadString(label.text));
-    const KZBasicString order = KZLoadString(KZS_HARMONIC_ORDER);
+        SetDlgItemText(label.control, HostText(label.text).c_str());
     for (int i = 0; i < zep::FilterCount; ++i)
-        plan.SetText(IDC_FILTER + i, KZBasicString::Format(order.c_str(), zep::FilteredOrder(i)));
-    plan.SetText(IDC_CURRENT_GROUP, KZLoadString(KZS_MINIMUM_CURRENT));
+        SetDlgItemText(IDC_FILTER + i, FormatHostText(KZS_HARMONIC_ORDER, zep::FilteredOrder(i)).c_str());
+    SetDlgItemText(IDC_CURRENT_GROUP, HostText(KZS_MINIMUM_CURRENT).c_str());
 }
 
-void KZDeviceCfgZEP::ShowIdentity(const zep::InformationRecord& record, const LayoutPlan& plan)
+void KZDeviceCfgZEP::ShowIdentity(const zep::InformationRecord& record)
 {
     const KZDriver& driver = *Driver();
-    plan.SetText(IDC_NUMBER, KZBasicString::Format(L"%d", driver.Number()));
-    plan.SetText(IDC_IDENTIFIER, driver.Name());
+    SetDlgItemText(IDC_NUMBER, KZBasicString::Format(L"%d", driver.Number()).c_str());
+    SetDlgItemText(IDC_IDENTIFIER, driver.Name().c_str());
     m_stcModel.SetWindowText(KZQuorvelantaSetup::Get()->DriverName(driver.TypeName().c_str()).c_str());
-    plan.SetText(IDC_DESCRIPTION, driver.Description());
+    SetDlgItemText(IDC_DESCRIPTION, driver.Description().c_str());
     m_stcVersion.SetWindowText(record.Text(InformationField::Version).c_str());
     m_stcSerialNumber.SetWindowText(record.Text(InformationField::SerialNumber).c_str());
     m_stcGamma.SetWindowText(record.Text(InformationField::Gamma).c_str());
@@ -215,7 +212,7 @@ CEdit& KZDeviceCfgZEP::EditOf(InformationField field) noexcept
 
 bool KZDeviceCfgZEP::IsConfirmed() const
 {
-    return AfxMessageBox(KZLoadString(KZS_CONFIRM_WRITE).c_str(), MB_YESNO | MB_ICONQUESTION) == IDYES;
+    return AfxMessageBox(HostText(KZS_CONFIRM_WRITE).c_str(), MB_YESNO | MB_ICONQUESTION) == IDYES;
 }
 
 bool KZDeviceCfgZEP::WriteRecord()

@@ -11,8 +11,6 @@
 #include "InformationRecord.h"
 #include "KZBaseDeviceCfg.h"
 
-class LayoutPlan;
-
 class KZDeviceCfgZEP : public KZBaseDeviceCfg {
 public:
     // driver and node are not owned; node, the device's element of the host's list, is only kept.
@@ -27,10 +25,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void SetTexts(const LayoutPlan& plan);
-    void ShowIdentity(const zep::InformationRecord& record, const LayoutPlan& plan);
+    void SetTexts();
+    void ShowIdentity(const zep::InformationRecord& record);
     void ShowSettings(const zep::InformationRecord& record);
-    void LayoutControls(LayoutPlan& plan);
+    void LayoutControls();
 
     [[nodiscard]] zep::InformationEntries Entries() const;
     // Checks the entries; the first that is refused is shown in a message and focused.

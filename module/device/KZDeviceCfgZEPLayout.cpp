@@ -147,8 +147,9 @@ private:
 
 }  // namespace
 
-void KZDeviceCfgZEP::LayoutControls(LayoutPlan& plan)
+void KZDeviceCfgZEP::LayoutControls()
 {
+    LayoutPlan plan(*this);
     const DevicePage page(plan);
     plan.FitAndApply();
 }

@@ -5,7 +5,7 @@
 #include "CDlgOptionsZEP.h"
 #include "CDlgSelectVarZEP.h"
 #include "EdgeGuard.h"
-#include "KZLoadString.h"
+#include "HostText.h"
 #include "KZStringIds.h"
 
 namespace zep {
@@ -21,7 +21,7 @@ bool RunSelection(CWnd* parent, KZDriver* driver, std::list<KZBasicString>& vari
                   int maxVariables)
 {
     if ((driver->VariableGroups() & groups).none()) {
-        AfxMessageBox(KZLoadString(KZS_NO_SUCH_VARIABLES).c_str(), MB_OK, 0);
+        AfxMessageBox(HostText(KZS_NO_SUCH_VARIABLES).c_str(), MB_OK, 0);
         return false;
     }
     // The dialog gets the host's own mask: what the device lacks is for its pages to leave out.

@@ -1,6 +1,5 @@
 #include "CDlgLimitsArmonicZEP.h"
 
-#include "KZLoadString.h"
 #include "KZStringIds.h"
 #include "LimitsControls.h"
 

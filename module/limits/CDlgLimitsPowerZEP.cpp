@@ -1,6 +1,5 @@
 #include "CDlgLimitsPowerZEP.h"
 
-#include "KZLoadString.h"
 #include "KZStringIds.h"
 #include "LimitsControls.h"
 

@@ -4,8 +4,8 @@
 
 #include "CDlgLimitsArmonicZEP.h"
 #include "CDlgLimitsPowerZEP.h"
+#include "HostText.h"
 #include "KZDialogSetup.h"
-#include "KZLoadString.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
@@ -37,7 +37,7 @@ BOOL CDlgLimitsZEP::OnInitDialog()
 {
     CDialog::OnInitDialog();
     const KZBasicString model = KZQuorvelantaSetup::Get()->DriverName(m_pDriver->TypeName().c_str());
-    SetWindowText(KZBasicString::Format(KZLoadString(KZS_LIMITS_TITLE).c_str(), model.c_str()).c_str());
+    SetWindowText(FormatHostText(KZS_LIMITS_TITLE, model.c_str()).c_str());
     KZSetBigIcon(*this);
     KZSetUpOkCancel(m_btnOK, m_btnCancel);
     MakePages();
@@ -71,10 +71,10 @@ void CDlgLimitsZEP::CreateTabs()
                     {L"ZEP-var_power.png", L"SYSTEM-var_armonic_current.png", L"SYSTEM-var_armonic_current.png"});
     m_tab.SetImageList(&m_imageList);
 
-    const KZBasicString harmonics = KZLoadString(KZS_HARMONIC_CURRENTS) + L" ";
-    m_tab.InsertItem(0, KZLoadString(KZS_POWERS).c_str(), 0);
-    m_tab.InsertItem(1, (harmonics + KZLoadString(KZS_NET_SIDE)).c_str(), 1);
-    m_tab.InsertItem(2, (harmonics + KZLoadString(KZS_LOAD_SIDE)).c_str(), 2);
+    const KZBasicString harmonics = HostText(KZS_HARMONIC_CURRENTS) + L" ";
+    m_tab.InsertItem(0, HostText(KZS_POWERS).c_str(), 0);
+    m_tab.InsertItem(1, (harmonics + HostText(KZS_NET_SIDE)).c_str(), 1);
+    m_tab.InsertItem(2, (harmonics + HostText(KZS_LOAD_SIDE)).c_str(), 2);
 }
 
 void CDlgLimitsZEP::ShowOnly(LimitsPage* shown)

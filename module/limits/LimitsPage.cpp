@@ -2,16 +2,15 @@
 
 #include "ChildPage.h"
 #include "ControlText.h"
+#include "HostText.h"
 #include "KZDialogSetup.h"
-#include "KZLoadString.h"
 #include "NumericLocale.h"
 
 using zep::LimitCell;
 
 KZBasicString TextOf(const zep::LimitMessageLine& line)
 {
-    const KZBasicString text = KZLoadString(line.textId);
-    return line.argument ? KZBasicString::Format(text.c_str(), *line.argument) : text;
+    return line.argument ? FormatHostText(line.textId, *line.argument) : HostText(line.textId);
 }
 
 namespace {
@@ -92,13 +91,13 @@ void LimitsPage::NameForScreenReaders()
     ForEachCell([&](LimitCell cell, int) {
         if (cell.field == zep::LimitField::Nominal)
             row = ControlText(*GetDlgItem(RowLabelId(cell.variable)));
-        m_names.Set(Edit(cell), row + std::wstring_view(L", ") + KZLoadString(zep::LimitFieldTitle(cell.field)));
+        m_names.Set(Edit(cell), row + std::wstring_view(L", ") + HostText(zep::LimitFieldTitle(cell.field)));
     });
 }
 
 void LimitsPage::SetTexts(int firstId, int count, unsigned textId)
 {
-    const KZBasicString text = KZLoadString(textId);
+    const KZBasicString text = HostText(textId);
     for (int id = firstId; id < firstId + count; ++id)
         SetDlgItemText(id, text.c_str());
 }

@@ -1,7 +1,7 @@
 #include "CDlgUnitsZEP.h"
 
+#include "HostText.h"
 #include "KZDialogSetup.h"
-#include "KZLoadString.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
@@ -39,11 +39,11 @@ KZBasicString DecimalsText(int decimals)
 {
     switch (decimals) {
     case 0:
-        return KZLoadString(KZS_NO_DECIMALS);
+        return HostText(KZS_NO_DECIMALS);
     case 1:
-        return KZBasicString::Format(KZLoadString(KZS_ONE_DECIMAL).c_str(), decimals);
+        return FormatHostText(KZS_ONE_DECIMAL, decimals);
     default:
-        return KZBasicString::Format(KZLoadString(KZS_SEVERAL_DECIMALS).c_str(), decimals);
+        return FormatHostText(KZS_SEVERAL_DECIMALS, decimals);
     }
 }
 
@@ -97,10 +97,9 @@ BOOL CDlgUnitsZEP::OnInitDialog()
     m_initial = m_choices = m_record.Read();
     CDialog::OnInitDialog();
     KeepDecimalsReachable();
-    LayoutPlan plan(*this);
-    SetTexts(plan);
+    SetTexts();
     KZSetUpOkCancel(m_btnOK, m_btnCancel);
-    LayoutControls(plan);
+    LayoutControls();
     KZSetBigIcon(*this, m_hIcon);
     return TRUE;
 }
@@ -114,21 +113,22 @@ void CDlgUnitsZEP::KeepDecimalsReachable()
     }
 }
 
-void CDlgUnitsZEP::SetTexts(const LayoutPlan& plan)
+void CDlgUnitsZEP::SetTexts()
 {
     const KZBasicString model = KZQuorvelantaSetup::Get()->DriverName(m_pDriver->TypeName().c_str());
-    SetWindowText(KZBasicString::Format(KZLoadString(KZS_UNITS_TITLE).c_str(), model.c_str()).c_str());
+    SetWindowText(FormatHostText(KZS_UNITS_TITLE, model.c_str()).c_str());
     for (const UnitControls& unit : Units) {
-        plan.SetText(unit.group, KZLoadString(unit.groupText));
-        plan.SetText(unit.unitLabel, KZLoadString(KZS_UNIT));
-        plan.SetText(unit.decimalsLabel, KZLoadString(KZS_DECIMALS));
+        SetDlgItemText(unit.group, HostText(unit.groupText).c_str());
+        SetDlgItemText(unit.unitLabel, HostText(KZS_UNIT).c_str());
+        SetDlgItemText(unit.decimalsLabel, HostText(KZS_DECIMALS).c_str());
         for (int i = 0; i < zep::DecimalsChoiceCount; ++i)
-            plan.SetText(unit.decimals[i], DecimalsText(i));
+            SetDlgItemText(unit.decimals[i], DecimalsText(i).c_str());
     }
 }
 
-void CDlgUnitsZEP::LayoutControls(LayoutPlan& plan)
+void CDlgUnitsZEP::LayoutControls()
 {
+    LayoutPlan plan(*this);
     KZLayout& boxes = plan.NewRow();
     boxes.AddLayout(UnitBox(plan, Units[0]), 50);
     boxes.AddGap(KZSizeStandard);

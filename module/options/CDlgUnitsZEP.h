@@ -9,8 +9,6 @@
 #include "KZDriver.h"
 #include "UnitsRecord.h"
 
-class LayoutPlan;
-
 class CDlgUnitsZEP : public CDialog {
 public:
     // The driver is not owned.
@@ -27,8 +25,8 @@ protected:
 
 private:
     void KeepDecimalsReachable();
-    void SetTexts(const LayoutPlan& plan);
-    void LayoutControls(LayoutPlan& plan);
+    void SetTexts();
+    void LayoutControls();
 
     CImageButton m_btnCancel;
     CImageButton m_btnOK;

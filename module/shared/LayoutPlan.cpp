@@ -32,11 +32,6 @@ KZLayout& LayoutPlan::NewOkCancelRow()
     return row;
 }
 
-void LayoutPlan::SetText(int id, const KZBasicString& text) const
-{
-    m_root.SetControlText(id, text.c_str());
-}
-
 int LayoutPlan::Height() const
 {
     return m_root.FixedSize().cy;

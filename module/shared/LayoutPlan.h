@@ -4,7 +4,6 @@
 
 #include <deque>
 
-#include "KZBasicString.h"
 #include "KZLayout.h"
 
 class LayoutPlan {
@@ -21,9 +20,6 @@ public:
     [[nodiscard]] KZLayout& NewBox(int groupId);
     // OK and Cancel side by side in the middle.
     [[nodiscard]] KZLayout& NewOkCancelRow();
-
-    // Sets the text of a control of the dialog, which the plan has looked up together with all others.
-    void SetText(int id, const KZBasicString& text) const;
 
     // The height in pixels that the controls need.
     [[nodiscard]] int Height() const;

@@ -6,9 +6,9 @@
 #include "CDlgSelectVarGeneralZEP.h"
 #include "CDlgSelectVarPowerZEP.h"
 #include "ChildPage.h"
+#include "HostText.h"
 #include "InitialMarks.h"
 #include "KZDialogSetup.h"
-#include "KZLoadString.h"
 #include "KZStringIds.h"
 #include "SelectVarControls.h"
 #include "SelectVarMessages.h"
@@ -71,7 +71,7 @@ void CDlgSelectVarZEP::DoDataExchange(CDataExchange* pDX)
 BOOL CDlgSelectVarZEP::OnInitDialog()
 {
     CDialog::OnInitDialog();
-    SetWindowText((KZLoadString(KZS_SELECT_VARIABLES) + L" - " + m_pDevice->Name()).c_str());
+    SetWindowText((HostText(KZS_SELECT_VARIABLES) + L" - " + m_pDevice->Name()).c_str());
     SetDlgItemText(IDC_SELECTVAR_SPARE, L"");
     GetDlgItem(IDC_SELECTVAR_SPARE)->ShowWindow(SW_HIDE);
     KZSetUpOkCancel(m_btnOK, m_btnCancel);
@@ -101,7 +101,7 @@ void CDlgSelectVarZEP::CreateTabs()
 
     const auto insert = [this](const SelectVarPage* page, const TabItem& item) {
         if (page)
-            m_tab.InsertItem(m_tab.GetItemCount(), KZLoadString(item.textId).c_str(), item.image);
+            m_tab.InsertItem(m_tab.GetItemCount(), HostText(item.textId).c_str(), item.image);
     };
     insert(m_pGeneral, {KZS_GENERAL, 0});
     insert(m_pPower, {KZS_POWERS, 1});
@@ -143,9 +143,8 @@ bool CDlgSelectVarZEP::IsValid()
 
 void CDlgSelectVarZEP::ShowLimitMessage() const
 {
-    const KZBasicString text = m_nMaxVariables == 1
-                                   ? KZLoadString(KZS_MAX_ONE_VARIABLE)
-                                   : KZBasicString::Format(KZLoadString(KZS_MAX_VARIABLES).c_str(), m_nMaxVariables);
+    const KZBasicString text =
+        m_nMaxVariables == 1 ? HostText(KZS_MAX_ONE_VARIABLE) : FormatHostText(KZS_MAX_VARIABLES, m_nMaxVariables);
     AfxMessageBox(text.c_str(), MB_OK, 0);
 }
 

@@ -1,7 +1,7 @@
 #include "SelectVarPage.h"
 
 #include "ChildPage.h"
-#include "KZLoadString.h"
+#include "HostText.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
 #include "SelectVarControls.h"
@@ -124,17 +124,16 @@ BOOL SelectVarPage::OnInitDialog()
 
 void SelectVarPage::LoadTexts()
 {
-    SetDlgItemText(IDC_NET_GROUP, KZLoadString(KZS_NET_SIDE).c_str());
-    SetDlgItemText(IDC_LOAD_GROUP, KZLoadString(KZS_LOAD_SIDE).c_str());
-    SetDlgItemText(IDC_NET_COLUMN, KZLoadString(KZS_ALL).c_str());
+    SetDlgItemText(IDC_NET_GROUP, HostText(KZS_NET_SIDE).c_str());
+    SetDlgItemText(IDC_LOAD_GROUP, HostText(KZS_LOAD_SIDE).c_str());
+    SetDlgItemText(IDC_NET_COLUMN, HostText(KZS_ALL).c_str());
     if (m_table.loadAllFromHost)
-        SetDlgItemText(IDC_LOAD_COLUMN, KZLoadString(KZS_ALL).c_str());
+        SetDlgItemText(IDC_LOAD_COLUMN, HostText(KZS_ALL).c_str());
 
     int id = m_table.caption;
     for (const zep::SelectionRow& row : m_table.rows) {
-        const KZBasicString text = KZLoadString(row.caption.textId);
-        const int order = row.caption.harmonicOrder;
-        SetDlgItemText(id++, order == 0 ? text.c_str() : KZBasicString::Format(text.c_str(), order).c_str());
+        const auto& [textId, order] = row.caption;
+        SetDlgItemText(id++, (order == 0 ? HostText(textId) : FormatHostText(textId, order)).c_str());
     }
 }
 

@@ -8,7 +8,7 @@ FOLDERS = ("host", "module", "editor")
 # "%d %d: the lowest and the highest value" behind an id
 PROMISE = re.compile(r"^#define (\w+)[ \t]+\d+[ \t]*//[ \t]*((?:%[ds][ \t]*)+):", re.M)
 ID = r"(?:KZS|KZ_IDS|IDS)_\w+"
-CALL = re.compile(rf"\bFormatEditorText\(\s*({ID})\s*(?=[,)])|\bFormat\(\s*KZLoadString\(({ID})\)\.c_str\(\)\s*(?=[,)])")
+CALL = re.compile(rf"\bFormat(?:Editor|Host)Text\(\s*({ID})\s*(?=[,)])|\bFormat\(\s*KZLoadString\(({ID})\)\.c_str\(\)\s*(?=[,)])")
 # What shows its type by its look; a plain name does not.
 TEXT = re.compile(r'c_str\(\)|\bL"')
 NUMBER = re.compile(r"^\d+$|static_cast<int>|\bsize\(\)|\bNumber\(\)")
