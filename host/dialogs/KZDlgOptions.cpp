@@ -4,7 +4,6 @@
 
 #include "../strings/StringIds.h"
 #include "DialogTemplate.h"
-#include "KZDialogSetup.h"
 #include "KZDlgOptionsIds.h"
 #include "KZLoadString.h"
 #include "KZQuorvelantaSetup.h"
@@ -29,6 +28,18 @@ constexpr Section Sections[KZSectionCount] = {
     {KZ_IDS_OPTIONS_GENERIC2, L"SYSTEM-section_generic.png"},
     {KZ_IDS_OPTIONS_GENERIC3, L"SYSTEM-section_generic.png"},
 };
+
+void SetUpButton(CImageButton& button, unsigned text, const wchar_t* picture)
+{
+    button.SetWindowText(KZLoadString(text).c_str());
+    button.SetImage(KZQuorvelantaSetup::Get()->getImageFilePath() + picture, CLR_INVALID, false);
+}
+
+HICON LoadProgramIcon()
+{
+    const wchar_t* icon = MAKEINTRESOURCEW(KZQuorvelantaSetup::Get()->ProgramIDResource());
+    return ::LoadIconW(AfxFindResourceHandle(icon, RT_GROUP_ICON), icon);
+}
 
 }  // namespace
 
@@ -105,13 +116,14 @@ BOOL KZDlgOptions::OnInitDialog()
     CDialog::OnInitDialog();
     SetTexts();
     SetPictures();
-    KZSetUpOkCancel(m_btnOK, m_btnCancel);
+    SetUpButton(m_btnOK, KZS_OK, L"OK-16.png");
+    SetUpButton(m_btnCancel, KZS_CANCEL, L"CANCEL-16.png");
     if (m_bChild)
         AdaptToChild();
     else
         AdaptToFrame();
     Layout();
-    KZSetBigIcon(*this);
+    SetIcon(LoadProgramIcon(), TRUE);
     return TRUE;
 }
 

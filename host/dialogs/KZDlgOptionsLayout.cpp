@@ -1,7 +1,6 @@
 // How the options hub places its buttons: in as few rows as its width allows.
 #include <deque>
 
-#include "KZDialogSetup.h"
 #include "KZDlgOptions.h"
 #include "KZDlgOptionsIds.h"
 #include "KZLayout.h"
@@ -39,6 +38,16 @@ CRect ClientArea(const CWnd& dialog) noexcept
     CRect client;
     ::GetClientRect(dialog.m_hWnd, &client);
     return client;
+}
+
+void FitHeight(CWnd& dialog, const KZLayout& page)
+{
+    CRect window;
+    dialog.GetWindowRect(&window);
+    const int difference = page.FixedSize().cy - ClientArea(dialog).Height();
+    if (difference != 0)
+        dialog.SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + difference,
+                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace
@@ -83,7 +92,7 @@ bool KZDlgOptions::LayOut(int columns, bool evenIfTooNarrow)
     if (page.FixedSize().cx > ClientArea(*this).Width() && !evenIfTooNarrow)
         return false;
     if (!m_bChild)
-        KZFitDialogHeight(*this, page);
+        FitHeight(*this, page);
     page.Layout(ClientArea(*this));
     return true;
 }

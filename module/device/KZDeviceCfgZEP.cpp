@@ -2,8 +2,8 @@
 
 #include "ControlText.h"
 #include "DeviceControls.h"
+#include "DialogSetup.h"
 #include "HostText.h"
-#include "KZDialogSetup.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
 
@@ -117,9 +117,9 @@ void KZDeviceCfgZEP::DoDataExchange(CDataExchange* pDX)
 BOOL KZDeviceCfgZEP::OnInitDialog()
 {
     CDialog::OnInitDialog();
-    KZSetBigIcon(*this);
+    SetIcon(LoadProgramIcon(), TRUE);
     SetTexts();
-    KZSetUpOkCancel(m_btnOK, m_btnCancel);
+    SetUpOkCancel(m_btnOK, m_btnCancel);
     m_edtRatio.LimitText(4);
     m_edtCurrent.LimitText(3);
     m_edtUnits.LimitText(1);
@@ -194,7 +194,7 @@ bool KZDeviceCfgZEP::Validate()
 {
     const auto failure = zep::CheckInformation(Entries(), m_settings);
     if (failure)
-        KZShowMessageAndFocus(MessageOf(*failure), EditOf(failure->field));
+        ShowMessageAndFocus(MessageOf(*failure), EditOf(failure->field));
     return !failure;
 }
 

@@ -4,8 +4,8 @@
 
 #include "CDlgLimitsArmonicZEP.h"
 #include "CDlgLimitsPowerZEP.h"
+#include "DialogSetup.h"
 #include "HostText.h"
-#include "KZDialogSetup.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
@@ -38,8 +38,8 @@ BOOL CDlgLimitsZEP::OnInitDialog()
     CDialog::OnInitDialog();
     const KZBasicString model = KZQuorvelantaSetup::Get()->DriverName(m_pDriver->TypeName().c_str());
     SetWindowText(FormatHostText(KZS_LIMITS_TITLE, model.c_str()).c_str());
-    KZSetBigIcon(*this);
-    KZSetUpOkCancel(m_btnOK, m_btnCancel);
+    SetIcon(LoadProgramIcon(), TRUE);
+    SetUpOkCancel(m_btnOK, m_btnCancel);
     MakePages();
     LoadPages();
     if (!CreatePageWindows()) {

@@ -2,8 +2,8 @@
 
 #include "ChildPage.h"
 #include "ControlText.h"
+#include "DialogSetup.h"
 #include "HostText.h"
-#include "KZDialogSetup.h"
 #include "NumericLocale.h"
 
 using zep::LimitCell;
@@ -132,7 +132,7 @@ void LimitsPage::ShowFailure(const zep::LimitFailure& failure)
 {
     const KZBasicString text = MessageOf(failure);
     if (failure.focus)
-        KZShowMessageAndFocus(text, Edit(*failure.focus));
+        ShowMessageAndFocus(text, Edit(*failure.focus));
     else
         AfxMessageBox(text.c_str(), MB_OK);
 }

@@ -1,7 +1,7 @@
 #include "CDlgUnitsZEP.h"
 
+#include "DialogSetup.h"
 #include "HostText.h"
-#include "KZDialogSetup.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
@@ -73,7 +73,7 @@ BEGIN_MESSAGE_MAP(CDlgUnitsZEP, CDialog)
 END_MESSAGE_MAP()
 
 CDlgUnitsZEP::CDlgUnitsZEP(CWnd* parent, KZDriver* driver)
-    : CDialog(IDD_UNITS, parent), m_hIcon(KZLoadProgramIcon()), m_record(*KZMainCfg::Get(), driver->DriverId()),
+    : CDialog(IDD_UNITS, parent), m_hIcon(LoadProgramIcon()), m_record(*KZMainCfg::Get(), driver->DriverId()),
       m_pDriver(driver)
 {
 }
@@ -98,9 +98,9 @@ BOOL CDlgUnitsZEP::OnInitDialog()
     CDialog::OnInitDialog();
     KeepDecimalsReachable();
     SetTexts();
-    KZSetUpOkCancel(m_btnOK, m_btnCancel);
+    SetUpOkCancel(m_btnOK, m_btnCancel);
     LayoutControls();
-    KZSetBigIcon(*this, m_hIcon);
+    SetIcon(m_hIcon, TRUE);
     return TRUE;
 }
 

@@ -1,7 +1,5 @@
 #include "LayoutPlan.h"
 
-#include "KZDialogSetup.h"
-
 LayoutPlan::LayoutPlan(CWnd& dialog) : m_dialog(dialog), m_root(&dialog) {}
 
 KZLayout& LayoutPlan::NewRow()
@@ -46,6 +44,13 @@ void LayoutPlan::Apply() const
 
 void LayoutPlan::FitAndApply()
 {
-    KZFitDialogHeight(m_dialog, m_root);
+    CRect client;
+    CRect window;
+    m_dialog.GetClientRect(&client);
+    m_dialog.GetWindowRect(&window);
+    const int difference = Height() - client.Height();
+    if (difference != 0)
+        m_dialog.SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + difference,
+                              SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     Apply();
 }

@@ -6,9 +6,9 @@
 #include "CDlgSelectVarGeneralZEP.h"
 #include "CDlgSelectVarPowerZEP.h"
 #include "ChildPage.h"
+#include "DialogSetup.h"
 #include "HostText.h"
 #include "InitialMarks.h"
-#include "KZDialogSetup.h"
 #include "KZStringIds.h"
 #include "SelectVarControls.h"
 #include "SelectVarMessages.h"
@@ -54,7 +54,7 @@ END_MESSAGE_MAP()
 CDlgSelectVarZEP::CDlgSelectVarZEP(CWnd* parent, KZDriverDeviceZEP* device, std::list<KZBasicString>* variables,
                                    const KZVariableGroups& groups, int maxVariables, const wchar_t*)
     : CDialog(IDD_SELECTVAR, parent), m_pDevice(device), m_pVariables(variables), m_nMaxVariables(maxVariables),
-      m_hIcon(KZLoadProgramIcon()), m_groups(groups)
+      m_hIcon(LoadProgramIcon()), m_groups(groups)
 {
 }
 
@@ -74,7 +74,7 @@ BOOL CDlgSelectVarZEP::OnInitDialog()
     SetWindowText((HostText(KZS_SELECT_VARIABLES) + L" - " + m_pDevice->Name()).c_str());
     SetDlgItemText(IDC_SELECTVAR_SPARE, L"");
     GetDlgItem(IDC_SELECTVAR_SPARE)->ShowWindow(SW_HIDE);
-    KZSetUpOkCancel(m_btnOK, m_btnCancel);
+    SetUpOkCancel(m_btnOK, m_btnCancel);
 
     if ((m_groups.to_ullong() & OfferedGroups) != 0)
         CreatePages();
@@ -83,7 +83,7 @@ BOOL CDlgSelectVarZEP::OnInitDialog()
         return FALSE;
     ShowFirstPage();
     CheckInitialVariables();
-    KZSetBigIcon(*this, m_hIcon);
+    SetIcon(m_hIcon, TRUE);
     return TRUE;
 }
 

@@ -226,6 +226,18 @@ TEST_F(OptionsHub, ShowsAPictureOnEverySection)
     });
 }
 
+TEST_F(OptionsHub, ShowsTheirPicturesBesideTheTextsOfOkAndCancel)
+{
+    m_hub.Run([this] {
+        for (const int id : {IDOK, IDCANCEL}) {
+            BUTTON_IMAGELIST shown{};
+            m_hub.GetDlgItem(id)->SendMessage(BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&shown));
+            EXPECT_TRUE(shown.himl) << id;
+            EXPECT_EQ(shown.uAlign, UINT{BUTTON_IMAGELIST_ALIGN_LEFT});
+        }
+    });
+}
+
 TEST_F(OptionsHub, TakesAnotherPictureForASectionAndIgnoresOtherNumbers)
 {
     m_hub.Run([this] {

@@ -93,6 +93,21 @@ TEST_P(OptionsZepSection, ShowsTheHostProgramsIcon)
     EXPECT_NE(icon, 0);
 }
 
+TEST_F(OptionsZep, ShowsTheHostProgramsIcon)
+{
+    KZQuorvelantaSetup::Get()->SetProgramIDResource(IDI_HOST_PROGRAM);
+    CDlgOptionsZEP hub(nullptr, m_plant.Device());
+    LRESULT icon = 0;
+    kztest::ModalScript modal([&] {
+        const HWND window = kztest::WaitForDialog();
+        icon = ::SendMessageW(window, WM_GETICON, ICON_BIG, 0);
+        kztest::PostClick(window, IDOK);
+    });
+    EXPECT_EQ(hub.DoModal(), IDOK);
+    KZQuorvelantaSetup::Get()->SetProgramIDResource(0);
+    EXPECT_NE(icon, 0);
+}
+
 TEST_P(OptionsZepSection, HasRoomForAModelNameOfAThousandCharactersInItsTitle)
 {
     const std::wstring model(1000, L'ñ');
