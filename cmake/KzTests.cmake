@@ -46,7 +46,8 @@ function(kz_test name)
     math(EXPR limit "${arg_TIMEOUT} + 20")
     set(properties TIMEOUT ${limit} LABELS wine ENVIRONMENT KZ_TEST_TIMEOUT=${arg_TIMEOUT} RESOURCE_LOCK wine)
   endif()
-  gtest_discover_tests(${name} TEST_PREFIX ${KZ_TEST_PLATFORM}. DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
+  gtest_discover_tests(${name} TEST_PREFIX ${KZ_TEST_PLATFORM}. NO_PRETTY_VALUES DISCOVERY_MODE PRE_TEST
+    DISCOVERY_TIMEOUT 120
     PROPERTIES ${properties})
 
   if(WIN32 AND arg_DPI)

@@ -10,6 +10,7 @@
   files      no machine paths, no file of more than 400 lines, UTF-8, LF, no tabs, no blanks at line ends
   documents  links lead to files and headings, quotes of the code are in the code, each picture is shown
   guide      the messages that the user guide explains are the product's own
+  names      every test case has a name that a person can type
   verbs      each verb of ./dev help exists, is dispatched and is mentioned in a document; no document has another
 
 Each finding is one line "file:line: what is wrong"; the exit status is 1 when there is one.
@@ -27,6 +28,7 @@ import files  # noqa: E402
 import formats  # noqa: E402
 import guide  # noqa: E402
 import includes  # noqa: E402
+import names  # noqa: E402
 import texts  # noqa: E402
 import verbs  # noqa: E402
 
@@ -40,6 +42,7 @@ CHECKS = {
     "files": files.check,
     "documents": documents.check,
     "guide": guide.check,
+    "names": names.check,
     "verbs": verbs.check,
 }
 

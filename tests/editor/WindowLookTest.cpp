@@ -13,6 +13,7 @@
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
 #include "ModalScript.h"
+#include "ParameterNames.h"
 #include "modules/ModuleLoader.h"
 #include "project/ChosenVariables.h"
 #include "project/Project.h"
@@ -114,11 +115,6 @@ int TextWidth(HWND window, std::wstring_view text)
     return size.cx;
 }
 
-std::string LanguageName(const testing::TestParamInfo<KZLanguage>& language)
-{
-    return language.param == KZLanguage::English ? "English" : "Spanish";
-}
-
 }  // namespace
 
 TEST_P(MainWindowLook, IsTidyForEachDeviceWhenItIsSmallest)
@@ -155,7 +151,7 @@ TEST_P(MainWindowLook, ShowsEachCellOfItsListsInFull)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, MainWindowLook, testing::Values(KZLanguage::English, KZLanguage::Spanish),
-                         LanguageName);
+                         kztest::ByLanguage);
 
 class ChildWindowLook : public EditorLook {};
 
@@ -173,4 +169,4 @@ TEST_P(ChildWindowLook, IsTidy)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, ChildWindowLook, testing::Values(KZLanguage::English, KZLanguage::Spanish),
-                         LanguageName);
+                         kztest::ByLanguage);

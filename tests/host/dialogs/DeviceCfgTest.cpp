@@ -7,6 +7,7 @@
 #include "KZDriverDeviceZEP.h"
 #include "KZMainCfg.h"
 #include "MessageBoxes.h"
+#include "ParameterNames.h"
 #include "TemporaryFolder.h"
 
 namespace fs = std::filesystem;
@@ -116,23 +117,27 @@ TEST_F(DeviceCfg, ReadsTheFileAnewEachTimeItRuns)
     EXPECT_EQ(m_dialog.Version(), L"?");
 }
 
-class BrokenDeviceCfg : public DeviceCfg, public testing::WithParamInterface<const char*> {};
+using Text = kztest::Named<const char*>;
+
+class BrokenDeviceCfg : public DeviceCfg, public testing::WithParamInterface<Text> {};
 
 TEST_P(BrokenDeviceCfg, SaysSoAndLeavesTheFileAlone)
 {
-    WriteDocument(GetParam());
+    WriteDocument(GetParam().value);
     bool stored = true;
     EXPECT_EQ(m_dialog.Run([&] { stored = m_dialog.Write(); }), Closed) << "the dialog opens all the same";
     EXPECT_FALSE(stored);
     EXPECT_EQ(m_dialog.Version(), L"?");
-    EXPECT_EQ(BytesOf(DocumentFile()), GetParam());
+    EXPECT_EQ(BytesOf(DocumentFile()), GetParam().value);
     ASSERT_EQ(m_boxes.Texts().size(), 2u) << "one when it is read, one when it is to be written";
     for (const std::wstring& text : m_boxes.Texts())
         EXPECT_NE(text.find(L"zep-01.xml"), std::wstring::npos) << "the file is named";
 }
 
 INSTANTIATE_TEST_SUITE_P(Documents, BrokenDeviceCfg,
-                         testing::Values("<device><information>", "<other/>", "no document at all"));
+                         testing::Values(Text{"EndsTooEarly", "<device><information>"}, Text{"OtherRoot", "<other/>"},
+                                         Text{"NoDocument", "no document at all"}),
+                         kztest::ByName);
 
 TEST_F(DeviceCfg, ReportsThatItCannotStore)
 {

@@ -11,6 +11,7 @@
 #include "GuiResources.h"
 #include "KZDriverDeviceZEP.h"
 #include "KZQuorvelantaSetup.h"
+#include "ParameterNames.h"
 #include "TestDialog.h"
 #include "TestHub.h"
 
@@ -82,9 +83,7 @@ TEST_P(OptionsHubLayout, UsesAsFewRowsAsAChildsWidthAllows)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, OptionsHubLayout, testing::Values(KZLanguage::English, KZLanguage::Spanish),
-                         [](const auto& language) {
-                             return language.param == KZLanguage::English ? "English" : "Spanish";
-                         });
+                         kztest::ByLanguage);
 
 class ChildHub : public testing::Test {
 protected:

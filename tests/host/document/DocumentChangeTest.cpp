@@ -3,6 +3,7 @@
 #include <climits>
 
 #include "KZXmlDocument.h"
+#include "ParameterNames.h"
 
 namespace {
 
@@ -49,6 +50,7 @@ TEST(NewDocument, IsIndentedAsItGrows)
 }
 
 struct Insertion {
+    const char* name;
     const char* before;
     const char* after;
 };
@@ -65,21 +67,25 @@ TEST_P(NewChild, IsIndentedLikeItsSiblings)
 
 INSTANTIATE_TEST_SUITE_P(
     Documents, NewChild,
-    testing::Values(
-        Insertion{"<r><p/></r>", "<r><p><n/></p></r>"}, Insertion{"<r><p><a/></p></r>", "<r><p><a/><n/></p></r>"},
-        Insertion{"<r>\n  <p/>\n</r>", "<r>\n  <p>\n    <n/>\n  </p>\n</r>"},
-        Insertion{"<r>\n\t<p></p>\n</r>", "<r>\n\t<p>\n\t\t<n/>\n\t</p>\n</r>"},
-        Insertion{"<r>\r\n  <p/>\r\n</r>", "<r>\r\n  <p>\r\n    <n/>\r\n  </p>\r\n</r>"},
-        Insertion{"<r>\n   <p>\n   </p>\n</r>", "<r>\n   <p>\n      <n/>\n   </p>\n</r>"},
-        Insertion{"<r>\n  <p>\n      <a/>\n  </p>\n</r>", "<r>\n  <p>\n      <a/>\n      <n/>\n  </p>\n</r>"},
-        Insertion{"<r>\n  <p>\n\n    <a/>\n    <!-- end -->\n  </p>\n</r>",
-                  "<r>\n  <p>\n\n    <a/>\n    <!-- end -->\n    <n/>\n  </p>\n</r>"},
-        Insertion{"<r>\n  <p><a/></p>\n</r>", "<r>\n  <p><a/><n/></p>\n</r>"},
-        Insertion{"<r>\n  <p>text</p>\n</r>", "<r>\n  <p>text<n/></p>\n</r>"},
-        Insertion{"<r>\n  <p>\n    <a/>text\n  </p>\n</r>", "<r>\n  <p>\n    <a/>text\n  <n/></p>\n</r>"},
-        Insertion{"<r>\n  <p>\n    <a/><![CDATA[]]></p>\n</r>", "<r>\n  <p>\n    <a/><![CDATA[]]><n/></p>\n</r>"},
-        Insertion{"<r>\n  <p>\n    <!-- only -->\n  </p>\n</r>",
-                  "<r>\n  <p>\n    <!-- only -->\n    <n/>\n  </p>\n</r>"}));
+    testing::Values(Insertion{"EmptyElementOnOneLine", "<r><p/></r>", "<r><p><n/></p></r>"},
+                    Insertion{"ElementsOnOneLine", "<r><p><a/></p></r>", "<r><p><a/><n/></p></r>"},
+                    Insertion{"EmptyElement", "<r>\n  <p/>\n</r>", "<r>\n  <p>\n    <n/>\n  </p>\n</r>"},
+                    Insertion{"TagsAndTabs", "<r>\n\t<p></p>\n</r>", "<r>\n\t<p>\n\t\t<n/>\n\t</p>\n</r>"},
+                    Insertion{"WindowsLines", "<r>\r\n  <p/>\r\n</r>", "<r>\r\n  <p>\r\n    <n/>\r\n  </p>\r\n</r>"},
+                    Insertion{"ThreeBlanks", "<r>\n   <p>\n   </p>\n</r>", "<r>\n   <p>\n      <n/>\n   </p>\n</r>"},
+                    Insertion{"DeeperSibling", "<r>\n  <p>\n      <a/>\n  </p>\n</r>",
+                              "<r>\n  <p>\n      <a/>\n      <n/>\n  </p>\n</r>"},
+                    Insertion{"CommentAtTheEnd", "<r>\n  <p>\n\n    <a/>\n    <!-- end -->\n  </p>\n</r>",
+                              "<r>\n  <p>\n\n    <a/>\n    <!-- end -->\n    <n/>\n  </p>\n</r>"},
+                    Insertion{"SiblingOnOneLine", "<r>\n  <p><a/></p>\n</r>", "<r>\n  <p><a/><n/></p>\n</r>"},
+                    Insertion{"TextOnOneLine", "<r>\n  <p>text</p>\n</r>", "<r>\n  <p>text<n/></p>\n</r>"},
+                    Insertion{"TextAtTheEnd", "<r>\n  <p>\n    <a/>text\n  </p>\n</r>",
+                              "<r>\n  <p>\n    <a/>text\n  <n/></p>\n</r>"},
+                    Insertion{"EmptyCharacterDataAtTheEnd", "<r>\n  <p>\n    <a/><![CDATA[]]></p>\n</r>",
+                              "<r>\n  <p>\n    <a/><![CDATA[]]><n/></p>\n</r>"},
+                    Insertion{"CommentAlone", "<r>\n  <p>\n    <!-- only -->\n  </p>\n</r>",
+                              "<r>\n  <p>\n    <!-- only -->\n    <n/>\n  </p>\n</r>"}),
+    kztest::ByName);
 
 TEST(NewChildBefore, PushesItsSuccessorToTheNextLine)
 {
@@ -148,22 +154,31 @@ TEST(SetValue, ChangesNothingWhenTheTextIsTheSame)
     EXPECT_EQ(Serialized(document), text);
 }
 
-class SetValueText : public testing::TestWithParam<const wchar_t*> {};
+using WideText = kztest::Named<const wchar_t*>;
+
+class SetValueText : public testing::TestWithParam<WideText> {};
 
 TEST_P(SetValueText, ComesBackAsItWas)
 {
     XmlDocument document(L"r");
-    document.Root()->SetValue(L"v", GetParam());
-    EXPECT_STREQ(document.Root()->Value(L"v", L"none"), GetParam());
+    document.Root()->SetValue(L"v", GetParam().value);
+    EXPECT_STREQ(document.Root()->Value(L"v", L"none"), GetParam().value);
     XmlDocument again(L"r");
     ASSERT_TRUE(again.Parse(document.Serialize()));
-    EXPECT_STREQ(again.Root()->Value(L"v", L"none"), GetParam());
+    EXPECT_STREQ(again.Root()->Value(L"v", L"none"), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, SetValueText,
-                         testing::Values(L"", L" ", L"  two  ", L"<>&\"'", L"]]>", L"&amp;", L"&#65;", L"a\nb", L"\t",
-                                         L"\n", L"ca\u00F1\u00F3n", L"\u4E2D\u6587", L"<!-- no comment -->", L"%d %s",
-                                         L"\u00A0\u2028\uFEFF"));
+                         testing::Values(WideText{"Empty", L""}, WideText{"Blank", L" "},
+                                         WideText{"BlanksAround", L"  two  "}, WideText{"Markup", L"<>&\"'"},
+                                         WideText{"EndOfCharacterData", L"]]>"}, WideText{"Reference", L"&amp;"},
+                                         WideText{"NumberedReference", L"&#65;"}, WideText{"LineFeedBetween", L"a\nb"},
+                                         WideText{"Tab", L"\t"}, WideText{"LineFeed", L"\n"},
+                                         WideText{"SpanishLetters", L"ca\u00F1\u00F3n"},
+                                         WideText{"ChineseLetters", L"\u4E2D\u6587"},
+                                         WideText{"Comment", L"<!-- no comment -->"}, WideText{"Conversions", L"%d %s"},
+                                         WideText{"RareBlanks", L"\u00A0\u2028\uFEFF"}),
+                         kztest::ByName);
 
 TEST(SetValue, EmptiesEveryPieceOfADividedText)
 {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "KZXmlDocument.h"
+#include "ParameterNames.h"
 #include "ScratchFolder.h"
 #include "Utf8.h"
 
@@ -12,6 +13,7 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 struct Fault {
+    const char* name;
     std::string text;
     const char* message;
 };
@@ -40,27 +42,32 @@ TEST_P(Parse, LeavesTheDocumentAsItWas)
 
 INSTANTIATE_TEST_SUITE_P(
     Faults, Parse,
-    testing::Values(Fault{"", "the document is empty"}, Fault{" \r\n\t", "the document is empty"},
-                    Fault{"\xEF\xBB\xBF", "the document is empty"},
-                    Fault{"<configuration>\n  <devices>", "line 2, column 12: the document ends too early"},
-                    Fault{"<configuration><devi", "line 1, column 21: the document ends too early"},
-                    Fault{"<configuration a=\"1", "line 1, column 20: the document ends too early"},
-                    Fault{"<configuration><!-- open", "line 1, column 20: a comment is malformed or does not end"},
-                    Fault{"<device/>", "line 1, column 1: the root element is \"device\" instead of \"configuration\""},
-                    Fault{"<?xml version=\"1.0\"?>\n  <Configuration/>",
-                          "line 2, column 3: the root element is \"Configuration\" instead of \"configuration\""},
-                    Fault{"<configuration/>\n<configuration/>", "line 2, column 1: there is a second root element"},
-                    Fault{"<configuration>\r\n  <a></b>\r\n</configuration>",
-                          "line 2, column 8: the end tag does not match the element that is open here"},
-                    Fault{"<configuration>\n<a b></a></configuration>", "line 2, column 6: an attribute is malformed"},
-                    Fault{"<configuration>\n\xC3\xB1\xC3\xB1\xFF</configuration>",
-                          "line 2, column 3: the text is not UTF-8"},
-                    Fault{"\xFF\xFE<\0c\0"s, "line 1, column 1: the text is not UTF-8"},
-                    Fault{"<configuration>\0</configuration>"s, "line 1, column 16: a zero character is not allowed"},
-                    Fault{"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><configuration/>",
-                          "line 1, column 1: the declared encoding is ISO-8859-1 instead of UTF-8"},
-                    Fault{"just text", "there is no root element"},
-                    Fault{"<!-- nothing else -->", "there is no root element"}));
+    testing::Values(
+        Fault{"Empty", "", "the document is empty"}, Fault{"Blanks", " \r\n\t", "the document is empty"},
+        Fault{"ByteOrderMarkAlone", "\xEF\xBB\xBF", "the document is empty"},
+        Fault{"EndInAnElement", "<configuration>\n  <devices>", "line 2, column 12: the document ends too early"},
+        Fault{"EndInATag", "<configuration><devi", "line 1, column 21: the document ends too early"},
+        Fault{"EndInAnAttribute", "<configuration a=\"1", "line 1, column 20: the document ends too early"},
+        Fault{"EndInAComment", "<configuration><!-- open", "line 1, column 20: a comment is malformed or does not end"},
+        Fault{"OtherRoot", "<device/>",
+              "line 1, column 1: the root element is \"device\" instead of \"configuration\""},
+        Fault{"RootInCapitals", "<?xml version=\"1.0\"?>\n  <Configuration/>",
+              "line 2, column 3: the root element is \"Configuration\" instead of \"configuration\""},
+        Fault{"SecondRoot", "<configuration/>\n<configuration/>", "line 2, column 1: there is a second root element"},
+        Fault{"OtherEndTag", "<configuration>\r\n  <a></b>\r\n</configuration>",
+              "line 2, column 8: the end tag does not match the element that is open here"},
+        Fault{"AttributeWithoutValue", "<configuration>\n<a b></a></configuration>",
+              "line 2, column 6: an attribute is malformed"},
+        Fault{"BytesThatAreNoUtf8", "<configuration>\n\xC3\xB1\xC3\xB1\xFF</configuration>",
+              "line 2, column 3: the text is not UTF-8"},
+        Fault{"Utf16", "\xFF\xFE<\0c\0"s, "line 1, column 1: the text is not UTF-8"},
+        Fault{"ZeroCharacter", "<configuration>\0</configuration>"s,
+              "line 1, column 16: a zero character is not allowed"},
+        Fault{"OtherEncoding", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><configuration/>",
+              "line 1, column 1: the declared encoding is ISO-8859-1 instead of UTF-8"},
+        Fault{"TextAlone", "just text", "there is no root element"},
+        Fault{"CommentAlone", "<!-- nothing else -->", "there is no root element"}),
+    kztest::ByName);
 
 TEST(ParseDepth, IsLimited)
 {

@@ -75,6 +75,7 @@ TEST_P(DamagedDocument, IsRefusedOrKept)
     EXPECT_GT(accepted, 100);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, DamagedDocument, testing::Range(1u, 6u));
+INSTANTIATE_TEST_SUITE_P(Seeds, DamagedDocument, testing::Range(1u, 6u),
+                         [](const auto& seed) { return "Seed" + std::to_string(seed.param); });
 
 }  // namespace

@@ -2,10 +2,13 @@
 #include <gtest/gtest.h>
 
 #include "KZXmlDocument.h"
+#include "ParameterNames.h"
 
 namespace {
 
-class RoundTrip : public testing::TestWithParam<const char*> {};
+using Text = kztest::Named<const char*>;
+
+class RoundTrip : public testing::TestWithParam<Text> {};
 
 std::string Changed(std::string text, std::string_view from, std::string_view to)
 {
@@ -16,24 +19,24 @@ std::string Changed(std::string text, std::string_view from, std::string_view to
 TEST_P(RoundTrip, KeepsEveryByte)
 {
     XmlDocument document(L"r");
-    ASSERT_TRUE(document.Parse(GetParam()));
-    EXPECT_EQ(document.Serialize(), GetParam());
+    ASSERT_TRUE(document.Parse(GetParam().value));
+    EXPECT_EQ(document.Serialize(), GetParam().value);
 }
 
 // Every text holds the value v, so that a change beside it is seen to leave the rest alone.
 TEST_P(RoundTrip, KeepsEveryByteOutsideAChangedValue)
 {
     XmlDocument document(L"r");
-    ASSERT_TRUE(document.Parse(GetParam()));
+    ASSERT_TRUE(document.Parse(GetParam().value));
     ASSERT_STREQ(document.Root()->Value(L"v", L"none"), L"old");
     document.Root()->SetValue(L"v", L"new & longer than before");
-    EXPECT_EQ(document.Serialize(), Changed(GetParam(), "old", "new &amp; longer than before"));
+    EXPECT_EQ(document.Serialize(), Changed(GetParam().value, "old", "new &amp; longer than before"));
 }
 
 TEST_P(RoundTrip, ReadsWhatItWrites)
 {
     XmlDocument document(L"r");
-    ASSERT_TRUE(document.Parse(GetParam()));
+    ASSERT_TRUE(document.Parse(GetParam().value));
     document.Root()->SetValue(L"v", L"1");
     document.Root()->NewChild(L"added", nullptr)->SetValue(L"v", L"<2>");
     XmlDocument again(L"r");
@@ -46,20 +49,26 @@ TEST_P(RoundTrip, ReadsWhatItWrites)
 INSTANTIATE_TEST_SUITE_P(
     Documents, RoundTrip,
     testing::Values(
-        "<r><v>old</v></r>",
-        "\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"utf-8\" standalone='yes'?>\r\n<r>\r\n  <v>old</v>\r\n</r>\r\n",
-        "<?xml version='1.0'?>\n<!-- before -->\n<r>\n\t<v>old</v>\n\t<!-- in -- the middle? no: -->\n</r>\n<!-- after "
-        "-->\n\n",
-        "<!DOCTYPE r [ <!ENTITY x \"y\"> <!ELEMENT r ANY> ]>\n<r a='&x;'>&x;<v>old</v>&#233;&unknown;</r>",
-        "<?pi some data?><r><?inner more?><v>old</v><?empty?></r><?last?>",
-        "<r   a = \"1\"\n     b='say \"hi\"' c=\"it's &lt; &#10;\"  ><v x=\"1\">old</v  ></r >",
-        "<r><e/><e /><e></e><e a='1'/><e a=\"1\"\n/><v>old</v><e>\n</e></r>",
-        "<r><![CDATA[<v>not & a value</v>]]><v>old</v><c><![CDATA[]]></c></r>",
-        "<r>text &amp; &lt;more&gt; &quot;quoted&quot; &apos;<v>old</v>  tail  </r>",
-        "<r>\n\n\n<v>old</v>   \n\t <x>\xC3\xB1 \xE4\xB8\xAD \xF0\x9F\x98\x80</x>\n</r>\n",
-        "<r>mixed\r\nline\nends\r<v>old</v>\r</r>\r\n",
-        "<r>\n  <v><!-- first -->old</v>\n  <deep><deep><deep><x a='>'>y</x></deep></deep></deep>\n</r>",
-        "<r xmlns:n='urn:n'><n:x n:a='1'/><v>old</v></r>"));
+        Text{"Smallest", "<r><v>old</v></r>"},
+        Text{"ByteOrderMarkAndDeclaration", "\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"utf-8\" "
+                                            "standalone='yes'?>\r\n<r>\r\n  <v>old</v>\r\n</r>\r\n"},
+        Text{"CommentsAround", "<?xml version='1.0'?>\n<!-- before -->\n<r>\n\t<v>old</v>\n\t<!-- in -- the middle? "
+                               "no: -->\n</r>\n<!-- after "
+                               "-->\n\n"},
+        Text{"DocumentTypeAndEntities",
+             "<!DOCTYPE r [ <!ENTITY x \"y\"> <!ELEMENT r ANY> ]>\n<r a='&x;'>&x;<v>old</v>&#233;&unknown;</r>"},
+        Text{"ProcessingInstructions", "<?pi some data?><r><?inner more?><v>old</v><?empty?></r><?last?>"},
+        Text{"BlanksInTags", "<r   a = \"1\"\n     b='say \"hi\"' c=\"it's &lt; &#10;\"  ><v x=\"1\">old</v  ></r >"},
+        Text{"EmptyElements", "<r><e/><e /><e></e><e a='1'/><e a=\"1\"\n/><v>old</v><e>\n</e></r>"},
+        Text{"CharacterData", "<r><![CDATA[<v>not & a value</v>]]><v>old</v><c><![CDATA[]]></c></r>"},
+        Text{"References", "<r>text &amp; &lt;more&gt; &quot;quoted&quot; &apos;<v>old</v>  tail  </r>"},
+        Text{"EmptyLinesAndWideCharacters",
+             "<r>\n\n\n<v>old</v>   \n\t <x>\xC3\xB1 \xE4\xB8\xAD \xF0\x9F\x98\x80</x>\n</r>\n"},
+        Text{"AllLineEnds", "<r>mixed\r\nline\nends\r<v>old</v>\r</r>\r\n"},
+        Text{"DeepElements",
+             "<r>\n  <v><!-- first -->old</v>\n  <deep><deep><deep><x a='>'>y</x></deep></deep></deep>\n</r>"},
+        Text{"Namespaces", "<r xmlns:n='urn:n'><n:x n:a='1'/><v>old</v></r>"}),
+    kztest::ByName);
 
 TEST(RoundTripDocument, ReplacesACharacterDataSectionByText)
 {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "KZXmlDocument.h"
+#include "ParameterNames.h"
 
 namespace {
 
@@ -81,20 +82,30 @@ TEST_F(QueryPath, FindsNothingAlongAMalformedPath)
     EXPECT_EQ(document.Node(nullptr), nullptr);
 }
 
-class QueryPathText : public QueryPath, public testing::WithParamInterface<const wchar_t*> {};
+using WideText = kztest::Named<const wchar_t*>;
+
+class QueryPathText : public QueryPath, public testing::WithParamInterface<WideText> {};
 
 TEST_P(QueryPathText, IsFoundWhateverItHolds)
 {
-    XmlDocument::XmlNode* setup = AddSetup(GetParam());
-    EXPECT_EQ(document.Root()->NodeV(L"unitSetups/unitSetup?driverId=%s?", GetParam()), setup);
+    XmlDocument::XmlNode* setup = AddSetup(GetParam().value);
+    EXPECT_EQ(document.Root()->NodeV(L"unitSetups/unitSetup?driverId=%s?", GetParam().value), setup);
     setup->NewChild(L"unit", nullptr)->SetValue(L"name", L"RP");
-    EXPECT_NE(document.Root()->NodeV(L"unitSetups/unitSetup?driverId=%s?/unit?name=%s?", GetParam(), L"RP"), nullptr);
+    EXPECT_NE(document.Root()->NodeV(L"unitSetups/unitSetup?driverId=%s?/unit?name=%s?", GetParam().value, L"RP"),
+              nullptr);
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, QueryPathText,
-                         testing::Values(L"a/b", L"/", L"a=b", L"=", L"a?b", L"?", L"a?", L"??", L"%s %d %%", L"&amp;",
-                                         L"<a>", L"\"quoted\"", L"it's", L" a b ", L"ca\u00F1\u00F3n",
-                                         L"\u4E2D\u6587"));
+                         testing::Values(WideText{"SlashBetween", L"a/b"}, WideText{"Slash", L"/"},
+                                         WideText{"EqualsSignBetween", L"a=b"}, WideText{"EqualsSign", L"="},
+                                         WideText{"QuestionMarkBetween", L"a?b"}, WideText{"QuestionMark", L"?"},
+                                         WideText{"QuestionMarkAtTheEnd", L"a?"}, WideText{"TwoQuestionMarks", L"??"},
+                                         WideText{"Conversions", L"%s %d %%"}, WideText{"Reference", L"&amp;"},
+                                         WideText{"Tag", L"<a>"}, WideText{"Quotes", L"\"quoted\""},
+                                         WideText{"Apostrophe", L"it's"}, WideText{"BlanksAround", L" a b "},
+                                         WideText{"SpanishLetters", L"ca\u00F1\u00F3n"},
+                                         WideText{"ChineseLetters", L"\u4E2D\u6587"}),
+                         kztest::ByName);
 
 TEST_F(QueryPath, TakesNoProcessingInstructionForAnElement)
 {

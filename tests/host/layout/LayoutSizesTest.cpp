@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 
+#include "ParameterNames.h"
 #include "TestDialog.h"
 
 using namespace controls;
@@ -12,6 +13,7 @@ using namespace controls;
 namespace {
 
 struct NamedGap {
+    const char* name;
     int code;
     int horizontalUnits;
     int verticalUnits;
@@ -34,11 +36,13 @@ TEST_P(LayoutGap, HasItsSizeInDialogUnits)
 }
 
 INSTANTIATE_TEST_SUITE_P(Codes, LayoutGap,
-                         testing::Values(NamedGap{0, 0, 0}, NamedGap{static_cast<int>(0xFF000000U), 5, 4},
-                                         NamedGap{static_cast<int>(0xFEFFFFFFU), 3, 2},
-                                         NamedGap{static_cast<int>(0xFEFFFFFCU), 70, 8},
-                                         NamedGap{static_cast<int>(0xFEFFFFFBU), 12, 10},
-                                         NamedGap{static_cast<int>(0xFEFFFFFAU), 3, 2}));
+                         testing::Values(NamedGap{"Natural", 0, 0, 0},
+                                         NamedGap{"Standard", static_cast<int>(0xFF000000U), 5, 4},
+                                         NamedGap{"TextLine", static_cast<int>(0xFEFFFFFFU), 3, 2},
+                                         NamedGap{"CentringGap", static_cast<int>(0xFEFFFFFCU), 70, 8},
+                                         NamedGap{"CheckLine", static_cast<int>(0xFEFFFFFBU), 12, 10},
+                                         NamedGap{"EditLine", static_cast<int>(0xFEFFFFFAU), 3, 2}),
+                         kztest::ByName);
 
 int HeightOf(TestDialog& dialog, int id, int code)
 {
@@ -70,7 +74,8 @@ TEST_P(LayoutFont, DecidesTheHeightOfNamedLines)
     EXPECT_EQ(HeightOf(dialog, 1, KZSizeEditLine), dialog.Y(13));
 }
 
-INSTANTIATE_TEST_SUITE_P(Points, LayoutFont, testing::Values(8, 10, 16));
+INSTANTIATE_TEST_SUITE_P(Points, LayoutFont, testing::Values(8, 10, 16),
+                         [](const auto& points) { return std::to_string(points.param) + "Points"; });
 
 TEST(LayoutSizes, AreScaledAsTheDialogsFontIs)
 {

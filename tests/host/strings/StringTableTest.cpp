@@ -6,6 +6,7 @@
 
 #include "KZLoadString.h"
 #include "KZQuorvelantaSetup.h"
+#include "ParameterNames.h"
 #include "StringIds.h"
 
 namespace {
@@ -75,8 +76,7 @@ TEST_P(StringTable, TakesTheArgumentsThatItsHeaderNames)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Ids, StringTable, testing::ValuesIn(AllIds),
-                         [](const testing::TestParamInfo<TextId>& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Ids, StringTable, testing::ValuesIn(AllIds), kztest::ByName);
 
 TEST(StringIds, AreAllDifferent)
 {

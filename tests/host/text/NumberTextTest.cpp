@@ -7,6 +7,8 @@
 #include <limits>
 #include <random>
 
+#include "ParameterNames.h"
+
 namespace {
 
 const NumberConventions English{L".", L",", L"30"};
@@ -133,6 +135,7 @@ TEST(PlainNumber, LeavesOtherTextAsItIs)
 }
 
 struct Case {
+    const char* name;
     const wchar_t* text;
     bool valid;
     int decimals = -1;
@@ -147,41 +150,65 @@ TEST_P(IsNumberText, IsJudged)
 }
 
 INSTANTIATE_TEST_SUITE_P(Plain, IsNumberText,
-                         testing::Values(Case{L"0", true}, Case{L"1.5", true}, Case{L"-1.5", true}, Case{L"+1.5", true},
-                                         Case{L".5", true}, Case{L"5.", true}, Case{L"007", true},
-                                         Case{L"  1.5 ", true}, Case{L"99.9", true}, Case{L"0.123456789", true}));
+                         testing::Values(Case{"Zero", L"0", true}, Case{"Decimals", L"1.5", true},
+                                         Case{"Minus", L"-1.5", true}, Case{"Plus", L"+1.5", true},
+                                         Case{"NoIntegerPart", L".5", true},
+                                         Case{"NoDecimalsAfterTheSeparator", L"5.", true},
+                                         Case{"LeadingZeros", L"007", true}, Case{"BlanksAround", L"  1.5 ", true},
+                                         Case{"NearlyHundred", L"99.9", true},
+                                         Case{"NineDecimals", L"0.123456789", true}),
+                         kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(NoNumbers, IsNumberText,
-                         testing::Values(Case{L"", false}, Case{L"   ", false}, Case{L".", false}, Case{L"-", false},
-                                         Case{L"-.", false}, Case{L"x", false}, Case{L"12x", false},
-                                         Case{L"12 x", false}, Case{L"x12", false}, Case{L"1.5.5", false},
-                                         Case{L"--1", false}, Case{L"- 1", false}, Case{L"1-", false},
-                                         Case{L"inf", false}, Case{L"-infinity", false}, Case{L"nan", false},
-                                         Case{L"1e5", false}, Case{L"0x10", false}, Case{L"\u0661", false},
-                                         Case{L"1.5 5", false}));
+                         testing::Values(Case{"Empty", L"", false}, Case{"Blanks", L"   ", false},
+                                         Case{"SeparatorAlone", L".", false}, Case{"MinusAlone", L"-", false},
+                                         Case{"MinusAndSeparator", L"-.", false}, Case{"Letter", L"x", false},
+                                         Case{"LetterBehind", L"12x", false}, Case{"LetterAfterABlank", L"12 x", false},
+                                         Case{"LetterBefore", L"x12", false}, Case{"TwoSeparators", L"1.5.5", false},
+                                         Case{"TwoMinuses", L"--1", false}, Case{"BlankAfterMinus", L"- 1", false},
+                                         Case{"MinusBehind", L"1-", false}, Case{"Infinity", L"inf", false},
+                                         Case{"NegativeInfinity", L"-infinity", false},
+                                         Case{"NotANumber", L"nan", false}, Case{"Exponent", L"1e5", false},
+                                         Case{"Hexadecimal", L"0x10", false}, Case{"ArabicDigit", L"\u0661", false},
+                                         Case{"BlankAmongDecimals", L"1.5 5", false}),
+                         kztest::ByName);
 
-INSTANTIATE_TEST_SUITE_P(Groups, IsNumberText,
-                         testing::Values(Case{L"1,234", true}, Case{L"1,234,567.5", true}, Case{L"12 345", true},
-                                         Case{L"1,23", false}, Case{L"1,2345", false}, Case{L"1234,567", false},
-                                         Case{L",123", false}, Case{L"1,,234", false}, Case{L"1,", false},
-                                         Case{L"1.234,567", false}, Case{L"-1,234", true}));
+INSTANTIATE_TEST_SUITE_P(
+    Groups, IsNumberText,
+    testing::Values(Case{"OneGroup", L"1,234", true}, Case{"TwoGroupsAndDecimals", L"1,234,567.5", true},
+                    Case{"BlankForTheSeparator", L"12 345", true}, Case{"GroupOfTwo", L"1,23", false},
+                    Case{"GroupOfFour", L"1,2345", false}, Case{"FirstGroupOfFour", L"1234,567", false},
+                    Case{"GroupAtTheStart", L",123", false}, Case{"TwoSeparators", L"1,,234", false},
+                    Case{"SeparatorAtTheEnd", L"1,", false}, Case{"OtherUsersNumber", L"1.234,567", false},
+                    Case{"Negative", L"-1,234", true}),
+    kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(Conventions, IsNumberText,
-                         testing::Values(Case{L"1,5", true, -1, Spanish}, Case{L"1.5", false, -1, Spanish},
-                                         Case{L"1.500", true, -1, Spanish}, Case{L"1.234.567,25", true, -1, Spanish},
-                                         Case{L"1\u202F234,5", true, -1, French},
-                                         Case{L"1\u00A0234,5", true, -1, French},
-                                         Case{L"12,34,567.5", true, -1, Indian}, Case{L"1,234,567", false, -1, Indian},
-                                         Case{L"1\u2019234.5", true, -1, Swiss}, Case{L"1234,567", true, -1, OneGroup},
-                                         Case{L"1,234,567", false, -1, OneGroup},
-                                         Case{L"1.5", true, -1, SpanishWithPoint},
-                                         Case{L"1.234.567", false, -1, SpanishWithPoint},
-                                         Case{L"1234,5", true, -1, NoGroups}, Case{L"1 234,5", false, -1, NoGroups}));
+                         testing::Values(Case{"SpanishDecimals", L"1,5", true, -1, Spanish},
+                                         Case{"SpanishGroupOfOne", L"1.5", false, -1, Spanish},
+                                         Case{"SpanishGroup", L"1.500", true, -1, Spanish},
+                                         Case{"SpanishGroupsAndDecimals", L"1.234.567,25", true, -1, Spanish},
+                                         Case{"FrenchNarrowBlank", L"1\u202F234,5", true, -1, French},
+                                         Case{"FrenchBlank", L"1\u00A0234,5", true, -1, French},
+                                         Case{"IndianGroups", L"12,34,567.5", true, -1, Indian},
+                                         Case{"IndianGroupOfThree", L"1,234,567", false, -1, Indian},
+                                         Case{"SwissGroup", L"1\u2019234.5", true, -1, Swiss},
+                                         Case{"OneGroupOnly", L"1234,567", true, -1, OneGroup},
+                                         Case{"OneGroupOnlyTwice", L"1,234,567", false, -1, OneGroup},
+                                         Case{"SamePointForBothAsDecimal", L"1.5", true, -1, SpanishWithPoint},
+                                         Case{"SamePointForBothTwice", L"1.234.567", false, -1, SpanishWithPoint},
+                                         Case{"NoGroups", L"1234,5", true, -1, NoGroups},
+                                         Case{"NoGroupsWithBlank", L"1 234,5", false, -1, NoGroups}),
+                         kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(Decimals, IsNumberText,
-                         testing::Values(Case{L"1.5", true, 1}, Case{L"1.55", false, 1}, Case{L"1.", true, 1},
-                                         Case{L"1", true, 0}, Case{L"1.", false, 0}, Case{L"1.5", false, 0},
-                                         Case{L"1.5", true, -3}, Case{L"1.23456", true, -3}));
+                         testing::Values(Case{"OneOfOne", L"1.5", true, 1}, Case{"TwoOfOne", L"1.55", false, 1},
+                                         Case{"SeparatorWithoutDecimals", L"1.", true, 1},
+                                         Case{"NoneOfNone", L"1", true, 0},
+                                         Case{"SeparatorWhereNoneMayBe", L"1.", false, 0},
+                                         Case{"OneOfNone", L"1.5", false, 0}, Case{"OneOfAny", L"1.5", true, -3},
+                                         Case{"FiveOfAny", L"1.23456", true, -3}),
+                         kztest::ByName);
 
 TEST(IsNumber, RefusesWhatIsBeyondADouble)
 {

@@ -3,6 +3,7 @@
 #include <climits>
 
 #include "KZWideChar.h"
+#include "ParameterNames.h"
 
 namespace {
 
@@ -37,6 +38,7 @@ TEST(Compare, TakesNullForTheEmptyText)
 }
 
 struct IntegerCase {
+    const char* name;
     const wchar_t* text;
     int value;
 };
@@ -48,18 +50,25 @@ TEST_P(ToInteger, ReadsTheLeadingInteger)
     EXPECT_EQ(KZWideChar::ToInteger(GetParam().text), GetParam().value);
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, ToInteger,
-                         testing::Values(IntegerCase{L"0", 0}, IntegerCase{L"007", 7}, IntegerCase{L"-5", -5},
-                                         IntegerCase{L"+12", 12}, IntegerCase{L" \t\r\n 42", 42},
-                                         IntegerCase{L"200A", 200}, IntegerCase{L"1.9", 1}, IntegerCase{L"1,9", 1},
-                                         IntegerCase{L"", 0}, IntegerCase{nullptr, 0}, IntegerCase{L"x", 0},
-                                         IntegerCase{L"-", 0}, IntegerCase{L"--1", 0}, IntegerCase{L"- 1", 0},
-                                         IntegerCase{L"0x10", 0}, IntegerCase{L"\u0665", 0}));
+INSTANTIATE_TEST_SUITE_P(
+    Texts, ToInteger,
+    testing::Values(IntegerCase{"Zero", L"0", 0}, IntegerCase{"LeadingZeros", L"007", 7},
+                    IntegerCase{"Minus", L"-5", -5}, IntegerCase{"Plus", L"+12", 12},
+                    IntegerCase{"BlanksBefore", L" \t\r\n 42", 42}, IntegerCase{"LetterBehind", L"200A", 200},
+                    IntegerCase{"PointBehind", L"1.9", 1}, IntegerCase{"CommaBehind", L"1,9", 1},
+                    IntegerCase{"Empty", L"", 0}, IntegerCase{"Null", nullptr, 0}, IntegerCase{"Letter", L"x", 0},
+                    IntegerCase{"MinusAlone", L"-", 0}, IntegerCase{"TwoMinuses", L"--1", 0},
+                    IntegerCase{"BlankAfterMinus", L"- 1", 0}, IntegerCase{"Hexadecimal", L"0x10", 0},
+                    IntegerCase{"ArabicDigit", L"\u0665", 0}),
+    kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(Bounds, ToInteger,
-                         testing::Values(IntegerCase{L"2147483647", INT_MAX}, IntegerCase{L"2147483648", INT_MAX},
-                                         IntegerCase{L"-2147483648", INT_MIN}, IntegerCase{L"-2147483649", INT_MIN},
-                                         IntegerCase{L"99999999999999999999999999", INT_MAX},
-                                         IntegerCase{L"-99999999999999999999999999", INT_MIN}));
+                         testing::Values(IntegerCase{"Greatest", L"2147483647", INT_MAX},
+                                         IntegerCase{"AboveTheGreatest", L"2147483648", INT_MAX},
+                                         IntegerCase{"Least", L"-2147483648", INT_MIN},
+                                         IntegerCase{"BelowTheLeast", L"-2147483649", INT_MIN},
+                                         IntegerCase{"FarAbove", L"99999999999999999999999999", INT_MAX},
+                                         IntegerCase{"FarBelow", L"-99999999999999999999999999", INT_MIN}),
+                         kztest::ByName);
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "DeviceDialogFixture.h"
 #include "DialogLayout.h"
 #include "GuiResources.h"
+#include "ParameterNames.h"
 #include "PlaceOf.h"
 
 namespace {
@@ -167,7 +168,7 @@ TEST_P(DeviceDialogLanguages, AlignsItsColumns)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, DeviceDialogLanguages, testing::Values(KZLanguage::English, KZLanguage::Spanish),
-                         LanguageName);
+                         kztest::ByLanguage);
 
 TEST_F(DeviceDialog, LeavesNoWindowMenuOrGdiObjectBehind)
 {

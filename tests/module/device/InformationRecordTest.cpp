@@ -5,6 +5,8 @@
 #include <climits>
 #include <string>
 
+#include "ParameterNames.h"
+
 namespace {
 
 using namespace zep;
@@ -88,6 +90,7 @@ TEST(InformationRecordReading, TakesTheFirstOfDoubledChildren)
 }
 
 struct Conversion {
+    const char* name;
     const char* text;
     int value;
 };
@@ -101,14 +104,18 @@ TEST_P(InformationNumber, IsTheLeadingInteger)
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, InformationNumber,
-                         testing::Values(Conversion{"12", 12}, Conversion{"-5", -5}, Conversion{"+5", 5},
-                                         Conversion{"  12 ", 12}, Conversion{"12.9", 12}, Conversion{"12abc", 12},
-                                         Conversion{"abc", 0}, Conversion{"- 5", 0}, Conversion{"--5", 0},
-                                         Conversion{"+-5", 0}, Conversion{"0x10", 0}, Conversion{"NaN", 0},
-                                         Conversion{"inf", 0}, Conversion{"", 0}, Conversion{" ", 0},
-                                         Conversion{"2147483647", INT_MAX}, Conversion{"-2147483648", INT_MIN},
-                                         Conversion{"99999999999999999999", INT_MAX},
-                                         Conversion{"-99999999999999999999", INT_MIN}));
+                         testing::Values(Conversion{"Digits", "12", 12}, Conversion{"Minus", "-5", -5},
+                                         Conversion{"Plus", "+5", 5}, Conversion{"BlanksAround", "  12 ", 12},
+                                         Conversion{"Decimals", "12.9", 12}, Conversion{"LettersBehind", "12abc", 12},
+                                         Conversion{"Letters", "abc", 0}, Conversion{"BlankAfterMinus", "- 5", 0},
+                                         Conversion{"TwoMinuses", "--5", 0}, Conversion{"PlusAndMinus", "+-5", 0},
+                                         Conversion{"Hexadecimal", "0x10", 0}, Conversion{"NotANumber", "NaN", 0},
+                                         Conversion{"Infinity", "inf", 0}, Conversion{"Empty", "", 0},
+                                         Conversion{"Blank", " ", 0}, Conversion{"Greatest", "2147483647", INT_MAX},
+                                         Conversion{"Least", "-2147483648", INT_MIN},
+                                         Conversion{"FarAbove", "99999999999999999999", INT_MAX},
+                                         Conversion{"FarBelow", "-99999999999999999999", INT_MIN}),
+                         kztest::ByName);
 
 TEST(InformationRecordReading, SplitsTheModeIntoFourBits)
 {

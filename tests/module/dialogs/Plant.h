@@ -65,8 +65,3 @@ private:
     std::filesystem::path m_folder;
     KZDriverDeviceZEP m_device{{L"zep1", L"Filter & 1", 7, L"ZEP", L"Main hall, feeder 3", {}}};
 };
-
-inline std::string LanguageName(const testing::TestParamInfo<KZLanguage>& language)
-{
-    return language.param == KZLanguage::English ? "English" : "Spanish";
-}

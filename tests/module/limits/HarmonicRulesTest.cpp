@@ -66,7 +66,8 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, EveryHarmonicRow, testing::Range<std::size_t>(0, 13));
+INSTANTIATE_TEST_SUITE_P(Harmonics, EveryHarmonicRow, testing::Range<std::size_t>(0, 13),
+                         [](const auto& row) { return "Harmonic" + std::to_string(2 * row.param + 1); });
 
 TEST_P(EveryHarmonicRow, RefusesTextThatIsNoNumberInEachField)
 {

@@ -2,6 +2,7 @@
 #include "DialogLayout.h"
 #include "GuiResources.h"
 #include "LimitsDialogFixture.h"
+#include "ParameterNames.h"
 #include "PlaceOf.h"
 
 namespace {
@@ -37,7 +38,7 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Languages, LimitsDialogLanguages, testing::Values(KZLanguage::English, KZLanguage::Spanish),
-                         LanguageName);
+                         kztest::ByLanguage);
 
 TEST_P(LimitsDialogLanguages, NamesItselfItsTabsAndItsButtons)
 {

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "LimitsTesting.h"
+#include "ParameterNames.h"
 
 namespace {
 
@@ -48,15 +49,19 @@ TEST(LimitsTables, StoreTheFieldsUnderTheirNames)
         EXPECT_EQ(LimitFieldNames[f], names[f]);
 }
 
-class EveryLimitsTable : public testing::TestWithParam<const LimitsTable*> {
+using Page = kztest::Named<const LimitsTable*>;
+
+class EveryLimitsTable : public testing::TestWithParam<Page> {
 protected:
-    [[nodiscard]] static const LimitsTable& Table() { return *GetParam(); }
+    [[nodiscard]] static const LimitsTable& Table() { return *GetParam().value; }
     [[nodiscard]] static std::vector<LimitCell> Cells() { return CellsOf(Table()); }
 };
 
 INSTANTIATE_TEST_SUITE_P(Pages, EveryLimitsTable,
-                         testing::Values(&PowerLimitsTable, &HarmonicLimitsTable(Side::Net),
-                                         &HarmonicLimitsTable(Side::Load)));
+                         testing::Values(Page{"Powers", &PowerLimitsTable},
+                                         Page{"Net", &HarmonicLimitsTable(Side::Net)},
+                                         Page{"Load", &HarmonicLimitsTable(Side::Load)}),
+                         kztest::ByName);
 
 TEST_P(EveryLimitsTable, StartsWithNominalsOf0AndLimitsOf1)
 {

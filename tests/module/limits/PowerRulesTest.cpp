@@ -209,7 +209,9 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(ActiveReactiveApparent, EveryPower, testing::Values(1, 2, 3));
+INSTANTIATE_TEST_SUITE_P(Powers, EveryPower, testing::Values(1, 2, 3), [](const auto& row) {
+    return limits_testing::Narrow(PowerLimitsTable.variables[row.param].name.data());
+});
 
 TEST_P(EveryPower, HoldsTheNominalToNoRange)
 {

@@ -3,6 +3,7 @@
 
 #include "OptionsZepFixture.h"
 #include "OptionsZepTestIds.h"
+#include "ParameterNames.h"
 
 using namespace options_zep;
 using testing::ElementsAre;
@@ -16,8 +17,7 @@ protected:
     static void Close(HWND dialog) { ::PostMessageW(dialog, WM_CLOSE, 0, 0); }
 };
 
-INSTANTIATE_TEST_SUITE_P(All, OptionsZepSection, testing::ValuesIn(sections),
-                         [](const testing::TestParamInfo<Section>& section) { return section.param.name; });
+INSTANTIATE_TEST_SUITE_P(All, OptionsZepSection, testing::ValuesIn(sections), kztest::ByName);
 
 }  // namespace
 

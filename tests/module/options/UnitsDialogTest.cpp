@@ -8,6 +8,7 @@
 #include "KZStringIds.h"
 #include "MessageBoxes.h"
 #include "ModalDialogTest.h"
+#include "ParameterNames.h"
 #include "PlaceOf.h"
 #include "UnitsControls.h"
 
@@ -270,7 +271,7 @@ TEST_P(UnitsDialogLanguages, SetsTheTwoUnitsSideBySide)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, UnitsDialogLanguages, testing::Values(KZLanguage::English, KZLanguage::Spanish),
-                         LanguageName);
+                         kztest::ByLanguage);
 
 TEST_F(UnitsDialog, LeavesNoWindowMenuOrGdiObjectBehind)
 {
