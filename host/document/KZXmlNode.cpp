@@ -1,4 +1,3 @@
-#include <array>
 #include <cstdarg>
 
 #include "../text/WideFormat.h"
@@ -45,11 +44,9 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::NodeV(const wchar_t* format, ...) co
 {
     std::va_list arguments;
     va_start(arguments, format);
-    std::array<wchar_t, 256> usual;  // a page looks thirty variables up: asking for memory each time costs more
-    const bool fits = FormatWideInto(usual, format, arguments) >= 0;
-    const std::wstring longer = fits ? std::wstring() : FormatWide(format, arguments);
+    const std::wstring path = FormatWide(format, arguments);
     va_end(arguments);
-    return Node(fits ? usual.data() : longer.c_str());
+    return Node(path.c_str());
 }
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::NewChild(const wchar_t* name, XmlNode* before)
