@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <span>
+#include <string>
 
 #include "Harmonics.h"
 
@@ -20,7 +21,7 @@ inline constexpr std::array<const wchar_t*, LimitFieldCount> LimitFieldNames{L"n
 inline constexpr std::size_t UpperLimitFields = 3;  // nominal, maxW, maxD
 
 struct LimitVariable {
-    std::array<wchar_t, 8> name{};  // the named value "var", zero-terminated
+    std::wstring name;  // the named value "var"
     std::size_t fieldCount = UpperLimitFields;
 };
 
@@ -44,6 +45,6 @@ enum class PowerLimit { PowerFactor, Active, Reactive, Apparent };
 inline constexpr std::size_t PowerLimitCount = 4;
 
 extern const LimitsTable PowerLimitsTable;
-[[nodiscard]] const LimitsTable& HarmonicLimitsTable(Side side) noexcept;
+[[nodiscard]] const LimitsTable& HarmonicLimitsTable(Side side);
 
 }  // namespace zep

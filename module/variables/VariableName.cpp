@@ -3,47 +3,107 @@
 namespace zep {
 namespace {
 
-constexpr wchar_t Digit(int value) noexcept
+constexpr std::wstring_view PhaseDigits = L"123";
+static_assert(PhaseDigits.size() == PhaseCount);
+constexpr wchar_t Separator = L'I';  // between a quantity's code and its phase
+
+const std::array<std::wstring_view, QuantityRowCount>& CodesOf(Family family) noexcept
 {
-    return static_cast<wchar_t>(L'0' + value);
+    return family == Family::General ? GeneralCodes : PowerCodes;
 }
 
-void AppendHarmonic(std::wstring& text, const VariablePosition& position)
+constexpr bool HasPhase(Family family, int row) noexcept
 {
-    const int order = HarmonicOrder(position.row);
-    text += L"ARM";
-    if (order >= 10)
-        text += Digit(order / 10);
-    text += Digit(order % 10);
-    text += L'A';
-    text += Digit(position.phase + 1);
+    return family != Family::General || row != FrequencyRow;
 }
 
-void AppendQuantity(std::wstring& text, std::wstring_view code, const VariablePosition& position, bool hasPhase)
+std::optional<int> PhaseAt(std::wstring_view text, std::size_t index) noexcept
 {
-    text += code;
-    text += L'I';
-    if (hasPhase)
-        text += Digit(position.phase + 1);
+    const auto phase = index < text.size() ? PhaseDigits.find(text[index]) : PhaseDigits.npos;
+    return phase < PhaseDigits.size() ? std::optional(static_cast<int>(phase)) : std::nullopt;
+}
+
+std::optional<Side> SideAt(std::wstring_view text, std::size_t index) noexcept
+{
+    for (const Side side : Sides) {
+        if (index < text.size() && text[index] == SideLetter(side))
+            return side;
+    }
+    return std::nullopt;
+}
+
+// Reads "<phase><side>" at the start of a text.
+std::optional<VariablePosition> PhaseAndSide(int row, std::wstring_view text) noexcept
+{
+    const auto phase = PhaseAt(text, 0);
+    const auto side = SideAt(text, 1);
+    return phase && side ? std::optional(VariablePosition{row, *phase, *side}) : std::nullopt;
+}
+
+// There is one frequency, so its name needs neither phase nor side: what is not a phase or side is the first phase,
+// net.
+VariablePosition FrequencyPosition(std::wstring_view text) noexcept
+{
+    return {FrequencyRow, PhaseAt(text, 0).value_or(0), SideAt(text, 1).value_or(Side::Net)};
+}
+
+std::optional<VariablePosition> ParseHarmonic(std::wstring_view name) noexcept
+{
+    constexpr std::wstring_view start = L"ARM";
+    if (!name.starts_with(start))
+        return std::nullopt;
+    name.remove_prefix(start.size());
+
+    int order = 0;
+    std::size_t digits = 0;
+    for (; digits < 2 && digits < name.size() && name[digits] >= L'0' && name[digits] <= L'9'; ++digits)
+        order = 10 * order + (name[digits] - L'0');
+    // An even order counts as the odd order just below it, and order 0 as the fundamental.
+    const int row = (order - 1) / 2;
+    name.remove_prefix(digits);
+    if (digits == 0 || row >= HarmonicRowCount || !name.starts_with(L'A'))
+        return std::nullopt;
+    return PhaseAndSide(row, name.substr(1));
+}
+
+// The row whose code opens the name; no code of a family opens another one with the separator behind it.
+std::optional<VariablePosition> ParseQuantity(Family family, std::wstring_view name) noexcept
+{
+    for (int row = 0; row < QuantityRowCount; ++row) {
+        const std::wstring_view code = CodesOf(family)[static_cast<std::size_t>(row)];
+        if (!name.starts_with(code) || !name.substr(code.size()).starts_with(Separator))
+            continue;
+        const std::wstring_view rest = name.substr(code.size() + 1);
+        return HasPhase(family, row) ? PhaseAndSide(row, rest) : FrequencyPosition(rest);
+    }
+    return std::nullopt;
 }
 
 }  // namespace
 
 void AppendVariableName(std::wstring& text, Family family, const VariablePosition& position)
 {
-    const auto row = static_cast<std::size_t>(position.row);
-    switch (family) {
-    case Family::Harmonic:
-        AppendHarmonic(text, position);
-        break;
-    case Family::General:
-        AppendQuantity(text, GeneralCodes[row], position, position.row != FrequencyRow);
-        break;
-    case Family::Power:
-        AppendQuantity(text, PowerCodes[row], position, true);
-        break;
+    if (family == Family::Harmonic)
+        text += HarmonicCode(position.row);
+    else
+        (text += CodesOf(family)[static_cast<std::size_t>(position.row)]) += Separator;
+    if (HasPhase(family, position.row))
+        text += PhaseDigits[static_cast<std::size_t>(position.phase)];
+    text += SideLetter(position.side);
+}
+
+std::optional<VariablePosition> ParseVariableName(Family family, std::wstring_view name) noexcept
+{
+    return family == Family::Harmonic ? ParseHarmonic(name) : ParseQuantity(family, name);
+}
+
+std::optional<Variable> ParseVariableName(std::wstring_view name) noexcept
+{
+    for (const Family family : {Family::Harmonic, Family::Power, Family::General}) {
+        if (const auto position = ParseVariableName(family, name))
+            return Variable{family, *position};
     }
-    text += position.side == Side::Net ? L'N' : L'L';
+    return std::nullopt;
 }
 
 }  // namespace zep

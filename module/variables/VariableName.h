@@ -56,8 +56,7 @@ void AppendVariableName(std::wstring& text, Family family, const VariablePositio
 
 // Parses a name of one family. Returns nothing when the name does not belong to it. What follows the side letter is not
 // examined, and the position may be one that no variable has (the load's voltage): the grammar alone decides here.
-[[nodiscard]] constexpr std::optional<VariablePosition> ParseVariableName(Family family,
-                                                                          std::wstring_view name) noexcept;
+[[nodiscard]] std::optional<VariablePosition> ParseVariableName(Family family, std::wstring_view name) noexcept;
 
 // A variable of any family. No name belongs to two of them.
 struct Variable {
@@ -68,8 +67,6 @@ struct Variable {
 };
 
 // Parses a name of whatever family it belongs to.
-[[nodiscard]] constexpr std::optional<Variable> ParseVariableName(std::wstring_view name) noexcept;
+[[nodiscard]] std::optional<Variable> ParseVariableName(std::wstring_view name) noexcept;
 
 }  // namespace zep
-
-#include "VariableNameParser.h"

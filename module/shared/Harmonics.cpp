@@ -1,0 +1,10 @@
+#include "Harmonics.h"
+
+namespace zep {
+
+std::wstring HarmonicCode(int row)
+{
+    return L"ARM" + std::to_wstring(HarmonicOrder(row)) + L"A";
+}
+
+}  // namespace zep
