@@ -23,7 +23,7 @@
 #define IDC_GENERAL_NET_BOX     6718    // to 6729
 #define IDC_GENERAL_LOAD_BOX    6772    // to 6783
 #define IDC_GENERAL_NET_ROW     6874    // to 6877
-#define IDC_GENERAL_LOAD_ROW    6886    // 6888 and 6889 exist
+#define IDC_GENERAL_LOAD_ROW    6886    // to 6889, of which 6888 and 6889 exist
 
 #define IDC_POWER_CAPTION       6910    // to 6913
 #define IDC_POWER_NET_BOX       6922    // to 6933
