@@ -1,9 +1,8 @@
 // What the dialogs need around them: one device with its document, its units and its limits.
 #pragma once
 
-#include <filesystem>
-
 #include "KZDriverDeviceZEP.h"
+#include "TemporaryFolder.h"
 
 class BenchPlant {
 public:
@@ -15,6 +14,6 @@ public:
     [[nodiscard]] KZDriverDeviceZEP& Device() noexcept { return m_device; }
 
 private:
-    std::filesystem::path m_folder;
+    kztest::TemporaryFolder m_folder;
     KZDriverDeviceZEP m_device;
 };

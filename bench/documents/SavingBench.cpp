@@ -11,6 +11,7 @@
 #include "PlantText.h"
 #include "RawRecords.h"
 #include "Report.h"
+#include "TemporaryFolder.h"
 
 namespace {
 
@@ -87,10 +88,7 @@ void CompareLarge(Report& report, const fs::path& folder)
 int main()
 {
     Report report;
-    const fs::path folder = fs::temp_directory_path() / (L"kzbench-" + std::to_wstring(::GetCurrentProcessId()));
-    fs::create_directories(folder);
-    CompareLarge(report, folder);
-    std::error_code ignored;
-    fs::remove_all(folder, ignored);
+    const kztest::TemporaryFolder folder;
+    CompareLarge(report, folder.Path());
     return report.ExitCode();
 }

@@ -7,7 +7,8 @@
 #include <memory>
 
 #include "EditorProcess.h"
-#include "TestFolder.h"
+#include "ProjectXml.h"
+#include "TemporaryFolder.h"
 
 namespace editor_tests {
 
@@ -28,7 +29,7 @@ protected:
     // Expects exit status 2, nothing on standard output, and one line on standard error that holds all the parts.
     void ExpectError(EditorProcess& editor, const std::vector<std::string>& parts);
 
-    TestFolder m_folder;
+    kztest::TemporaryFolder m_folder;
     EditorFolder m_program;
     std::unique_ptr<EditorProcess> m_editor;
 };

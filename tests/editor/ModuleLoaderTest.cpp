@@ -10,7 +10,7 @@
 #include "EditorProcess.h"
 #include "KZDriverDeviceZEP.h"
 #include "KZDriverServices.h"
-#include "TestFolder.h"
+#include "TemporaryFolder.h"
 #include "modules/PeFile.h"
 #include "text/Utf8.h"
 
@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 namespace {
 
 using editor_tests::EditorFolder;
-using editor_tests::TestFolder;
+using kztest::TemporaryFolder;
 using testing::HasSubstr;
 
 constexpr std::uint16_t machineX86 = 0x014C;
@@ -65,7 +65,7 @@ protected:
         EXPECT_EQ(loader.StatusOf(MakeDevice(L"ZEP")).state, state);
     }
 
-    TestFolder m_folder;
+    TemporaryFolder m_folder;
 };
 
 bool IsLoaded(const wchar_t* name)
@@ -182,7 +182,7 @@ TEST(PeMachine, IsReadFromTheHeaderAndFromNothingElse)
 {
     EXPECT_EQ(PeMachine(EditorFolder::ModuleFile("ready")), machineX64);
     EXPECT_EQ(OwnMachine(), machineX64);
-    const TestFolder folder;
+    const TemporaryFolder folder;
     folder.Write("empty", "");
     folder.Write("short", "MZ");
     folder.Write("far", std::string("MZ") + std::string(58, '\0') + "\xFF\xFF\xFF\x7F");

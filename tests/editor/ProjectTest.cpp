@@ -5,14 +5,15 @@
 
 #include "KZDriverDeviceZEP.h"
 #include "KZMainCfg.h"
-#include "TestFolder.h"
+#include "ProjectXml.h"
+#include "TemporaryFolder.h"
 #include "text/EditorError.h"
 
 namespace {
 
 using editor_tests::DeviceXml;
 using editor_tests::MainXml;
-using editor_tests::TestFolder;
+using kztest::TemporaryFolder;
 using testing::HasSubstr;
 
 class ProjectTest : public testing::Test {
@@ -33,7 +34,7 @@ protected:
         return error;
     }
 
-    TestFolder m_folder;
+    TemporaryFolder m_folder;
 };
 
 }  // namespace

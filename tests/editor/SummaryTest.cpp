@@ -5,13 +5,13 @@
 #include "KZDriverDeviceZEP.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
-#include "TestFolder.h"
+#include "TemporaryFolder.h"
 #include "summary/DeviceSummary.h"
 #include "text/Utf8.h"
 
 namespace {
 
-using editor_tests::TestFolder;
+using kztest::TemporaryFolder;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -66,7 +66,7 @@ protected:
         return identity;
     }
 
-    TestFolder m_folder;
+    TemporaryFolder m_folder;
     KZDriverDeviceZEP m_driver{Identity()};
     XmlDocument m_configuration{L"configuration"};
 };

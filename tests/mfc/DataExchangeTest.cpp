@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "Controls.h"
-#include "MessageCollector.h"
+#include "MessageBoxes.h"
 #include "TestDialog.h"
 
 namespace {
@@ -22,7 +22,7 @@ protected:
     }
 
     TestDialog dialog;
-    MessageCollector messages;
+    kztest::MessageBoxes messages;
 };
 
 TEST_F(DataExchange, BindsAControlOnce)
@@ -249,7 +249,7 @@ TEST_F(DataExchange, HoldsNotificationsOfTheControlsBack)
 
 TEST(DataExchangeFailure, EndsTheDialogThatOpensWithIt)
 {
-    const MessageCollector messages;
+    const kztest::MessageBoxes messages;
     CEdit edit;
     TestDialog dialog;
     dialog.exchange = [&](CDataExchange* exchange) { DDX_Control(exchange, 9999, edit); };

@@ -4,7 +4,7 @@
 #include <new>
 #include <stdexcept>
 
-#include "MessageCollector.h"
+#include "MessageBoxes.h"
 #include "TestDialog.h"
 
 namespace {
@@ -32,7 +32,7 @@ protected:
     template <class Exception>
     std::vector<std::wstring> TextsOf(Exception exception)
     {
-        const MessageCollector messages;
+        const kztest::MessageBoxes messages;
         dialog.action = [=](UINT message) -> LRESULT {
             if (message == Act)
                 throw exception;
@@ -62,14 +62,14 @@ TEST_F(ExceptionGuard, SaysNothingWhenTheUserHasBeenTold)
 
 TEST_F(ExceptionGuard, CountsCommandsAsHandled)
 {
-    const MessageCollector messages;
+    const kztest::MessageBoxes messages;
     dialog.action = [](UINT) -> LRESULT { throw std::runtime_error("command"); };
     EXPECT_EQ(dialog.SendMessage(WM_COMMAND, 1234), TRUE);
 }
 
 TEST_F(ExceptionGuard, ReportsAFailedPaintingOnce)
 {
-    const MessageCollector messages;
+    const kztest::MessageBoxes messages;
     dialog.ShowWindow(SW_SHOW);
     dialog.action = [](UINT message) -> LRESULT {
         if (message == WM_PAINT)
@@ -84,7 +84,7 @@ TEST_F(ExceptionGuard, ReportsAFailedPaintingOnce)
 
 TEST_F(ExceptionGuard, DetachesAnObjectWhoseDestructionThrew)
 {
-    const MessageCollector messages;
+    const kztest::MessageBoxes messages;
     const HWND window = dialog.m_hWnd;
     dialog.action = [](UINT message) -> LRESULT {
         if (message == WM_NCDESTROY)

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "Controls.h"
-#include "MessageCollector.h"
+#include "MessageBoxes.h"
 #include "ModalScript.h"
 #include "TestDialog.h"
 
@@ -20,7 +20,7 @@ TEST(MessageBox, ShowsItsTextUnderTheProgramsNameAndGivesTheButton)
 
 TEST(MessageBox, LoadsItsTextById)
 {
-    const MessageCollector messages;
+    const kztest::MessageBoxes messages;
     EXPECT_EQ(AfxMessageBox(IDS_GREETING), IDOK);
     EXPECT_EQ(messages.Texts(), std::vector<std::wstring>{L"Good morning"});
 }

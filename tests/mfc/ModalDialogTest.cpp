@@ -3,7 +3,7 @@
 #include <stdexcept>
 
 #include "Controls.h"
-#include "MessageCollector.h"
+#include "MessageBoxes.h"
 #include "ModalScript.h"
 #include "TestDialog.h"
 
@@ -190,7 +190,7 @@ TEST(ModalDialog, IsCentredOverItsOwner)
 
 TEST(ModalDialog, EndsWithMinusOneWhenItsInitialisationThrows)
 {
-    const MessageCollector collector;
+    const kztest::MessageBoxes collector;
     TestDialog owner;
     owner.Open();
     TestDialog dialog(&owner);
@@ -214,7 +214,7 @@ TEST(ModalDialog, EndsWithMinusOneWhenItsMessageLoopThrows)
             return TestDialog::PreTranslateMessage(message);
         }
     };
-    const MessageCollector collector;
+    const kztest::MessageBoxes collector;
     TestDialog owner;
     owner.Open();
     ThrowingDialog dialog(&owner);

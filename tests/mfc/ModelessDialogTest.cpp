@@ -5,7 +5,7 @@
 #include "Controls.h"
 #include "DialogLayout.h"
 #include "GuiResources.h"
-#include "MessageCollector.h"
+#include "MessageBoxes.h"
 #include "TestDialog.h"
 
 namespace {
@@ -64,7 +64,7 @@ TEST(ModelessDialog, IsNotMadeWhenInitialisationEndsIt)
 
 TEST(ModelessDialog, IsNotMadeWhenInitialisationThrows)
 {
-    const MessageCollector messages;
+    const kztest::MessageBoxes messages;
     TestDialog dialog;
     dialog.initialise = [] { throw std::runtime_error("no luck"); };
     EXPECT_FALSE(dialog.Create(IDD_CONTROLS));

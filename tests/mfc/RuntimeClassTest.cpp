@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "MessageCollector.h"
+#include "MessageBoxes.h"
 #include "MfcTestIds.h"
 
 namespace {
@@ -129,7 +129,7 @@ void ExpectException(void (*raise)(), const wchar_t* text)
         raise();
         ADD_FAILURE() << "nothing was thrown";
     } catch (Exception* exception) {
-        const MessageCollector messages;
+        const kztest::MessageBoxes messages;
         exception->ReportError();
         EXPECT_EQ(messages.Texts(), std::vector<std::wstring>{text});
         exception->Delete();
@@ -168,7 +168,7 @@ TEST(ExceptionClasses, ReportTheTextOfTheirCallerOrTheirClass)
     EXPECT_FALSE(exception->GetErrorMessage(text, static_cast<UINT>(std::size(text)), &help));
     EXPECT_STREQ(text, L"");
     EXPECT_EQ(help, 0U);
-    const MessageCollector messages;
+    const kztest::MessageBoxes messages;
     exception->ReportError(MB_OK, IDS_GREETING);
     exception->ReportError(MB_OK, 4321);
     EXPECT_EQ(messages.Texts(), (std::vector<std::wstring>{L"Good morning", L"The operation failed (Speechless)."}));

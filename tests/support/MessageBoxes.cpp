@@ -40,17 +40,29 @@ std::vector<std::wstring> MessageBoxes::Texts() const
 LRESULT CALLBACK MessageBoxes::Hook(int code, WPARAM wParam, LPARAM lParam)
 {
     const auto window = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_DESTROYWND && current && current->m_last == window)
-        current->m_last = nullptr;  // the next box may get the same handle
-    const HWND text = code == HCBT_ACTIVATE ? ::GetDlgItem(window, MessageTextId) : nullptr;
-    if (text && current && current->m_last != window) {
-        current->m_last = window;
-        const bool asks = ::GetDlgItem(window, IDYES) && ::GetDlgItem(window, IDNO);
-        current->m_seen.push_back({TextOf(text), asks});
-        const int answer = ::GetDlgItem(window, current->m_answer) ? current->m_answer : IDOK;
-        ::PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(answer), 0);
-    }
+    const bool isBox =
+        current && (code == HCBT_ACTIVATE || code == HCBT_DESTROYWND) && ::GetDlgItem(window, MessageTextId);
+    if (isBox && code == HCBT_ACTIVATE)
+        current->Answer(window);
+    if (isBox && code == HCBT_DESTROYWND)
+        current->Remember(window);
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+void MessageBoxes::Answer(HWND box)
+{
+    if (std::exchange(m_answered, box) == box)
+        return;
+    const int answer = ::GetDlgItem(box, m_answer) ? m_answer : IDOK;
+    ::PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(answer), 0);
+}
+
+// At the end: boxes of some kinds are activated before they have their text.
+void MessageBoxes::Remember(HWND box)
+{
+    const bool asks = ::GetDlgItem(box, IDYES) && ::GetDlgItem(box, IDNO);
+    m_seen.push_back({TextOf(box, MessageTextId), asks});
+    m_answered = nullptr;  // the next box may get the same handle
 }
 
 }  // namespace kztest

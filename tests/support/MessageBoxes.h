@@ -1,4 +1,5 @@
-// Answers the message boxes of this thread as they open, and remembers what they said and offered.
+// Answers the message boxes of this thread as they open, and remembers what they said and offered. One may be alive at
+// a time.
 #pragma once
 
 #include <afxwin.h>
@@ -29,11 +30,13 @@ public:
 
 private:
     static LRESULT CALLBACK Hook(int code, WPARAM wParam, LPARAM lParam);
+    void Answer(HWND box);
+    void Remember(HWND box);
 
     int m_answer;
     HHOOK m_hook;
     std::vector<SeenMessage> m_seen;
-    HWND m_last = nullptr;
+    HWND m_answered = nullptr;
 };
 
 }  // namespace kztest

@@ -54,7 +54,7 @@ protected:
     fs::path WriteDocument(const std::string& bytes) { return m_project.Write(L"devices/zep-01.xml", bytes); }
     [[nodiscard]] fs::path DocumentFile() const { return m_project.Path() / L"devices" / L"zep-01.xml"; }
 
-    TemporaryFolder m_project;
+    kztest::TemporaryFolder m_project;
     kztest::MessageBoxes m_boxes;
     KZDriverDeviceZEP m_device{{L"zep-01", L"Filter 1", 1, L"ZEP", L"", {}}};
     DeviceDialog m_dialog{&m_device};
@@ -102,7 +102,7 @@ TEST_F(DeviceCfg, StoresTheDocumentAndItsFolder)
         stored = m_dialog.Write();
     });
     EXPECT_TRUE(stored);
-    EXPECT_NE(BytesOf(DocumentFile()).find("<version>4</version>"), std::string::npos);
+    EXPECT_NE(m_project.Read(L"devices/zep-01.xml").find("<version>4</version>"), std::string::npos);
     DeviceDialog again(&m_device);
     again.Run();
     EXPECT_EQ(again.Version(), L"4");
@@ -128,7 +128,7 @@ TEST_P(BrokenDeviceCfg, SaysSoAndLeavesTheFileAlone)
     EXPECT_EQ(m_dialog.Run([&] { stored = m_dialog.Write(); }), Closed) << "the dialog opens all the same";
     EXPECT_FALSE(stored);
     EXPECT_EQ(m_dialog.Version(), L"?");
-    EXPECT_EQ(BytesOf(DocumentFile()), GetParam().value);
+    EXPECT_EQ(m_project.Read(L"devices/zep-01.xml"), GetParam().value);
     ASSERT_EQ(m_boxes.Texts().size(), 2u) << "one when it is read, one when it is to be written";
     for (const std::wstring& text : m_boxes.Texts())
         EXPECT_NE(text.find(L"zep-01.xml"), std::wstring::npos) << "the file is named";

@@ -3,7 +3,7 @@
 
 #include "KZXmlDocument.h"
 #include "ParameterNames.h"
-#include "ScratchFolder.h"
+#include "TemporaryFolder.h"
 #include "Utf8.h"
 
 namespace {
@@ -88,11 +88,11 @@ TEST(ParseDepth, IsLimited)
 
 TEST(Load, ReadsAFileAndIsClean)
 {
-    const ScratchFolder folder;
-    WriteBytes(folder.File("main.xml"), "<configuration><devices/></configuration>");
+    const kztest::TemporaryFolder folder;
+    folder.Write("main.xml", "<configuration><devices/></configuration>");
     XmlDocument document(L"configuration");
     document.SetDirty(true);
-    const KZDocumentResult result = document.Load(folder.File("main.xml"));
+    const KZDocumentResult result = document.Load(folder.Path() / "main.xml");
     EXPECT_TRUE(result);
     EXPECT_TRUE(result.message.IsEmpty());
     EXPECT_FALSE(document.IsDirty());
@@ -101,11 +101,11 @@ TEST(Load, ReadsAFileAndIsClean)
 
 TEST(Load, ReadsFilesOfAnySize)
 {
-    const ScratchFolder folder;
+    const kztest::TemporaryFolder folder;
     const std::string text = "<configuration><v>" + std::string(300000, 'x') + "</v></configuration>";
-    WriteBytes(folder.File("main.xml"), text);
+    folder.Write("main.xml", text);
     XmlDocument document(L"configuration");
-    EXPECT_TRUE(document.Load(folder.File("main.xml")));
+    EXPECT_TRUE(document.Load(folder.Path() / "main.xml"));
     EXPECT_EQ(document.Serialize(), text);
 }
 
@@ -125,26 +125,26 @@ std::string NameOf(const std::filesystem::path& file)
 
 TEST(Load, NamesAFileThatIsMissing)
 {
-    const ScratchFolder folder;
-    EXPECT_EQ(MessageOf(folder.File("main.xml")), NameOf(folder.File("main.xml")) + ": the file does not exist");
-    EXPECT_EQ(MessageOf(folder.File("none/main.xml")),
-              NameOf(folder.File("none/main.xml")) + ": the file does not exist");
+    const kztest::TemporaryFolder folder;
+    EXPECT_EQ(MessageOf(folder.Path() / "main.xml"), NameOf(folder.Path() / "main.xml") + ": the file does not exist");
+    EXPECT_EQ(MessageOf(folder.Path() / "none/main.xml"),
+              NameOf(folder.Path() / "none/main.xml") + ": the file does not exist");
 }
 
 TEST(Load, NamesAFolderInTheFilesPlace)
 {
-    const ScratchFolder folder;
+    const kztest::TemporaryFolder folder;
     EXPECT_EQ(MessageOf(folder.Path()), NameOf(folder.Path()) + ": this is a folder, not a file");
 }
 
 TEST(Load, NamesTheFilePlaceAndReason)
 {
-    const ScratchFolder folder;
-    WriteBytes(folder.File("main.xml"), "<configuration>\n  <devices>");
-    EXPECT_EQ(MessageOf(folder.File("main.xml")),
-              NameOf(folder.File("main.xml")) + ": line 2, column 12: the document ends too early");
-    WriteBytes(folder.File("main.xml"), "");
-    EXPECT_EQ(MessageOf(folder.File("main.xml")), NameOf(folder.File("main.xml")) + ": the document is empty");
+    const kztest::TemporaryFolder folder;
+    folder.Write("main.xml", "<configuration>\n  <devices>");
+    EXPECT_EQ(MessageOf(folder.Path() / "main.xml"),
+              NameOf(folder.Path() / "main.xml") + ": line 2, column 12: the document ends too early");
+    folder.Write("main.xml", "");
+    EXPECT_EQ(MessageOf(folder.Path() / "main.xml"), NameOf(folder.Path() / "main.xml") + ": the document is empty");
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "KZXmlDocument.h"
-#include "ScratchFolder.h"
+#include "TemporaryFolder.h"
 #include "Utf8.h"
 
 #ifdef _WIN32
@@ -28,44 +28,44 @@ protected:
         EXPECT_EQ(folder.Count(), files) << "something was left behind";
     }
 
-    const ScratchFolder folder;
+    const kztest::TemporaryFolder folder;
     XmlDocument document{L"configuration"};
 };
 
 TEST_F(Save, WritesTheDocumentAndMakesItClean)
 {
-    const KZDocumentResult result = document.Save(folder.File("main.xml"));
+    const KZDocumentResult result = document.Save(folder.Path() / "main.xml");
     EXPECT_TRUE(result) << EncodeUtf8(result.message.View());
     EXPECT_FALSE(document.IsDirty());
-    EXPECT_EQ(ReadBytes(folder.File("main.xml")), document.Serialize());
+    EXPECT_EQ(folder.Read("main.xml"), document.Serialize());
     EXPECT_EQ(folder.Count(), 1u);
 }
 
 TEST_F(Save, ReplacesALongerFileWhole)
 {
-    WriteBytes(folder.File("main.xml"), std::string(100000, 'x'));
-    EXPECT_TRUE(document.Save(folder.File("main.xml")));
-    EXPECT_EQ(ReadBytes(folder.File("main.xml")), document.Serialize());
+    folder.Write("main.xml", std::string(100000, 'x'));
+    EXPECT_TRUE(document.Save(folder.Path() / "main.xml"));
+    EXPECT_EQ(folder.Read("main.xml"), document.Serialize());
     EXPECT_EQ(folder.Count(), 1u);
 }
 
 TEST_F(Save, WritesWhatLoadReads)
 {
     const std::string text = "\xEF\xBB\xBF<configuration a='1'>\r\n  <v>\xC3\xB1</v >\r\n</configuration>\r\n";
-    WriteBytes(folder.File("main.xml"), text);
-    ASSERT_TRUE(document.Load(folder.File("main.xml")));
-    ASSERT_TRUE(document.Save(folder.File("copy.xml")));
-    EXPECT_EQ(ReadBytes(folder.File("copy.xml")), text);
+    folder.Write("main.xml", text);
+    ASSERT_TRUE(document.Load(folder.Path() / "main.xml"));
+    ASSERT_TRUE(document.Save(folder.Path() / "copy.xml"));
+    EXPECT_EQ(folder.Read("copy.xml"), text);
 }
 
 TEST_F(Save, KeepsGoingAfterASave)
 {
-    ASSERT_TRUE(document.Save(folder.File("main.xml")));
+    ASSERT_TRUE(document.Save(folder.Path() / "main.xml"));
     XmlDocument::XmlNode* const root = document.Root();
     root->SetValue(L"v", L"2");
-    ASSERT_TRUE(document.Save(folder.File("main.xml")));
+    ASSERT_TRUE(document.Save(folder.Path() / "main.xml"));
     XmlDocument again(L"configuration");
-    ASSERT_TRUE(again.Load(folder.File("main.xml")));
+    ASSERT_TRUE(again.Load(folder.Path() / "main.xml"));
     EXPECT_STREQ(again.Root()->Value(L"v", L""), L"2");
     EXPECT_EQ(document.Root(), root);
 }
@@ -80,47 +80,47 @@ TEST_F(Save, AllowsFileNamesOutsideLatin)
 
 TEST_F(Save, RefusesAReadOnlyFileAndLeavesIt)
 {
-    WriteBytes(folder.File("main.xml"), "old");
-    std::filesystem::permissions(folder.File("main.xml"),
+    folder.Write("main.xml", "old");
+    std::filesystem::permissions(folder.Path() / "main.xml",
                                  std::filesystem::perms::owner_read | std::filesystem::perms::group_read);
-    ExpectRefusal(folder.File("main.xml"), "the file is read-only");
-    EXPECT_EQ(ReadBytes(folder.File("main.xml")), "old");
+    ExpectRefusal(folder.Path() / "main.xml", "the file is read-only");
+    EXPECT_EQ(folder.Read("main.xml"), "old");
 }
 
 TEST_F(Save, RefusesAFolderInTheFilesPlace)
 {
-    std::filesystem::create_directory(folder.File("main.xml"));
-    ExpectRefusal(folder.File("main.xml"), "this is a folder, not a file");
+    std::filesystem::create_directory(folder.Path() / "main.xml");
+    ExpectRefusal(folder.Path() / "main.xml", "this is a folder, not a file");
 }
 
 TEST_F(Save, RefusesAFolderThatDoesNotExist)
 {
-    ExpectRefusal(folder.File("none/main.xml"), "the file does not exist");
+    ExpectRefusal(folder.Path() / "none/main.xml", "the file does not exist");
 }
 
 #ifdef _WIN32
 TEST_F(Save, LeavesAFileThatAnotherProgramHoldsOpen)
 {
-    WriteBytes(folder.File("main.xml"), "old");
+    folder.Write("main.xml", "old");
     const HANDLE holder =
-        CreateFileW(folder.File("main.xml").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        CreateFileW((folder.Path() / "main.xml").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(holder, INVALID_HANDLE_VALUE);
-    const KZDocumentResult result = document.Save(folder.File("main.xml"));
+    const KZDocumentResult result = document.Save(folder.Path() / "main.xml");
     CloseHandle(holder);
     EXPECT_FALSE(result);
     EXPECT_FALSE(result.message.IsEmpty());
     EXPECT_TRUE(document.IsDirty());
-    EXPECT_EQ(ReadBytes(folder.File("main.xml")), "old");
+    EXPECT_EQ(folder.Read("main.xml"), "old");
     EXPECT_EQ(folder.Count(), 1u);
 }
 #else
 TEST_F(Save, KeepsTheFilesPermissions)
 {
-    WriteBytes(folder.File("main.xml"), "old");
+    folder.Write("main.xml", "old");
     const auto wanted = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
-    std::filesystem::permissions(folder.File("main.xml"), wanted);
-    ASSERT_TRUE(document.Save(folder.File("main.xml")));
-    EXPECT_EQ(std::filesystem::status(folder.File("main.xml")).permissions(), wanted);
+    std::filesystem::permissions(folder.Path() / "main.xml", wanted);
+    ASSERT_TRUE(document.Save(folder.Path() / "main.xml"));
+    EXPECT_EQ(std::filesystem::status(folder.Path() / "main.xml").permissions(), wanted);
 }
 
 TEST_F(Save, ReportsAFullDisk)

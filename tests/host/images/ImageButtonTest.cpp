@@ -52,7 +52,7 @@ protected:
     TestDialog m_dialog{Push(1, L"OK"), Push(2, L"Cancel"), Push(3, L"")};
     CImageButton m_first;
     CImageButton m_second;
-    TemporaryFolder m_folder;
+    kztest::TemporaryFolder m_folder;
 };
 
 TEST_F(ImageButton, ShowsThePictureOfAFileBesideItsText)

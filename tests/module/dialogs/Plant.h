@@ -4,22 +4,19 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "KZDriverDeviceZEP.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
+#include "TemporaryFolder.h"
 
 class Plant {
 public:
     Plant()
     {
-        static int count = 0;
-        m_folder = std::filesystem::temp_directory_path() /
-                   (L"zep-" + std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(++count));
-        std::filesystem::create_directories(m_folder / L"devices");
-        KZMainCfg::SetProjectFolder(m_folder.wstring());
+        std::filesystem::create_directory(m_folder.Path() / L"devices");
+        KZMainCfg::SetProjectFolder(m_folder.Path().wstring());
         Configure("");
     }
     ~Plant()
@@ -27,8 +24,6 @@ public:
         KZQuorvelantaSetup::Get()->SetLanguage(KZLanguage::English);
         KZMainCfg::SetProjectFolder(L"");
         Configure("");
-        std::error_code ignored;
-        std::filesystem::remove_all(m_folder, ignored);
     }
     Plant(const Plant&) = delete;
     Plant& operator=(const Plant&) = delete;
@@ -49,19 +44,15 @@ public:
     // Writes the device's document with the given content under its root.
     void WriteDevice(const std::string& content) const
     {
-        std::ofstream(DeviceFile(), std::ios::binary) << "<device>" << content << "</device>";
+        m_folder.Write(L"devices/zep1.xml", "<device>" + content + "</device>");
     }
-    [[nodiscard]] std::string DeviceText() const
-    {
-        std::ifstream stream(DeviceFile(), std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
-    [[nodiscard]] std::filesystem::path DeviceFile() const { return m_folder / L"devices" / L"zep1.xml"; }
+    [[nodiscard]] std::string DeviceText() const { return kztest::BytesOf(DeviceFile()); }
+    [[nodiscard]] std::filesystem::path DeviceFile() const { return m_folder.Path() / L"devices" / L"zep1.xml"; }
 
     [[nodiscard]] KZDriverDeviceZEP* Device() noexcept { return &m_device; }
     [[nodiscard]] static std::wstring Model() { return KZQuorvelantaSetup::Get()->DriverName(L"ZEP").c_str(); }
 
 private:
-    std::filesystem::path m_folder;
+    kztest::TemporaryFolder m_folder;
     KZDriverDeviceZEP m_device{{L"zep1", L"Filter & 1", 7, L"ZEP", L"Main hall, feeder 3", {}}};
 };

@@ -6,6 +6,7 @@
 
 #include "ImportPatch.h"
 #include "KZQuorvelantaSetup.h"
+#include "TemporaryFolder.h"
 
 namespace {
 
@@ -14,24 +15,16 @@ class TabImages : public testing::Test {
 protected:
     TabImages() : m_old(KZQuorvelantaSetup::Get()->getImageFilePath())
     {
-        m_folder = std::filesystem::temp_directory_path() / (L"tab-" + std::to_wstring(::GetCurrentProcessId()));
-        std::filesystem::create_directories(m_folder);
-        std::filesystem::copy_file(std::filesystem::path(m_old.c_str()) / L"OK-16.png", m_folder / L"there.png",
-                                   std::filesystem::copy_options::overwrite_existing);
-        KZQuorvelantaSetup::Get()->SetImageFilePath(m_folder.wstring());
+        std::filesystem::copy_file(std::filesystem::path(m_old.c_str()) / L"OK-16.png", m_folder.Path() / L"there.png");
+        KZQuorvelantaSetup::Get()->SetImageFilePath(m_folder.Path().wstring());
     }
-    ~TabImages() override
-    {
-        KZQuorvelantaSetup::Get()->SetImageFilePath(m_old);
-        std::error_code ignored;
-        std::filesystem::remove_all(m_folder, ignored);
-    }
+    ~TabImages() override { KZQuorvelantaSetup::Get()->SetImageFilePath(m_old); }
 
     CImageList m_list;
 
 private:
     KZBasicString m_old;
-    std::filesystem::path m_folder;
+    kztest::TemporaryFolder m_folder;
 };
 
 TEST_F(TabImages, AreAsLargeAsTheFirstPicture)

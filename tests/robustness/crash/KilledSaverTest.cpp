@@ -4,13 +4,13 @@
 #include <windows.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "Endurance.h"
 #include "KZXmlDocument.h"
 #include "Random.h"
 #include "SavedContent.h"
+#include "TemporaryFolder.h"
 
 namespace {
 
@@ -45,16 +45,7 @@ void Wait(int microseconds)
 
 class KilledSaver : public testing::Test {
 protected:
-    KilledSaver()
-    {
-        fs::create_directories(m_folder);
-        std::ofstream(m_file, std::ios::binary) << ContentOf(1);
-    }
-    ~KilledSaver() override
-    {
-        std::error_code ignored;
-        fs::remove_all(m_folder, ignored);
-    }
+    KilledSaver() { m_folder.Write("main.xml", ContentOf(1)); }
 
     // Lets the saver begin and kills it so long afterwards.
     void RunSaver(int microseconds)
@@ -76,18 +67,11 @@ protected:
         ::WaitForSingleObject(process.Get(), INFINITE);
     }
 
-    [[nodiscard]] std::string Text() const
-    {
-        std::ifstream stream(m_file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
-    [[nodiscard]] std::ptrdiff_t Leftovers() const
-    {
-        return std::distance(fs::directory_iterator(m_folder), fs::directory_iterator()) - 1;
-    }
+    [[nodiscard]] std::string Text() const { return kztest::BytesOf(m_file); }
+    [[nodiscard]] std::size_t Leftovers() const { return m_folder.Count() - 1; }
 
-    fs::path m_folder = fs::temp_directory_path() / ("kz-killed-" + std::to_string(::GetCurrentProcessId()));
-    fs::path m_file = m_folder / "main.xml";
+    kztest::TemporaryFolder m_folder;
+    const fs::path m_file = m_folder.Path() / "main.xml";
 
 private:
     [[nodiscard]] static std::wstring Program()
@@ -114,8 +98,8 @@ TEST_F(KilledSaver, LeavesAWholeDocumentThatIsNoOlderThanTheLastOne)
         last = number;
     }
     // Kills between two saves alone would prove nothing: some must have left the file that was being written.
-    EXPECT_GT(Leftovers(), 0);
-    std::printf("%ld kills in %ld saves, %td of them left a temporary file; seed %llu\n", kills, last, Leftovers(),
+    EXPECT_GT(Leftovers(), 0U);
+    std::printf("%ld kills in %ld saves, %zu of them left a temporary file; seed %llu\n", kills, last, Leftovers(),
                 static_cast<unsigned long long>(seed));
 
     XmlDocument document(L"configuration");

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #ifdef _WIN32
@@ -13,28 +12,25 @@
 #endif
 
 #include "KZXmlDocument.h"
+#include "TemporaryFolder.h"
 
 namespace {
-
-namespace fs = std::filesystem;
 
 // Systems give process numbers away again, so a later process may come to the very names of the one that was killed.
 TEST(LeftTemporaryFiles, AreNoObstacleToAProcessOfTheSameNumber)
 {
-    const fs::path folder = fs::temp_directory_path() / ("kz-leftover-" + std::to_string(getpid()));
-    fs::create_directories(folder);
-    const fs::path file = folder / "main.xml";
+    const kztest::TemporaryFolder folder;
+    const std::filesystem::path file = folder.Path() / "main.xml";
     constexpr int Leftovers = 20;
     for (int number = 1; number <= Leftovers; ++number)
-        std::ofstream(folder / ("main.xml." + std::to_string(getpid()) + "-" + std::to_string(number) + ".tmp")) << "x";
+        folder.Write("main.xml." + std::to_string(getpid()) + "-" + std::to_string(number) + ".tmp", "x");
 
     XmlDocument document(L"configuration");
     const KZDocumentResult saved = document.Save(file);
     EXPECT_TRUE(saved) << testing::PrintToString(std::wstring(saved.message.View()));
     EXPECT_TRUE(document.Load(file));
     // They may be another machine's, on a share: they stay.
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), Leftovers + 1);
-    fs::remove_all(folder);
+    EXPECT_EQ(folder.Count(), Leftovers + 1U);
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <new>
 #include <pugixml.hpp>
@@ -12,11 +11,10 @@
 #include "FailingMemory.h"
 #include "InformationRecord.h"
 #include "LimitsStore.h"
+#include "TemporaryFolder.h"
 #include "UnitsRecord.h"
 
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr const char* Configuration =
     "<configuration>\n  <unitSetups><unitSetup><driverId>other</driverId></unitSetup></unitSetups>\n"
@@ -162,34 +160,25 @@ TEST_F(FailingMemory, LeavesADocumentAsItWasWhenARecordIsRead)
 
 class FailingMemoryAndFiles : public FailingMemory {
 protected:
-    FailingMemoryAndFiles() { fs::create_directories(m_folder); }
-    ~FailingMemoryAndFiles() override { fs::remove_all(m_folder); }
-
-    [[nodiscard]] std::string Text() const
-    {
-        std::ifstream stream(m_file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
-
-    fs::path m_folder = fs::temp_directory_path() / "kz-failing-memory";
-    fs::path m_file = m_folder / "main.xml";
+    kztest::TemporaryFolder m_folder;
+    const std::filesystem::path m_file = m_folder.Path() / "main.xml";
 };
 
 TEST_F(FailingMemoryAndFiles, LeaveTheOldFileAloneInItsFolder)
 {
-    std::ofstream(m_file, std::ios::binary) << "the old file";
+    m_folder.Write("main.xml", "the old file");
     ForEachFailure<Document>(
         ParsedConfiguration, [&](Document& document) { static_cast<void>(document->Save(m_file)); },
         [&](Document&) {
-            EXPECT_EQ(Text(), "the old file");
-            EXPECT_EQ(std::distance(fs::directory_iterator(m_folder), fs::directory_iterator()), 1);
+            EXPECT_EQ(m_folder.Read("main.xml"), "the old file");
+            EXPECT_EQ(m_folder.Count(), 1U);
         });
-    EXPECT_EQ(Text(), Configuration);
+    EXPECT_EQ(m_folder.Read("main.xml"), Configuration);
 }
 
 TEST_F(FailingMemoryAndFiles, LeaveTheOldContentWhenALoadFails)
 {
-    std::ofstream(m_file, std::ios::binary) << Device;
+    m_folder.Write("main.xml", Device);
     const auto old = [] { return Parsed(L"device", "<device><a>old</a></device>"); };
     ForEachFailure<Document>(
         old, [&](Document& document) { static_cast<void>(document->Load(m_file)); },
