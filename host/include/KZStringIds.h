@@ -37,6 +37,9 @@
 #define KZS_NO_SUCH_VARIABLES 32239
 #define KZS_MAX_ONE_VARIABLE 32336
 
+// Failures
+#define KZS_PAGES_NOT_OPENED 40202
+
 // A device's identity
 #define KZS_DEVICE_INFORMATION 282
 #define KZS_DEVICE_NUMBER 283

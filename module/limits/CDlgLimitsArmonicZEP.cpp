@@ -96,12 +96,8 @@ private:
     // The two limits are one item, so that the caption under them is as wide as both.
     void AddLimits(KZLayout& row, int inner, int outer)
     {
-        KZLayout& pair = m_plan.NewRow();
-        pair.AddControl(inner, 50);
-        pair.AddGap(KZSizeTextLine);
-        pair.AddControl(outer, 50);
         row.AddGap(KZSizeTextLine);
-        row.AddLayout(pair, 2 * ColumnShare);
+        row.AddLayout(NewPair(m_plan, inner, outer), 2 * ColumnShare);
     }
 
     LayoutPlan& m_plan;

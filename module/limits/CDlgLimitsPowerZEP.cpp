@@ -29,16 +29,6 @@ constexpr std::array<LimitEditIds, Groups> Edits{{
 
 const LimitsPageTable Table{IDD_LIMITS_POWER, zep::PowerLimitsTable, Edits, &zep::CheckPowerLimits};
 
-// Two columns under one caption.
-KZLayout& Pair(LayoutPlan& plan, int first, int second)
-{
-    KZLayout& pair = plan.NewRow();
-    pair.AddControl(first, 50);
-    pair.AddGap(KZSizeTextLine);
-    pair.AddControl(second, 50);
-    return pair;
-}
-
 // A group's grid: heads, captions under them, edit boxes. The power factor has the lower limits beside the upper ones.
 class GroupLayout {
 public:
@@ -80,7 +70,7 @@ private:
     void AddPair(KZLayout& row, int first, int second)
     {
         row.AddGap(KZSizeTextLine);
-        row.AddLayout(Pair(m_plan, first, second), 2 * ColumnShare);
+        row.AddLayout(NewPair(m_plan, first, second), 2 * ColumnShare);
     }
 
     static void AddCaption(KZLayout& row, int caption)

@@ -10,7 +10,6 @@
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
 #include "LimitsControls.h"
-#include "TabImages.h"
 
 BEGIN_MESSAGE_MAP(CDlgLimitsZEP, CDialog)
     ON_NOTIFY(TCN_SELCHANGE, IDC_LIMITS_TAB, &CDlgLimitsZEP::OnSelchangeTab)
@@ -43,12 +42,13 @@ BOOL CDlgLimitsZEP::OnInitDialog()
     MakePages();
     LoadPages();
     if (!CreatePageWindows()) {
-        EndDialog(-1);
+        m_container.GiveUp();
         return TRUE;
     }
     CreateTabs();
-    ShowOnly(m_pages.front().get());
+    // Before the first page is shown, which is then laid out once.
     Layout();
+    m_container.ShowSelected();
     UpdateData(FALSE);
     return TRUE;
 }
@@ -67,27 +67,12 @@ bool CDlgLimitsZEP::CreatePageWindows()
 
 void CDlgLimitsZEP::CreateTabs()
 {
-    CreateTabImages(m_imageList,
-                    {L"ZEP-var_power.png", L"SYSTEM-var_armonic_current.png", L"SYSTEM-var_armonic_current.png"});
-    m_tab.SetImageList(&m_imageList);
-
+    m_container.SetImages(m_imageList,
+                          {L"ZEP-var_power.png", L"SYSTEM-var_armonic_current.png", L"SYSTEM-var_armonic_current.png"});
     const KZBasicString harmonics = HostText(KZS_HARMONIC_CURRENTS) + L" ";
-    m_tab.InsertItem(0, HostText(KZS_POWERS).c_str(), 0);
-    m_tab.InsertItem(1, (harmonics + HostText(KZS_NET_SIDE)).c_str(), 1);
-    m_tab.InsertItem(2, (harmonics + HostText(KZS_LOAD_SIDE)).c_str(), 2);
-}
-
-void CDlgLimitsZEP::ShowOnly(LimitsPage* shown)
-{
-    for (const auto& page : m_pages)
-        if (page.get() != shown)
-            page->ShowWindow(SW_HIDE);
-    m_pCurrentPage = shown;
-    if (!shown)
-        return;
-    shown->Show();
-    shown->BringWindowToTop();
-    shown->Invalidate(TRUE);
+    m_container.Add(*m_pages[0], HostText(KZS_POWERS), 0);
+    m_container.Add(*m_pages[1], harmonics + HostText(KZS_NET_SIDE), 1);
+    m_container.Add(*m_pages[2], harmonics + HostText(KZS_LOAD_SIDE), 2);
 }
 
 // Before the pages have windows, so that their many boxes get their texts once.
@@ -101,9 +86,7 @@ void CDlgLimitsZEP::LoadPages()
 
 void CDlgLimitsZEP::OnSelchangeTab(NMHDR*, LRESULT* pResult)
 {
-    const int tab = m_tab.GetCurSel();
-    const bool hasPage = tab >= 0 && static_cast<std::size_t>(tab) < PageCount;
-    ShowOnly(hasPage ? m_pages[static_cast<std::size_t>(tab)].get() : nullptr);
+    m_container.ShowSelected();
     *pResult = 0;
 }
 
@@ -143,15 +126,52 @@ void CDlgLimitsZEP::SavePages()
 void CDlgLimitsZEP::OnSize(UINT type, int cx, int cy)
 {
     CDialog::OnSize(type, cx, cy);
-    // Before the pages exist there is nothing to lay out.
-    if (m_pages.back() && m_pages.back()->GetSafeHwnd())
-        Layout();
+    Layout();
 }
 
 void CDlgLimitsZEP::OnDestroy()
 {
-    m_pCurrentPage = nullptr;
+    m_container.Clear();
     for (auto& page : m_pages)
         page.reset();
     CDialog::OnDestroy();
+}
+
+int CDlgLimitsZEP::TabItemHeight() const
+{
+    CRect item(0, 0, 0, 0);
+    m_tab.GetItemRect(0, &item);
+    return item.Height();
+}
+
+void CDlgLimitsZEP::Layout()
+{
+    if (!m_container.CanLayOut())
+        return;
+    // The harmonic pages are the higher ones, and both are alike.
+    const int tabHeight = TabItemHeight();
+    const int pageHeight = m_pages[1]->NeededHeight();
+
+    LayoutPlan plan(*this);
+    KZLayout& tab = plan.NewRow();
+    tab.AddGap(KZSizeStandard);
+    tab.AddControl(IDC_LIMITS_TAB, 100);
+    tab.AddGap(KZSizeStandard);
+
+    KZLayout& buttons = plan.NewRow();
+    buttons.AddGap(KZSizeStandard);
+    buttons.AddGap(15);
+    buttons.AddControl(IDOK, 35);
+    buttons.AddGap(KZSizeStandard);
+    buttons.AddControl(IDCANCEL, 35);
+    buttons.AddGap(15);
+    buttons.AddGap(KZSizeStandard);
+
+    KZLayout& dialog = plan.Root();
+    dialog.AddGap(KZSizeStandard);
+    dialog.AddLayout(tab, TabContainer::ControlHeight(tabHeight, pageHeight));
+    dialog.AddGap(KZSizeStandard);
+    dialog.AddLayout(buttons, KZSizeStandard);
+    dialog.AddGap(KZSizeStandard);
+    m_container.Layout(plan, tabHeight);
 }

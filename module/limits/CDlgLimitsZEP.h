@@ -3,14 +3,13 @@
 // It decides when the pages load, validate and save; what they hold is their own business.
 #pragma once
 
-#include <afxcmn.h>
-
 #include <array>
 #include <memory>
 
 #include "CImageButton.h"
 #include "KZDriver.h"
 #include "KZXmlDocument.h"
+#include "TabContainer.h"
 
 class LimitsPage;
 
@@ -41,13 +40,11 @@ private:
     // Returns false when one cannot be created.
     [[nodiscard]] bool CreatePageWindows();
     void CreateTabs();
-    void ShowOnly(LimitsPage* page);
     void LoadPages();
     [[nodiscard]] bool ValidatePages();
     [[nodiscard]] bool ArePagesModified();
     void SavePages();
     void Layout();
-    void LayoutTabAndButtons();
     [[nodiscard]] int TabItemHeight() const;
 
     CTabCtrl m_tab;
@@ -56,7 +53,7 @@ private:
     XmlDocument::XmlNode* m_pViewSetup;
     KZDriver* m_pDriver = nullptr;
     std::array<std::unique_ptr<LimitsPage>, PageCount> m_pages;  // in tab order
-    LimitsPage* m_pCurrentPage = nullptr;
-    bool m_bLayingOut = false;
+    TabPage* m_pCurrentPage = nullptr;
     CImageList m_imageList;
+    TabContainer m_container{*this, m_tab, m_pCurrentPage};
 };

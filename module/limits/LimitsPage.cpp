@@ -1,6 +1,5 @@
 #include "LimitsPage.h"
 
-#include "ChildPage.h"
 #include "ControlText.h"
 #include "DialogSetup.h"
 #include "HostText.h"
@@ -11,6 +10,15 @@ using zep::LimitCell;
 KZBasicString TextOf(const zep::LimitMessageLine& line)
 {
     return line.argument ? FormatHostText(line.textId, *line.argument) : HostText(line.textId);
+}
+
+KZLayout& NewPair(LayoutPlan& plan, int first, int second)
+{
+    KZLayout& pair = plan.NewRow();
+    pair.AddControl(first, 50);
+    pair.AddGap(KZSizeTextLine);
+    pair.AddControl(second, 50);
+    return pair;
 }
 
 namespace {
@@ -29,7 +37,7 @@ KZBasicString MessageOf(const zep::LimitFailure& failure)
 }  // namespace
 
 LimitsPage::LimitsPage(const LimitsPageTable& table)
-    : m_table(table), m_store(table.limits), m_edits(table.edits.size())
+    : TabPage(table.templateId), m_table(table), m_store(table.limits), m_edits(table.edits.size())
 {
 }
 
@@ -37,11 +45,6 @@ LimitsPage::~LimitsPage()
 {
     m_names.Clear();
     DestroyWindow();  // here, while the edit boxes that its controls are bound to still exist
-}
-
-bool LimitsPage::Create(CWnd* container)
-{
-    return CDialog::Create(m_table.templateId, container) != FALSE;
 }
 
 CEdit& LimitsPage::Edit(LimitCell cell)
@@ -62,7 +65,7 @@ void LimitsPage::ForEachCell(Visitor visit) const
 
 void LimitsPage::DoDataExchange(CDataExchange* pDX)
 {
-    CDialog::DoDataExchange(pDX);
+    TabPage::DoDataExchange(pDX);
     const zep::NumericLocale locale;
     if (!pDX->m_bSaveAndValidate)
         m_store.ValuesToTexts();
@@ -79,7 +82,7 @@ void LimitsPage::DoDataExchange(CDataExchange* pDX)
 
 BOOL LimitsPage::OnInitDialog()
 {
-    CDialog::OnInitDialog();
+    TabPage::OnInitDialog();
     SetLabels();
     NameForScreenReaders();
     return TRUE;
@@ -102,16 +105,6 @@ void LimitsPage::SetTexts(int firstId, int count, unsigned textId)
         SetDlgItemText(id, text.c_str());
 }
 
-void LimitsPage::OnOK()
-{
-    PostToContainer(*this, IDOK);
-}
-
-void LimitsPage::OnCancel()
-{
-    PostToContainer(*this, IDCANCEL);
-}
-
 void LimitsPage::Load(const XmlDocument::XmlNode& viewSetup)
 {
     m_store.Load(viewSetup);
@@ -121,7 +114,8 @@ void LimitsPage::Load(const XmlDocument::XmlNode& viewSetup)
 
 bool LimitsPage::Validate()
 {
-    UpdateData(TRUE);
+    if (!UpdateData(TRUE))
+        return false;  // it has said why
     const auto failure = m_table.check(m_store);
     if (failure)
         ShowFailure(*failure);
@@ -137,47 +131,7 @@ void LimitsPage::ShowFailure(const zep::LimitFailure& failure)
         AfxMessageBox(text.c_str(), MB_OK);
 }
 
-bool LimitsPage::IsModified()
-{
-    UpdateData(TRUE);
-    return m_store.IsModified();
-}
-
 void LimitsPage::Save(XmlDocument::XmlNode& viewSetup) const
 {
     m_store.Save(viewSetup);
-}
-
-int LimitsPage::PreferredHeight()
-{
-    if (m_nPreferredHeight == 0) {
-        LayoutPlan plan(*this);
-        PlanLayout(plan);
-        m_nPreferredHeight = plan.Height();
-    }
-    return m_nPreferredHeight;
-}
-
-void LimitsPage::MoveTo(const CRect& area)
-{
-    MoveWindow(&area);
-    if ((GetStyle() & WS_VISIBLE) != 0)
-        LayoutNow();
-    else
-        m_bLayoutPending = true;
-}
-
-void LimitsPage::LayoutNow()
-{
-    m_bLayoutPending = false;
-    LayoutPlan plan(*this);
-    PlanLayout(plan);
-    plan.Apply();
-}
-
-void LimitsPage::Show()
-{
-    if (m_bLayoutPending)
-        LayoutNow();
-    ShowWindow(SW_SHOW);
 }

@@ -6,7 +6,5 @@
 
 class CDlgSelectVarArmonicZEP : public SelectVarPage {
 public:
-    explicit CDlgSelectVarArmonicZEP(KZDriverDeviceZEP* device);
-
-    void MoveTo(const CRect& area) override;
+    explicit CDlgSelectVarArmonicZEP(KZDriverDeviceZEP* device) : SelectVarPage(device, zep::Family::Harmonic) {}
 };

@@ -1,11 +1,11 @@
 #include "CDlgSelectVarZEP.h"
 
+#include <algorithm>
 #include <new>
 
 #include "CDlgSelectVarArmonicZEP.h"
 #include "CDlgSelectVarGeneralZEP.h"
 #include "CDlgSelectVarPowerZEP.h"
-#include "ChildPage.h"
 #include "DialogSetup.h"
 #include "HostText.h"
 #include "InitialMarks.h"
@@ -13,24 +13,17 @@
 #include "SelectVarControls.h"
 #include "SelectVarMessages.h"
 #include "SelectionRules.h"
-#include "TabImages.h"
 
 namespace {
 
 // The groups that hold the variables of the three pages. One of them is enough for all three.
 constexpr unsigned long long OfferedGroups = 1U << 2 | 1U << 4 | 1U << 5 | 1U << 6;
 
-struct TabItem {
-    unsigned textId;
-    int image;
-};
-
 // Makes a page and its window. A page that cannot be made is left out and the dialog goes on without it.
 template <class Page, class... Arguments>
 Page* AddPage(std::vector<std::unique_ptr<SelectVarPage>>& pages, CWnd* container, Arguments... arguments)
 {
     try {
-        pages.reserve(pages.size() + 1);
         auto page = std::make_unique<Page>(arguments...);
         if (!page->Create(container))
             return nullptr;
@@ -38,6 +31,9 @@ Page* AddPage(std::vector<std::unique_ptr<SelectVarPage>>& pages, CWnd* containe
         pages.push_back(std::move(page));
         return made;
     } catch (const std::bad_alloc&) {
+        return nullptr;
+    } catch (CMemoryException* exception) {
+        exception->Delete();
         return nullptr;
     }
 }
@@ -76,12 +72,20 @@ BOOL CDlgSelectVarZEP::OnInitDialog()
     GetDlgItem(IDC_SELECTVAR_SPARE)->ShowWindow(SW_HIDE);
     SetUpOkCancel(m_btnOK, m_btnCancel);
 
-    if ((m_groups.to_ullong() & OfferedGroups) != 0)
+    const bool isOffered = (m_groups.to_ullong() & OfferedGroups) != 0;
+    if (isOffered)
         CreatePages();
     CreateTabs();
-    if (m_pages.empty())
+    if (m_pages.empty()) {
+        // OK without pages empties the host's list: right when it asked for nothing that they hold, and only then.
+        if (isOffered)
+            m_container.GiveUp();
         return FALSE;
-    ShowFirstPage();
+    }
+    // Before the first page is shown, which is then laid out once.
+    Layout(0, 0);
+    m_pCurrentPage = m_pages.front().get();
+    m_pCurrentPage->Show();
     CheckInitialVariables();
     SetIcon(m_hIcon, TRUE);
     return TRUE;
@@ -96,27 +100,15 @@ void CDlgSelectVarZEP::CreatePages()
 
 void CDlgSelectVarZEP::CreateTabs()
 {
-    CreateTabImages(m_imageList, {L"SYSTEM-var_general.png", L"ZEP-var_power.png", L"SYSTEM-var_armonic_current.png"});
-    m_tab.SetImageList(&m_imageList);
-
-    const auto insert = [this](const SelectVarPage* page, const TabItem& item) {
+    m_container.SetImages(m_imageList,
+                          {L"SYSTEM-var_general.png", L"ZEP-var_power.png", L"SYSTEM-var_armonic_current.png"});
+    const auto add = [this](TabPage* page, unsigned textId, int image) {
         if (page)
-            m_tab.InsertItem(m_tab.GetItemCount(), HostText(item.textId).c_str(), item.image);
+            m_container.Add(*page, HostText(textId), image);
     };
-    insert(m_pGeneral, {KZS_GENERAL, 0});
-    insert(m_pPower, {KZS_POWERS, 1});
-    insert(m_pArmonic, {KZS_HARMONIC_CURRENTS, 2});
-}
-
-void CDlgSelectVarZEP::ShowFirstPage()
-{
-    for (const auto& page : m_pages)
-        page->ShowWindow(SW_HIDE);
-    m_pCurrentPage = m_pages.front().get();
-    m_pCurrentPage->Show();
-    CRect client;
-    GetClientRect(&client);
-    Layout(client.Width(), client.Height());
+    add(m_pGeneral, KZS_GENERAL, 0);
+    add(m_pPower, KZS_POWERS, 1);
+    add(m_pArmonic, KZS_HARMONIC_CURRENTS, 2);
 }
 
 // One pass over the host's list serves all pages: it may be long, and no name belongs to two of them.
@@ -163,7 +155,7 @@ void CDlgSelectVarZEP::OnOK()
 
 BOOL CDlgSelectVarZEP::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    return ForwardPageCommand(*this, wParam, lParam) || CDialog::OnCommand(wParam, lParam);
+    return m_container.ForwardCommand(wParam, lParam) || CDialog::OnCommand(wParam, lParam);
 }
 
 LRESULT CDlgSelectVarZEP::OnVariableSelect(WPARAM count, LPARAM)
@@ -184,16 +176,7 @@ LRESULT CDlgSelectVarZEP::OnVariableUnSelect(WPARAM count, LPARAM)
 
 void CDlgSelectVarZEP::OnSelchangeSelectTab(NMHDR*, LRESULT* pResult)
 {
-    if (m_pCurrentPage)
-        m_pCurrentPage->ShowWindow(SW_HIDE);
-    const int tab = m_tab.GetCurSel();
-    const bool hasPage = tab >= 0 && static_cast<std::size_t>(tab) < m_pages.size();
-    m_pCurrentPage = hasPage ? m_pages[static_cast<std::size_t>(tab)].get() : nullptr;
-    if (m_pCurrentPage) {
-        m_pCurrentPage->Show();
-        m_pCurrentPage->BringWindowToTop();
-        m_pCurrentPage->Invalidate(TRUE);
-    }
+    m_container.ShowSelected();
     *pResult = 0;
 }
 
@@ -202,4 +185,34 @@ void CDlgSelectVarZEP::OnSize(UINT type, int cx, int cy)
     CDialog::OnSize(type, cx, cy);
     if (m_btnOK.GetSafeHwnd())
         Layout(cx, cy);
+}
+
+// What the tabs and the frame take of the tab control's height. The display area of an empty rectangle comes out inside
+// out by just that much, so it is top minus bottom: the other way round the height would be negative, and the pages
+// would lie over the tabs.
+int CDlgSelectVarZEP::TabHeight()
+{
+    CRect rect(0, 0, 0, 0);
+    m_tab.AdjustRect(FALSE, &rect);
+    return rect.top - rect.bottom;
+}
+
+void CDlgSelectVarZEP::Layout(int, int)
+{
+    if (!m_container.CanLayOut())
+        return;
+    const int tabHeight = TabHeight();
+    int pageHeight = 0;
+    for (const auto& page : m_pages)
+        pageHeight = std::max(pageHeight, page->NeededHeight());
+
+    LayoutPlan plan(*this);
+    KZLayout& dialog = plan.Root();
+    dialog.SetBorders(KZSizeStandard, KZSizeStandard);
+    dialog.AddGap(KZSizeStandard);
+    dialog.AddControl(IDC_SELECTVAR_TAB, TabContainer::ControlHeight(tabHeight, pageHeight));
+    dialog.AddGap(KZSizeStandard);
+    dialog.AddLayout(plan.NewOkCancelRow(), KZSizeStandard);
+    dialog.AddGap(KZSizeStandard);
+    m_container.Layout(plan, tabHeight);
 }

@@ -4,7 +4,6 @@
 // the host's list with what the pages hold.
 #pragma once
 
-#include <afxcmn.h>
 #include <afxext.h>
 
 #include <list>
@@ -13,6 +12,7 @@
 
 #include "CImageButton.h"
 #include "KZDriverDeviceZEP.h"
+#include "TabContainer.h"
 
 class SelectVarPage;
 class CDlgSelectVarGeneralZEP;
@@ -56,11 +56,8 @@ protected:
 private:
     void CreatePages();
     void CreateTabs();
-    void ShowFirstPage();
     void ShowLimitMessage() const;
-    [[nodiscard]] int PageHeight() const;
-    [[nodiscard]] int TabExtraHeight();
-    void LayoutTabAndButtons();
+    [[nodiscard]] int TabHeight();
 
     CTabCtrl m_tab;
     CImageButton m_btnOK;
@@ -72,10 +69,10 @@ private:
     CDlgSelectVarGeneralZEP* m_pGeneral = nullptr;
     CDlgSelectVarPowerZEP* m_pPower = nullptr;
     CDlgSelectVarArmonicZEP* m_pArmonic = nullptr;
-    SelectVarPage* m_pCurrentPage = nullptr;
+    TabPage* m_pCurrentPage = nullptr;
     std::vector<std::unique_ptr<SelectVarPage>> m_pages;  // in tab order
     CImageList m_imageList;
     KZVariableGroups m_groups;
     unsigned m_nSelected = 0;  // what the user has checked since the dialog opened
-    bool m_bLayingOut = false;
+    TabContainer m_container{*this, m_tab, m_pCurrentPage};
 };

@@ -1,15 +1,14 @@
 #include "SelectVarPage.h"
 
-#include "ChildPage.h"
 #include "HostText.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
 #include "SelectVarControls.h"
 #include "SelectVarMessages.h"
-#include "SelectVarPageLayout.h"
 #include "SelectionRules.h"
 
 using zep::PhaseCount;
+using zep::SelectionCommand;
 using zep::Side;
 using zep::Sides;
 using zep::VariablePosition;
@@ -18,55 +17,22 @@ namespace {
 
 constexpr COLORREF FileTransparency = 0xFFFFFFFF;
 
-bool IsSelectable(const CButton& box)
-{
-    return box.GetSafeHwnd() && box.IsWindowEnabled();
-}
-
+// Checked by the user: a box that was chosen before the dialog opened is disabled.
 bool IsSelected(const CButton& box)
 {
-    return IsSelectable(box) && box.GetCheck() == BST_CHECKED;
+    return box.IsWindowEnabled() && box.GetCheck() == BST_CHECKED;
 }
 
 }  // namespace
 
-class SelectVarPage::Group {
-public:
-    // Boxes that the template lacks and boxes that were chosen before take no part.
-    void Add(CButton& box)
-    {
-        if (!IsSelectable(box))
-            return;
-        m_boxes[m_count++] = &box;
-        m_state.Add(box.GetCheck() == BST_CHECKED);
-    }
-
-    [[nodiscard]] const zep::GroupState& State() const noexcept { return m_state; }
-
-    void SetChecks(bool checked) const
-    {
-        for (std::size_t index = 0; index < m_count; ++index)
-            m_boxes[index]->SetCheck(checked ? BST_CHECKED : BST_UNCHECKED);
-    }
-
-private:
-    std::array<CButton*, zep::HarmonicRowCount * PhaseCount> m_boxes{};
-    std::size_t m_count = 0;
-    zep::GroupState m_state;
-};
-
-BEGIN_MESSAGE_MAP(SelectVarPage, CDialog)
+BEGIN_MESSAGE_MAP(SelectVarPage, TabPage)
     ON_COMMAND_RANGE(IDC_SELECTION_FIRST, IDC_SELECTION_LAST, &SelectVarPage::OnSelectionCommand)
 END_MESSAGE_MAP()
 
 SelectVarPage::SelectVarPage(KZDriverDeviceZEP* device, zep::Family family)
-    : m_pDevice(device), m_table(zep::TableOf(family)), m_rows(m_table.rows.size())
+    : TabPage(zep::TableOf(family).templateId), m_pDevice(device), m_table(zep::TableOf(family)),
+      m_rows(m_table.rows.size())
 {
-}
-
-bool SelectVarPage::Create(CWnd* container)
-{
-    return CDialog::Create(m_table.templateId, container) != FALSE;
 }
 
 CButton& SelectVarPage::Box(const VariablePosition& position)
@@ -75,20 +41,15 @@ CButton& SelectVarPage::Box(const VariablePosition& position)
     return row.boxes[static_cast<std::size_t>(position.side)][static_cast<std::size_t>(position.phase)];
 }
 
-const CButton& SelectVarPage::Box(const VariablePosition& position) const
-{
-    return const_cast<SelectVarPage*>(this)->Box(position);
-}
-
 // The order of this walk is the order of the names in the host's list.
 template <class Visitor>
-void SelectVarPage::ForEachBox(Visitor visit) const
+void SelectVarPage::ForEachBox(Visitor visit)
 {
     for (int row = 0; row < m_table.RowCount(); ++row) {
         for (const Side side : Sides) {
             for (int phase = 0; phase < PhaseCount; ++phase) {
                 if (const VariablePosition position{row, phase, side}; m_table.HasBox(position))
-                    visit(position);
+                    visit(position, Box(position));
             }
         }
     }
@@ -96,7 +57,7 @@ void SelectVarPage::ForEachBox(Visitor visit) const
 
 void SelectVarPage::DoDataExchange(CDataExchange* pDX)
 {
-    CDialog::DoDataExchange(pDX);
+    TabPage::DoDataExchange(pDX);
     for (int row = 0; row < m_table.RowCount(); ++row) {
         for (const Side side : Sides) {
             if (m_table.HasRowButton(row, side))
@@ -104,12 +65,12 @@ void SelectVarPage::DoDataExchange(CDataExchange* pDX)
                             m_rows[static_cast<std::size_t>(row)].buttons[static_cast<std::size_t>(side)]);
         }
     }
-    ForEachBox([&](const VariablePosition& position) { DDX_Control(pDX, m_table.BoxId(position), Box(position)); });
+    ForEachBox([&](const VariablePosition& position, CButton& box) { DDX_Control(pDX, m_table.BoxId(position), box); });
 }
 
 BOOL SelectVarPage::OnInitDialog()
 {
-    CDialog::OnInitDialog();
+    TabPage::OnInitDialog();
     LoadTexts();
 
     const KZBasicString picture = KZQuorvelantaSetup::Get()->getImageFilePath() + L"SYSTEM-uncheck.png";
@@ -137,39 +98,29 @@ void SelectVarPage::LoadTexts()
     }
 }
 
-void SelectVarPage::OnOK()
-{
-    PostToContainer(*this, IDOK);
-}
-
-void SelectVarPage::OnCancel()
-{
-    PostToContainer(*this, IDCANCEL);
-}
-
 void SelectVarPage::CheckInitialVariables(const zep::PositionSet& chosen)
 {
-    ForEachBox([&](const VariablePosition& position) {
+    ForEachBox([&](const VariablePosition& position, CButton& box) {
         if (!chosen.test(PositionIndex(position)))
             return;
-        Box(position).SetCheck(BST_CHECKED);
-        Box(position).EnableWindow(FALSE);
+        box.SetCheck(BST_CHECKED);
+        box.EnableWindow(FALSE);
     });
 }
 
-std::size_t SelectVarPage::CountSelected() const
+std::size_t SelectVarPage::CountSelected()
 {
     std::size_t count = 0;
-    ForEachBox([&](const VariablePosition& position) { count += IsSelected(Box(position)) ? 1U : 0U; });
+    ForEachBox([&](const VariablePosition&, const CButton& box) { count += IsSelected(box) ? 1U : 0U; });
     return count;
 }
 
-void SelectVarPage::CollectSelected(std::list<KZBasicString>& fullNames) const
+void SelectVarPage::CollectSelected(std::list<KZBasicString>& fullNames)
 {
     std::wstring prefix(m_pDevice->Name().View());
     prefix += L'.';
-    ForEachBox([&](const VariablePosition& position) {
-        if (!IsSelected(Box(position)))
+    ForEachBox([&](const VariablePosition& position, const CButton& box) {
+        if (!IsSelected(box))
             return;
         std::wstring fullName = prefix;
         AppendVariableName(fullName, m_table.family, position);
@@ -179,80 +130,49 @@ void SelectVarPage::CollectSelected(std::list<KZBasicString>& fullNames) const
 
 void SelectVarPage::OnSelectionCommand(UINT id)
 {
-    using Kind = zep::SelectionCommand::Kind;
     const auto command = CommandOf(m_table, static_cast<int>(id));
     if (!command)
         return;
-    switch (command->kind) {
-    case Kind::Box:
-        OnBox({command->row, command->phase.value_or(0), command->side});
-        break;
-    case Kind::Row:
-        OnRow(command->row);
-        break;
-    case Kind::RowSide:
-        OnRowSide(command->row, command->side);
-        break;
-    case Kind::Column:
-        OnColumn(command->side, command->phase);
-        break;
+    if (!command->IsBox()) {
+        if (Toggle(*command))
+            RefreshRowImages(*command);
+        return;
     }
+    // A box that was chosen before takes no part, whoever sends its command.
+    CButton& box = Box({*command->row, *command->phase, *command->side});
+    if (!box.IsWindowEnabled())
+        return;
+    OnBox(box);
+    RefreshRowImages(*command);
 }
 
 // The box is an automatic one: Windows has flipped it already, so a refused mark is taken back.
-void SelectVarPage::OnBox(const VariablePosition& position)
+void SelectVarPage::OnBox(CButton& box)
 {
-    CButton& box = Box(position);
     if (box.GetCheck() != BST_CHECKED)
         SendToContainer(WM_SELECTVAR_UNSELECT, 1);
     else if (SendToContainer(WM_SELECTVAR_SELECT, 1) == 0)
         box.SetCheck(BST_UNCHECKED);
-    RefreshRowImages(position.row, 1, position.side);
 }
 
-void SelectVarPage::OnRow(int row)
+bool SelectVarPage::Toggle(const SelectionCommand& command)
 {
-    Group group;
-    for (const Side side : Sides) {
-        for (int phase = 0; phase < PhaseCount; ++phase)
-            group.Add(Box({row, phase, side}));
-    }
-    if (!Toggle(group))
-        return;
-    for (const Side side : Sides)
-        RefreshRowImages(row, 1, side);
-}
+    std::vector<CButton*> boxes;
+    zep::GroupState group;
+    ForEachBox([&](const VariablePosition& position, CButton& box) {
+        if (!command.Covers(position) || !box.IsWindowEnabled())
+            return;
+        boxes.push_back(&box);
+        group.Add(box.GetCheck() == BST_CHECKED);
+    });
 
-void SelectVarPage::OnRowSide(int row, Side side)
-{
-    Group group;
-    for (int phase = 0; phase < PhaseCount; ++phase)
-        group.Add(Box({row, phase, side}));
-    if (Toggle(group))
-        RefreshRowImages(row, 1, side);
-}
-
-void SelectVarPage::OnColumn(Side side, std::optional<int> phase)
-{
-    Group group;
-    for (int row = 0; row < m_table.RowCount(); ++row) {
-        for (int column = 0; column < PhaseCount; ++column) {
-            if (!phase || *phase == column)
-                group.Add(Box({row, column, side}));
-        }
-    }
-    if (Toggle(group))
-        RefreshRowImages(0, m_table.RowCount(), side);
-}
-
-bool SelectVarPage::Toggle(const Group& group)
-{
-    const zep::GroupToggle toggle = ToggleOf(group.State());
+    const zep::GroupToggle toggle = ToggleOf(group);
     if (!toggle.select)
         SendToContainer(WM_SELECTVAR_UNSELECT, toggle.count);
     else if (SendToContainer(WM_SELECTVAR_SELECT, toggle.count) == 0)
         return false;
-    group.SetChecks(toggle.select);
+    for (CButton* box : boxes)
+        box->SetCheck(toggle.select ? BST_CHECKED : BST_UNCHECKED);
     return true;
 }
 
@@ -264,57 +184,22 @@ LRESULT SelectVarPage::SendToContainer(UINT message, std::size_t count) const
 
 // The picture is the same whatever the state of the rows, and it is named without the image folder: the button looks a
 // bare name up there itself. It says that a row has been touched; the boxes beside it say how.
-void SelectVarPage::RefreshRowImages(int firstRow, int rowCount, Side side)
+void SelectVarPage::RefreshRowImages(const SelectionCommand& command)
 {
     const KZBasicString picture(L"SYSTEM-check.png");
     CRect changed(0, 0, 0, 0);
-    for (int row = firstRow; row < firstRow + rowCount; ++row) {
-        CImageButton& button = m_rows[static_cast<std::size_t>(row)].buttons[static_cast<std::size_t>(side)];
-        if (!button.GetSafeHwnd())
-            continue;
-        button.SetImage(picture, FileTransparency, false);
-        CRect place;
-        button.GetWindowRect(&place);
-        changed.UnionRect(&changed, &place);
+    for (int row = 0; row < m_table.RowCount(); ++row) {
+        for (const Side side : Sides) {
+            CImageButton& button = m_rows[static_cast<std::size_t>(row)].buttons[static_cast<std::size_t>(side)];
+            if (!command.CoversRow(row, side) || !button.GetSafeHwnd())
+                continue;
+            button.SetImage(picture, FileTransparency, false);
+            CRect place;
+            button.GetWindowRect(&place);
+            changed.UnionRect(&changed, &place);
+        }
     }
-    if (changed.IsRectEmpty())
-        return;
     // One call for a whole column: invalidating the buttons one by one costs half as much as checking all its boxes.
     ScreenToClient(&changed);
     RedrawWindow(&changed, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-}
-
-int SelectVarPage::RequiredHeight()
-{
-    if (m_nRequiredHeight == 0)
-        m_nRequiredHeight = SelectVarPageLayout(*this, m_table).Height();
-    return m_nRequiredHeight;
-}
-
-void SelectVarPage::LayoutControls()
-{
-    if ((GetStyle() & WS_VISIBLE) != 0)
-        LayoutNow();
-    else
-        m_bLayoutPending = true;
-}
-
-void SelectVarPage::LayoutNow()
-{
-    m_bLayoutPending = false;
-    CRect client;
-    GetClientRect(&client);
-    SelectVarPageLayout(*this, m_table).Apply(client);
-}
-
-void SelectVarPage::Show()
-{
-    if (m_bLayoutPending)
-        LayoutNow();
-    ShowWindow(SW_SHOW);
-}
-
-void SelectVarPage::MoveTo(const CRect& area)
-{
-    MoveWindow(&area);
 }

@@ -80,17 +80,16 @@ constexpr std::optional<int> OffsetIn(int id, int first, int count) noexcept
 
 std::optional<SelectionCommand> SideCommand(const SelectionTable& table, Side side, int id) noexcept
 {
-    using Kind = SelectionCommand::Kind;
     const auto& ids = table.Ids(side);
     const int rows = table.RowCount();
     if (const auto column = OffsetIn(id, ids.column, 1 + PhaseCount))
-        return SelectionCommand{Kind::Column, 0, *column == 0 ? std::nullopt : std::optional(*column - 1), side};
+        return SelectionCommand{std::nullopt, side, *column == 0 ? std::nullopt : std::optional(*column - 1)};
     if (const auto row = OffsetIn(id, ids.row, rows); row && table.HasRowButton(*row, side))
-        return SelectionCommand{Kind::RowSide, *row, std::nullopt, side};
+        return SelectionCommand{row, side, std::nullopt};
     if (const auto box = OffsetIn(id, ids.box, rows * PhaseCount)) {
         const VariablePosition position{*box % rows, *box / rows, side};
         if (table.HasBox(position))
-            return SelectionCommand{Kind::Box, position.row, position.phase, side};
+            return SelectionCommand{position.row, side, position.phase};
     }
     return std::nullopt;
 }
@@ -105,7 +104,7 @@ const SelectionTable& TableOf(Family family) noexcept
 std::optional<SelectionCommand> CommandOf(const SelectionTable& table, int id) noexcept
 {
     if (const auto row = OffsetIn(id, table.caption, table.RowCount()))
-        return SelectionCommand{SelectionCommand::Kind::Row, *row, std::nullopt, Side::Net};
+        return SelectionCommand{row, std::nullopt, std::nullopt};
     for (const Side side : Sides) {
         if (const auto command = SideCommand(table, side, id))
             return command;

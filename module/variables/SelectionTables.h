@@ -63,18 +63,23 @@ struct SelectionTable {
 
 [[nodiscard]] const SelectionTable& TableOf(Family family) noexcept;
 
-// What the control with some id asks of its page.
+// What the control with some id acts on: the boxes at the coordinates that it gives. A box gives all three and so
+// stands for itself; a caption gives its row, a row-side button its row and side, a column button its side and, unless
+// it is the "all" button, its phase.
 struct SelectionCommand {
-    enum class Kind {
-        Box,      // one check box was clicked: row, phase, side
-        Row,      // toggle a row on both sides: row
-        RowSide,  // toggle a row on one side: row, side
-        Column,   // toggle one phase, or all, of every row of a side: phase (none for all), side
-    };
-    Kind kind = Kind::Box;
-    int row = 0;
+    std::optional<int> row;
+    std::optional<Side> side;
     std::optional<int> phase;
-    Side side = Side::Net;
+
+    [[nodiscard]] constexpr bool IsBox() const noexcept { return row && side && phase; }
+    [[nodiscard]] constexpr bool CoversRow(int otherRow, Side otherSide) const noexcept
+    {
+        return row.value_or(otherRow) == otherRow && side.value_or(otherSide) == otherSide;
+    }
+    [[nodiscard]] constexpr bool Covers(const VariablePosition& position) const noexcept
+    {
+        return CoversRow(position.row, position.side) && phase.value_or(position.phase) == position.phase;
+    }
 
     friend bool operator==(const SelectionCommand&, const SelectionCommand&) noexcept = default;
 };

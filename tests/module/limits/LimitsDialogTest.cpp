@@ -1,6 +1,7 @@
 #include "CDlgLimitsPowerZEP.h"
 #include "KZStringIds.h"
 #include "LimitsDialogFixture.h"
+#include "RefusedPages.h"
 
 namespace {
 
@@ -148,6 +149,16 @@ TEST_F(LimitsDialog, TakesOkAndCancelThatAPageItselfGets)
     EXPECT_EQ(Run([&] { ::SendMessageW(m_pages[Load], WM_COMMAND, IDCANCEL, 0); }), IDCANCEL);
 }
 
+TEST_F(LimitsDialog, SaysThatItsPagesCouldNotBeOpened)
+{
+    const kztest::MessageBoxes boxes;
+    const RefusedPages refused;
+    CDlgLimitsZEP dialog(nullptr, nullptr);
+    dialog.SetDriver(m_plant.Device());
+    EXPECT_EQ(RunDialog(dialog, [] {}), -1);
+    EXPECT_EQ(boxes.Texts(), std::vector{Text(KZS_PAGES_NOT_OPENED)});
+}
+
 TEST_F(LimitsDialog, ShowsThePageOfTheSelectedTab)
 {
     Run([&] {
@@ -268,6 +279,16 @@ TEST_F(LimitsDialogRefusal, NamesTheOrderAndSelectsTheFieldOfAHarmonic)
     EXPECT_EQ(outcome.focus, expected);
     EXPECT_EQ(outcome.selectionStart, 0U);
     EXPECT_EQ(outcome.selectionEnd, 3U);
+}
+
+TEST_F(LimitsDialogRefusal, StaysOpenWhenABoxCannotBeRead)
+{
+    // The change on another page shows that nothing is saved.
+    const auto outcome = PressOk([&] {
+        Type(Net, IDC_HARMONIC_NOMINAL, L"5");
+        ::DestroyWindow(Edit(Load, IDC_HARMONIC_MAXD));
+    });
+    EXPECT_EQ(outcome.messages.size(), 1U);
 }
 
 TEST_F(LimitsDialogRefusal, NamesTheFundamental)

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "SelectVarControls.h"
 #include "SelectionFixture.h"
 
 namespace {
@@ -19,6 +20,7 @@ TEST_F(ChosenBefore, IsMarkedAndDisabled)
     m_names = {L"DEV1.ARM5A2L", L"DEV1.HZIN", L"DEV1.PFI3N", L"OTHER.VI1N", L"DEV1.VI2L", L"DEV1.ARM27A1N"};
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
+        // Order 5 is row 2 and L2 column 1 of 13 rows each: 7288 + 2 + 13.
         for (const auto& [family, id] :
              {std::pair(Family::Harmonic, 7303), std::pair(Family::General, 6719), std::pair(Family::Power, 6933)}) {
             EXPECT_TRUE(dialog.IsChecked(family, id)) << id;
@@ -58,6 +60,24 @@ TEST_F(ChosenBefore, TakesNoPartInGroups)
         EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 4);
     }});
     EXPECT_THAT(dialog.notes, ElementsAre(Unselect(0), Select(2), Unselect(2)));
+}
+
+TEST_F(ChosenBefore, TakesNoNoticeOfAStrayCommand)
+{
+    m_names = {L"DEV1.HZIN"};
+    TestSelection dialog(m_device, m_names, 1);
+    EXPECT_EQ(dialog.Run({[&] {
+        const HWND box = dialog.Control(Family::General, IDC_GENERAL_NET_BOX + 1);
+        for (int i = 0; i < 2; ++i)
+            ::SendMessageW(dialog.Page(Family::General), WM_COMMAND, IDC_GENERAL_NET_BOX + 1,
+                           reinterpret_cast<LPARAM>(box));
+        EXPECT_TRUE(dialog.IsChecked(Family::General, IDC_GENERAL_NET_BOX + 1));
+        dialog.Click(Family::General, IDC_GENERAL_NET_BOX);
+        dialog.PressOk();
+    }}),
+              IDOK);
+    EXPECT_THAT(dialog.notes, ElementsAre(Select(1)));
+    EXPECT_THAT(Names(), ElementsAre(L"DEV1.VI1N"));
 }
 
 TEST_F(ChosenBefore, IsNeverCollected)

@@ -4,12 +4,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "CDlgSelectVarArmonicZEP.h"
 #include "CDlgSelectVarGeneralZEP.h"
 #include "CDlgSelectVarPowerZEP.h"
 #include "FaultyMemory.h"
 #include "GuiResources.h"
+#include "KZStringIds.h"
 #include "MessageBoxes.h"
+#include "RefusedPages.h"
 #include "SelectVarControls.h"
 #include "SelectionFixture.h"
 
@@ -60,6 +64,24 @@ TEST_F(SelectionFaults, GoOnWithoutAPageThatCannotBeAllocated)
                               [] {}}),
                   IDOK);
         EXPECT_EQ(m_names.size(), each.missing == Family::Power ? 0U : 1U);
+    }
+}
+
+TEST_F(SelectionFaults, SayThatNoPageCouldBeOpenedAndLeaveTheHostsListAlone)
+{
+    m_names = {L"DEV1.HZIN"};
+    for (const bool isMemoryScarce : {true, false}) {
+        const kztest::MessageBoxes boxes;
+        const kztest::FaultyMemory memory(Module(), [&](std::size_t size) {
+            return isMemoryScarce && (size == sizeof(CDlgSelectVarGeneralZEP) || size == sizeof(CDlgSelectVarPowerZEP));
+        });
+        TestSelection dialog(m_device, m_names);
+        std::optional<RefusedPages> refused;
+        if (!isMemoryScarce)
+            refused.emplace();
+        EXPECT_EQ(dialog.Run({[&] { dialog.PressOk(); }}), -1);
+        EXPECT_THAT(boxes.Texts(), ElementsAre(HostText(KZS_PAGES_NOT_OPENED)));
+        EXPECT_THAT(Names(), ElementsAre(L"DEV1.HZIN"));
     }
 }
 

@@ -8,7 +8,16 @@
 namespace zep {
 namespace {
 
-using Kind = SelectionCommand::Kind;
+enum class Kind { Box, Row, RowSide, Column };
+
+Kind KindOf(const SelectionCommand& command)
+{
+    if (command.IsBox())
+        return Kind::Box;
+    if (!command.row)
+        return Kind::Column;
+    return command.side ? Kind::RowSide : Kind::Row;
+}
 
 const SelectionTable& General = TableOf(Family::General);
 const SelectionTable& Power = TableOf(Family::Power);
@@ -71,7 +80,7 @@ void ExpectCommandsInExactly(const SelectionTable& table, const std::vector<Rang
         const auto command = CommandOf(table, id);
         ASSERT_EQ(command.has_value(), expected != nullptr) << id;
         if (expected) {
-            EXPECT_EQ(command->kind, expected->kind) << id;
+            EXPECT_EQ(KindOf(*command), expected->kind) << id;
             if (expected->kind != Kind::Row) {
                 EXPECT_EQ(command->side, expected->side) << id;
             }
@@ -120,17 +129,17 @@ TEST(SelectionCommands, CoverExactlyThePowerPagesControls)
 
 TEST(SelectionCommands, AllButtonCoversEveryPhaseAndTheOthersOneEach)
 {
-    EXPECT_EQ(CommandOf(Power, 6713), (SelectionCommand{Kind::Column, 0, std::nullopt, Side::Net}));
-    EXPECT_EQ(CommandOf(Power, 6714), (SelectionCommand{Kind::Column, 0, 0, Side::Net}));
-    EXPECT_EQ(CommandOf(Power, 6716), (SelectionCommand{Kind::Column, 0, 2, Side::Net}));
-    EXPECT_EQ(CommandOf(Power, 6770), (SelectionCommand{Kind::Column, 0, 2, Side::Load}));
+    EXPECT_EQ(CommandOf(Power, 6713), (SelectionCommand{std::nullopt, Side::Net, std::nullopt}));
+    EXPECT_EQ(CommandOf(Power, 6714), (SelectionCommand{std::nullopt, Side::Net, 0}));
+    EXPECT_EQ(CommandOf(Power, 6716), (SelectionCommand{std::nullopt, Side::Net, 2}));
+    EXPECT_EQ(CommandOf(Power, 6770), (SelectionCommand{std::nullopt, Side::Load, 2}));
 }
 
 TEST(SelectionCommands, FindTheRowOfEachButtonAndBox)
 {
     EXPECT_EQ(CommandOf(Harmonic, 7218)->row, 12);
     EXPECT_EQ(CommandOf(Harmonic, 7233)->row, 12);
-    EXPECT_EQ(CommandOf(Harmonic, 7276), (SelectionCommand{Kind::RowSide, 1, std::nullopt, Side::Load}));
+    EXPECT_EQ(CommandOf(Harmonic, 7276), (SelectionCommand{1, Side::Load, std::nullopt}));
     EXPECT_EQ(CommandOf(General, 6889)->row, 3);
     EXPECT_EQ(CommandOf(Power, 7079)->row, 1);
 }
@@ -144,8 +153,7 @@ TEST(SelectionCommands, FindEveryBoxBackFromItsId)
                 for (int phase = 0; phase < PhaseCount; ++phase) {
                     const VariablePosition position{row, phase, side};
                     if (table.HasBox(position)) {
-                        EXPECT_EQ(CommandOf(table, table.BoxId(position)),
-                                  (SelectionCommand{Kind::Box, row, phase, side}));
+                        EXPECT_EQ(CommandOf(table, table.BoxId(position)), (SelectionCommand{row, side, phase}));
                     }
                 }
             }
@@ -153,14 +161,16 @@ TEST(SelectionCommands, FindEveryBoxBackFromItsId)
     }
 }
 
-TEST(SelectionCommands, DifferInEachPart)
+TEST(SelectionCommands, CoverTheBoxesAtTheirCoordinates)
 {
-    const SelectionCommand command{Kind::Box, 3, 1, Side::Net};
-    EXPECT_EQ(command, (SelectionCommand{Kind::Box, 3, 1, Side::Net}));
-    EXPECT_NE(command, (SelectionCommand{Kind::Row, 3, 1, Side::Net}));
-    EXPECT_NE(command, (SelectionCommand{Kind::Box, 4, 1, Side::Net}));
-    EXPECT_NE(command, (SelectionCommand{Kind::Box, 3, 2, Side::Net}));
-    EXPECT_NE(command, (SelectionCommand{Kind::Box, 3, 1, Side::Load}));
+    const VariablePosition position{3, 1, Side::Load};
+    EXPECT_TRUE((SelectionCommand{3, std::nullopt, std::nullopt}.Covers(position)));
+    EXPECT_TRUE((SelectionCommand{3, Side::Load, std::nullopt}.Covers(position)));
+    EXPECT_TRUE((SelectionCommand{std::nullopt, Side::Load, std::nullopt}.Covers(position)));
+    EXPECT_TRUE((SelectionCommand{std::nullopt, Side::Load, 1}.Covers(position)));
+    EXPECT_FALSE((SelectionCommand{2, std::nullopt, std::nullopt}.Covers(position)));
+    EXPECT_FALSE((SelectionCommand{3, Side::Net, std::nullopt}.Covers(position)));
+    EXPECT_FALSE((SelectionCommand{std::nullopt, Side::Load, 0}.Covers(position)));
 }
 
 }  // namespace

@@ -1,0 +1,56 @@
+// What a dialog with pages under a tab control does: it makes the tabs, shows one page at a time, and places the pages.
+//
+// A dialog has one as a member. The pages and the controls stay the dialog's own.
+#pragma once
+
+#include <afxcmn.h>
+
+#include <initializer_list>
+#include <vector>
+
+#include "KZBasicString.h"
+#include "TabPage.h"
+
+class TabContainer {
+public:
+    //   current   the dialog's pointer to the page that is shown, null when none is
+    TabContainer(CDialog& dialog, CTabCtrl& tab, TabPage*& current) noexcept
+        : m_dialog(dialog), m_tab(tab), m_current(current)
+    {
+    }
+
+    // Gives the tabs pictures of the host's image folder.
+    void SetImages(CImageList& images, std::initializer_list<const wchar_t*> fileNames);
+    // Adds a tab at the end for a page that has its window.
+    void Add(TabPage& page, const KZBasicString& text, int image);
+    // Forgets the pages, which are about to be destroyed.
+    void Clear() noexcept;
+
+    // Shows the page of the tab that is selected instead of the current one.
+    void ShowSelected();
+
+    // Whether there are pages to lay out. Not while a layout is under way: fitting the dialog's height sends WM_SIZE,
+    // and the outer layout finishes with the new client area.
+    [[nodiscard]] bool CanLayOut() const noexcept { return !m_pages.empty() && !m_bLayingOut; }
+    // Carries out the dialog's plan, fits the dialog's height to it, and moves the pages over the tab control.
+    //   tabHeight   of the row of tabs, in pixels
+    void Layout(LayoutPlan& plan, int tabHeight);
+    // The size code of the tab control's height around a page.
+    [[nodiscard]] static int ControlHeight(int tabHeight, int pageHeight);
+
+    // Return on a button inside a page sends the button's command to the top dialog, while the mouse and Space send it
+    // to the page: this hands the former to the page too. Returns true when the command came from a page's control.
+    bool ForwardCommand(WPARAM wParam, LPARAM lParam) const;
+
+    // Says that the pages could not be opened and ends the dialog with -1.
+    void GiveUp();
+
+private:
+    [[nodiscard]] CRect PageArea(int tabHeight) const;
+
+    CDialog& m_dialog;
+    CTabCtrl& m_tab;
+    TabPage*& m_current;
+    std::vector<TabPage*> m_pages;  // in tab order
+    bool m_bLayingOut = false;
+};

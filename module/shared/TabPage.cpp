@@ -1,0 +1,63 @@
+#include "TabPage.h"
+
+bool TabPage::Create(CWnd* container)
+{
+    return CDialog::Create(m_nTemplate, container) != FALSE;
+}
+
+int TabPage::NeededHeight()
+{
+    if (m_nNeededHeight == 0) {
+        LayoutPlan plan(*this);
+        PlanLayout(plan);
+        m_nNeededHeight = plan.Height();
+    }
+    return m_nNeededHeight;
+}
+
+void TabPage::MoveTo(const CRect& area)
+{
+    MoveWindow(&area);
+    LayoutControls();
+}
+
+void TabPage::Show()
+{
+    LayoutNow();
+    ShowWindow(SW_SHOW);
+}
+
+void TabPage::LayoutControls()
+{
+    if ((GetStyle() & WS_VISIBLE) != 0)
+        LayoutNow();
+}
+
+// Moving a page can send it WM_SIZE, on which it may lay itself out too.
+void TabPage::LayoutNow()
+{
+    CRect client;
+    GetClientRect(&client);
+    if (client.Size() == m_laidOut)
+        return;
+    m_laidOut = client.Size();
+    LayoutPlan plan(*this);
+    PlanLayout(plan);
+    plan.Apply();
+}
+
+void TabPage::OnOK()
+{
+    PostToContainer(IDOK);
+}
+
+void TabPage::OnCancel()
+{
+    PostToContainer(IDCANCEL);
+}
+
+void TabPage::PostToContainer(WPARAM command) const
+{
+    if (const CWnd* container = GetParent())
+        ::PostMessageW(container->m_hWnd, WM_COMMAND, command, 0);
+}
