@@ -1,81 +1,33 @@
-# shellcheck shell=bash disable=SC2034,SC2154
+# shellcheck shell=bash disable=SC2034,SC2086,SC2154 # ids are numbers; the scripts that source this use and set the rest
 # To be sourced after desktop.sh. What a user does on the roads through the module, one function per action, for the tour and
 # the end-to-end tests. Controls are named by their ids, so the actions are the same in each language.
 
 # The editor's main window, whose title ends with the name of the project's folder, and its message boxes
 main_title=' plant'
 message_title='=KZEditor'
-id_options=1001
-id_select=1002
-id_save=1004
-id_devices=1011
-id_chosen=1013
-id_pane_label=1014
 
-# The buttons of every dialog and message
-id_ok=1
-id_cancel=2
-id_yes=6
-id_no=7
-id_message_text=65535
-
-# The options hub's section buttons
-id_section_driver=1200
-id_section_device=1201
-id_section_limits=1202
-id_section_units=1203
-
-# The select-variables dialog. Boxes are first id + row + rows * phase.
-id_select_tab=6697
-id_net_column=6713
-id_load_column=6767
-id_general_net_box=6718
-id_power_net_box=6922
-id_power_load_box=6970
-id_power_load_row=7078
-id_harmonic_caption=7206
-id_harmonic_net_box=7236
-id_harmonic_load_box=7288
-
-# The device settings; filter n is harmonic 2n + 3
-id_minimum_current=5062
-id_number_of_units=5077
-id_mode=8094
-id_filter=8098
-
-# The units dialog
-id_apparent_kilo=8020
-id_apparent_plain=8027
-id_apparent_one_decimal=8059
-id_apparent_three_decimals=8071
-id_reactive_kilo=8021
-id_reactive_plain=8028
-id_reactive_no_decimals=8050
-id_reactive_one_decimal=8060
-id_reactive_two_decimals=8066
-
-# The limits dialog; harmonic rows are first id + row
-id_limits_tab=5150
-id_active_power_outer=5406
-id_power_factor_inner=5392
-id_harmonic_nominal=5461
-id_harmonic_outer=5534
+# The controls have the names that the product's own headers give them: $IDC_DEVICES, $IDC_UNITS… Where a header says
+# "to N", the following controls of the row or block have the following numbers. Windows names the buttons of messages.
+IDOK=1 IDCANCEL=2 IDYES=6 IDNO=7 IDC_MESSAGE_TEXT=65535
+roads_ids=$(sed -nE 's/^#define ((KZ_)?IDC_[A-Z0-9_]+) +([0-9]+).*/\1=\3/p' \
+  "$root"/editor/resources/EditorIds.h "$root"/host/dialogs/*Ids.h "$root"/module/*/*Controls.h)
+eval "$roads_ids"
 
 open_editor() {
   editor --project "$@"
   window "$main_title"
-  until_control "$main_title" $id_devices ITEMS=6
+  until_control "$main_title" $IDC_DEVICES ITEMS=6
 }
 
 # choose_device ROW NAME: with the mouse
 choose_device() {
-  click "$main_title" $id_devices "$1"
-  until_control "$main_title" $id_pane_label "TEXT=$2"
+  click "$main_title" $IDC_DEVICES "$1"
+  until_control "$main_title" $IDC_PANE_LABEL "TEXT=$2"
 }
 
 # open_selection NAME: with the mouse; the dialog's title ends with the device's name
 open_selection() {
-  click "$main_title" $id_select
+  click "$main_title" $IDC_SELECT
   window " - $1"
 }
 
@@ -98,12 +50,19 @@ show_tab() {
   until_control "$1" "$4" shown
 }
 
-# tab_to TITLE ID: presses Tab until the control has the focus
+# tab_to TITLE ID: presses Tab until the control has the focus. A Tab that was not seen to arrive is not pressed again, or
+# the focus could go past the control on a busy machine.
 tab_to() {
-  local _
+  local focus before _
+  focus=$(probe focus)
   for _ in $(seq 60); do
-    if [ "$(probe focus)" = "$2" ]; then return; fi
+    if [ "$focus" = "$2" ]; then return; fi
+    before=$focus
     key Tab
+    for _ in $(seq 1000); do
+      focus=$(probe focus)
+      if [ "$focus" != "$before" ]; then break; fi
+    done
   done
   desktop_die "Tab does not reach control $2 of \"$1\""
 }
@@ -119,7 +78,7 @@ fill() {
 
 # answer BUTTON_ID [TEXT]: presses the button of the message box; its text must contain TEXT
 answer() {
-  if [ $# -gt 1 ]; then until_control "$message_title" $id_message_text "TEXT=$2"; fi
+  if [ $# -gt 1 ]; then until_control "$message_title" $IDC_MESSAGE_TEXT "TEXT=$2"; fi
   click "$message_title" "$1"
   window_gone "$message_title"
 }
@@ -131,15 +90,15 @@ close_dialog() {
 }
 
 save_by_key() {
-  until_control "$main_title" $id_save enabled
+  until_control "$main_title" $IDC_SAVE enabled
   key ctrl+s
-  until_control "$main_title" $id_save disabled
+  until_control "$main_title" $IDC_SAVE disabled
 }
 
 save_project() {
-  until_control "$main_title" $id_save enabled
-  click "$main_title" $id_save
-  until_control "$main_title" $id_save disabled
+  until_control "$main_title" $IDC_SAVE enabled
+  click "$main_title" $IDC_SAVE
+  until_control "$main_title" $IDC_SAVE disabled
 }
 
 # enter ID TEXT: the same from the keyboard, in a dialog in which the Tab key reaches the box, which marks its text

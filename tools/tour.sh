@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# shellcheck disable=SC2086 # ids are numbers
 # The guided tour: opens the editor on a copy of examples/plant on a private virtual display, walks the roads through the
 # module with real clicks and keys, leaves one picture per step under build/tour, and prints what the roads have produced.
 # A step that does not come true ends it with an error.
@@ -55,78 +56,78 @@ step_plant() {
 }
 step_selection() { open_selection $device; }
 step_single_boxes() {
-  check_box "$dialog" $((id_general_net_box + 1))
-  check_box "$dialog" $((id_general_net_box + 2))
+  check_box "$dialog" $((IDC_GENERAL_NET_BOX + 1))
+  check_box "$dialog" $((IDC_GENERAL_NET_BOX + 2))
 }
 step_whole_row() {
-  show_tab "$dialog" $id_select_tab 1 $id_power_load_row
-  click "$dialog" $id_power_load_row
-  until_control "$dialog" $((id_power_load_box + 8)) checked
+  show_tab "$dialog" $IDC_SELECTVAR_TAB 1 $IDC_POWER_LOAD_ROW
+  click "$dialog" $IDC_POWER_LOAD_ROW
+  until_control "$dialog" $((IDC_POWER_LOAD_BOX + 8)) checked
 }
 step_by_keyboard() {
-  show_tab "$dialog" $id_select_tab 2 $id_harmonic_caption
-  tab_to "$dialog" $((id_harmonic_net_box + 2))
+  show_tab "$dialog" $IDC_SELECTVAR_TAB 2 $IDC_HARMONIC_CAPTION
+  tab_to "$dialog" $((IDC_HARMONIC_NET_BOX + 2))
   key space
-  until_control "$dialog" $((id_harmonic_net_box + 2)) checked
+  until_control "$dialog" $((IDC_HARMONIC_NET_BOX + 2)) checked
 }
 step_chosen() {
-  close_dialog "$dialog" $id_ok
-  until_control "$main_title" $id_chosen ITEMS=11
+  close_dialog "$dialog" $IDOK
+  until_control "$main_title" $IDC_CHOSEN ITEMS=11
 }
 step_hub() {
-  click "$main_title" $id_options
+  click "$main_title" $IDC_OPTIONS
   window "$dialog"
 }
 step_settings() {
-  open_section $id_section_device $id_minimum_current
-  fill $id_minimum_current 150
-  check_box '' $((id_filter + 3))
+  open_section $KZ_IDC_OPTIONS_DEVICE $IDC_CURRENT
+  fill $IDC_CURRENT 150
+  check_box '' $((IDC_FILTER + 3))
 }
 step_confirmation() {
-  click '' $id_ok
-  until_control "$message_title" $id_yes shown
+  click '' $IDOK
+  until_control "$message_title" $IDYES shown
 }
 step_units() {
-  answer $id_yes
+  answer $IDYES
   window "$dialog"
-  open_section $id_section_units $id_apparent_three_decimals
-  click '' $id_apparent_plain
-  click '' $id_apparent_three_decimals
-  until_control '' $id_apparent_three_decimals checked
+  open_section $KZ_IDC_OPTIONS_UNITS $IDC_APPARENT_DEC_3
+  click '' $IDC_APPARENT_PLAIN
+  click '' $IDC_APPARENT_DEC_3
+  until_control '' $IDC_APPARENT_DEC_3 checked
 }
 step_limits() {
-  click '' $id_ok
+  click '' $IDOK
   window "$dialog"
-  open_section $id_section_limits $id_limits_tab
+  open_section $KZ_IDC_OPTIONS_LIMITS $IDC_LIMITS_TAB
 }
 step_refused() {
-  fill $id_active_power_outer 2000
-  click '' $id_ok
+  fill $IDC_AP_MAXD 2000
+  click '' $IDOK
   window "$message_title"
 }
 step_harmonic_limits() {
-  answer $id_ok
-  fill $id_active_power_outer 97
-  show_tab '' $id_limits_tab 1 $id_harmonic_outer
+  answer $IDOK
+  fill $IDC_AP_MAXD 97
+  show_tab '' $IDC_LIMITS_TAB 1 $IDC_HARMONIC_MAXD
 }
 step_saved() {
-  click '' $id_ok
+  click '' $IDOK
   window "$dialog"
-  close_dialog "$dialog" $id_ok
+  close_dialog "$dialog" $IDOK
   save_project
 }
 step_maximum() {
   close_editor
   printed 'The exit status of the window' "$editor_status"
   open_command PINTURA select PINTURA --max 2
-  click ' - PINTURA' $id_general_net_box
-  click ' - PINTURA' $((id_general_net_box + 1))
-  click ' - PINTURA' $((id_general_net_box + 2))
+  click ' - PINTURA' $IDC_GENERAL_NET_BOX
+  click ' - PINTURA' $((IDC_GENERAL_NET_BOX + 1))
+  click ' - PINTURA' $((IDC_GENERAL_NET_BOX + 2))
   window "$message_title"
 }
 step_spanish() {
-  answer $id_ok
-  click ' - PINTURA' $id_ok
+  answer $IDOK
+  click ' - PINTURA' $IDOK
   editor_end
   printed 'select PINTURA --max 2' "$editor_output"
   open_command PINTURA --language es select PINTURA

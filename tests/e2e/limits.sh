@@ -12,25 +12,25 @@ limits_of_train() {
 test_limits_by_mouse() {
   open_editor "$project" --language "$language"
   choose_device 0 TREN1
-  click "$main_title" $id_options
+  click "$main_title" $IDC_OPTIONS
   window ' - TREN1'
-  open_section $id_section_limits $id_limits_tab
+  open_section $KZ_IDC_OPTIONS_LIMITS $IDC_LIMITS_TAB
   snapshot powers
-  fill $id_active_power_outer 2000
-  click '' $id_ok
-  until_control "$message_title" $id_ok shown
+  fill $IDC_AP_MAXD 2000
+  click '' $IDOK
+  until_control "$message_title" $IDOK shown
   snapshot refused
-  answer $id_ok "$(in_language '0 % and 100 %' '0 % y 100 %')"
-  fill $id_active_power_outer "$(in_language 97.5 97,5)"
-  show_tab '' $id_limits_tab 1 $id_harmonic_nominal
-  fill $((id_harmonic_nominal + 2)) "$(in_language 7.25 7,25)"
+  answer $IDOK "$(in_language '0 % and 100 %' '0 % y 100 %')"
+  fill $IDC_AP_MAXD "$(in_language 97.5 97,5)"
+  show_tab '' $IDC_LIMITS_TAB 1 $IDC_HARMONIC_NOMINAL
+  fill $((IDC_HARMONIC_NOMINAL + 2)) "$(in_language 7.25 7,25)"
   snapshot net
-  show_tab '' $id_limits_tab 2 $id_harmonic_outer
-  fill $((id_harmonic_outer + 3)) 50
+  show_tab '' $IDC_LIMITS_TAB 2 $IDC_HARMONIC_MAXD
+  fill $((IDC_HARMONIC_MAXD + 3)) 50
   snapshot load
-  click '' $id_ok
+  click '' $IDOK
   window ' - TREN1'
-  close_dialog ' - TREN1' $id_ok
+  close_dialog ' - TREN1' $IDOK
   save_project
   snapshot plant
   click_close_box "$main_title"
@@ -40,21 +40,21 @@ test_limits_by_mouse() {
 
 test_limits_by_keyboard() {
   open_editor "$project" --language "$language"
-  until_control "$main_title" $id_devices focused
+  until_control "$main_title" $IDC_DEVICES focused
   key F4
   window ' - TREN1'
-  press_key_on $id_section_limits space
-  until_control '' $id_active_power_outer shown
-  enter $id_active_power_outer "$(in_language 97.5 97,5)"
-  press_key_on $id_limits_tab Right
-  until_control '' $id_harmonic_nominal shown
-  enter $((id_harmonic_nominal + 2)) "$(in_language 7.25 7,25)"
-  press_key_on $id_limits_tab Right
-  enter $((id_harmonic_outer + 3)) 50
+  press_key_on $KZ_IDC_OPTIONS_LIMITS space
+  until_control '' $IDC_AP_MAXD shown
+  enter $IDC_AP_MAXD "$(in_language 97.5 97,5)"
+  press_key_on $IDC_LIMITS_TAB Right
+  until_control '' $IDC_HARMONIC_NOMINAL shown
+  enter $((IDC_HARMONIC_NOMINAL + 2)) "$(in_language 7.25 7,25)"
+  press_key_on $IDC_LIMITS_TAB Right
+  enter $((IDC_HARMONIC_MAXD + 3)) 50
   snapshot load
   key Return
   window ' - TREN1'
-  press_key_on $id_ok Return
+  press_key_on $IDOK Return
   window_gone ' - TREN1'
   save_by_key
   close_editor

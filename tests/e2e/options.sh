@@ -6,27 +6,27 @@ test_set_up_a_filter() {
   editor --project "$project" --language "$language" options TREN1
   window ' - TREN1'
 
-  open_section $id_section_device $id_minimum_current
-  fill $id_minimum_current 201
-  click '' $id_ok
-  answer $id_ok ' 200'
-  fill $id_minimum_current 150
-  click '' $id_ok
-  answer $id_yes
+  open_section $KZ_IDC_OPTIONS_DEVICE $IDC_CURRENT
+  fill $IDC_CURRENT 201
+  click '' $IDOK
+  answer $IDOK ' 200'
+  fill $IDC_CURRENT 150
+  click '' $IDOK
+  answer $IDYES
   window ' - TREN1'
 
-  open_section $id_section_units $id_apparent_three_decimals
-  click '' $id_apparent_plain
-  click '' $id_apparent_three_decimals
-  click '' $id_ok
+  open_section $KZ_IDC_OPTIONS_UNITS $IDC_APPARENT_DEC_3
+  click '' $IDC_APPARENT_PLAIN
+  click '' $IDC_APPARENT_DEC_3
+  click '' $IDOK
   window ' - TREN1'
 
-  open_section $id_section_limits $id_limits_tab
-  fill $id_active_power_outer 95
-  click '' $id_ok
+  open_section $KZ_IDC_OPTIONS_LIMITS $IDC_LIMITS_TAB
+  fill $IDC_AP_MAXD 95
+  click '' $IDOK
   window ' - TREN1'
 
-  click ' - TREN1' $id_ok
+  click ' - TREN1' $IDOK
   command_result 0 'options: true'
   equal 'the minimum current' "$(grep -o '<minCurrent>[^<]*' "$project/devices/zep-01.xml")" '<minCurrent>150'
   equal 'the decimals' "$(record unitSetups zep-01 decimals | cut -d' ' -f1)" 3

@@ -7,19 +7,19 @@ dialog=' - PINTURA'
 test_select_by_mouse() {
   open_editor "$project" --language "$language"
   choose_device 2 PINTURA
-  until_control "$main_title" $id_chosen ITEMS=0
+  until_control "$main_title" $IDC_CHOSEN ITEMS=0
   open_selection PINTURA
-  show_tab "$dialog" $id_select_tab 2 $id_harmonic_caption
-  click "$dialog" $((id_harmonic_caption + 2))
-  until_control "$dialog" $((id_harmonic_load_box + 2 + 26)) checked
-  show_tab "$dialog" $id_select_tab 1 $id_power_load_box
-  click "$dialog" $((id_load_column + 2))
-  until_control "$dialog" $((id_power_load_box + 3 + 4)) checked
-  show_tab "$dialog" $id_select_tab 0 $id_general_net_box
-  check_box "$dialog" $((id_general_net_box + 1))
+  show_tab "$dialog" $IDC_SELECTVAR_TAB 2 $IDC_HARMONIC_CAPTION
+  click "$dialog" $((IDC_HARMONIC_CAPTION + 2))
+  until_control "$dialog" $((IDC_HARMONIC_LOAD_BOX + 2 + 26)) checked
+  show_tab "$dialog" $IDC_SELECTVAR_TAB 1 $IDC_POWER_LOAD_BOX
+  click "$dialog" $((IDC_LOAD_COLUMN + 2))
+  until_control "$dialog" $((IDC_POWER_LOAD_BOX + 3 + 4)) checked
+  show_tab "$dialog" $IDC_SELECTVAR_TAB 0 $IDC_GENERAL_NET_BOX
+  check_box "$dialog" $((IDC_GENERAL_NET_BOX + 1))
   snapshot selection
-  close_dialog "$dialog" $id_ok
-  until_control "$main_title" $id_chosen ITEMS=11
+  close_dialog "$dialog" $IDOK
+  until_control "$main_title" $IDC_CHOSEN ITEMS=11
   save_project
   snapshot plant
   click_close_box "$main_title"
@@ -31,25 +31,25 @@ test_select_by_mouse() {
 # rest, Return is OK and Ctrl+S saves.
 test_select_by_keyboard() {
   open_editor "$project" --language "$language"
-  until_control "$main_title" $id_devices focused
+  until_control "$main_title" $IDC_DEVICES focused
   key Down Down
-  until_control "$main_title" $id_pane_label TEXT=PINTURA
+  until_control "$main_title" $IDC_PANE_LABEL TEXT=PINTURA
   key F5
   window "$dialog"
-  until_control "$dialog" $id_select_tab focused
+  until_control "$dialog" $IDC_SELECTVAR_TAB focused
   key Right
-  until_control "$dialog" $id_power_net_box shown
-  tab_to "$dialog" $id_net_column
+  until_control "$dialog" $IDC_POWER_NET_BOX shown
+  tab_to "$dialog" $IDC_NET_COLUMN
   key space
-  until_control "$dialog" $((id_power_net_box + 11)) checked
-  tab_to "$dialog" $((id_power_load_box + 3))
+  until_control "$dialog" $((IDC_POWER_NET_BOX + 11)) checked
+  tab_to "$dialog" $((IDC_POWER_LOAD_BOX + 3))
   key space
-  until_control "$dialog" $((id_power_load_box + 3)) checked
+  until_control "$dialog" $((IDC_POWER_LOAD_BOX + 3)) checked
   snapshot selection
-  tab_to "$dialog" $id_ok
+  tab_to "$dialog" $IDOK
   key Return
   window_gone "$dialog"
-  until_control "$main_title" $id_chosen ITEMS=13
+  until_control "$main_title" $IDC_CHOSEN ITEMS=13
   save_by_key
   close_editor
   equal 'the chosen variables' "$(chosen zep-03)" \
@@ -60,12 +60,12 @@ test_select_by_keyboard() {
 test_select_up_to_a_maximum() {
   editor --project "$project" --language "$language" select PINTURA --max 2
   window "$dialog"
-  check_box "$dialog" $id_general_net_box
-  check_box "$dialog" $((id_general_net_box + 1))
-  click "$dialog" $((id_general_net_box + 2))
-  answer $id_ok ' 2 '
-  until_control "$dialog" $((id_general_net_box + 2)) unchecked
-  click "$dialog" $id_ok
+  check_box "$dialog" $IDC_GENERAL_NET_BOX
+  check_box "$dialog" $((IDC_GENERAL_NET_BOX + 1))
+  click "$dialog" $((IDC_GENERAL_NET_BOX + 2))
+  answer $IDOK ' 2 '
+  until_control "$dialog" $((IDC_GENERAL_NET_BOX + 2)) unchecked
+  click "$dialog" $IDOK
   command_result 0 'select: true' 'variable: PINTURA.VI1N' 'variable: PINTURA.HZIN'
 }
 
@@ -73,8 +73,8 @@ test_select_up_to_a_maximum() {
 test_cancel_a_selection() {
   editor --project "$project" --language "$language" select PINTURA --list PINTURA.VI3N,CPD.HZIN
   window "$dialog"
-  until_control "$dialog" $((id_general_net_box + 8)) disabled
-  check_box "$dialog" $id_general_net_box
+  until_control "$dialog" $((IDC_GENERAL_NET_BOX + 8)) disabled
+  check_box "$dialog" $IDC_GENERAL_NET_BOX
   key Escape
   command_result 1 'select: false' 'variable: PINTURA.VI3N' 'variable: CPD.HZIN'
 }
@@ -85,9 +85,9 @@ test_minimal_host() {
   export WINEPATH
   program "$build/examples/MinimalHost.exe" "$(wine_path "$desktop_bin/KZUsrZEP.dll")" "$(wine_path "$project")"
   window ' - TREN1'
-  until_control ' - TREN1' $id_general_net_box disabled
-  check_box ' - TREN1' $((id_general_net_box + 1))
+  until_control ' - TREN1' $IDC_GENERAL_NET_BOX disabled
+  check_box ' - TREN1' $((IDC_GENERAL_NET_BOX + 1))
   snapshot selection
-  click ' - TREN1' $id_ok
+  click ' - TREN1' $IDOK
   command_result 0 $'TREN1.HZIN\r'
 }

@@ -11,31 +11,31 @@ settings_of_train() {
 test_settings_by_mouse() {
   open_editor "$project" --language "$language"
   choose_device 0 TREN1
-  click "$main_title" $id_options
+  click "$main_title" $IDC_OPTIONS
   window ' - TREN1'
   snapshot hub
-  open_section $id_section_device $id_minimum_current
-  until_control '' $id_ok "VALUE=$(in_language OK Aceptar)"
-  check_box '' $((id_mode + 1))
-  check_box '' $((id_filter + 3))
-  fill $id_minimum_current 201
-  click '' $id_ok
-  answer $id_ok "$(in_language 'between 0 and 200' 'entre 0 y 200')"
-  fill $id_minimum_current 150
-  fill $id_number_of_units 9
-  click '' $id_ok
+  open_section $KZ_IDC_OPTIONS_DEVICE $IDC_CURRENT
+  until_control '' $IDOK "VALUE=$(in_language OK Aceptar)"
+  check_box '' $((IDC_MODE + 1))
+  check_box '' $((IDC_FILTER + 3))
+  fill $IDC_CURRENT 201
+  click '' $IDOK
+  answer $IDOK "$(in_language 'between 0 and 200' 'entre 0 y 200')"
+  fill $IDC_CURRENT 150
+  fill $IDC_UNITS 9
+  click '' $IDOK
   snapshot refused
-  answer $id_ok "$(in_language 'between 1 and 8' 'entre 1 y 8')"
-  fill $id_number_of_units 6
+  answer $IDOK "$(in_language 'between 1 and 8' 'entre 1 y 8')"
+  fill $IDC_UNITS 6
   snapshot settings
-  click '' $id_ok
-  until_control "$message_title" $id_yes shown
+  click '' $IDOK
+  until_control "$message_title" $IDYES shown
   snapshot question
-  answer $id_no
+  answer $IDNO
   unchanged devices/zep-01.xml
-  click '' $id_ok
-  answer $id_yes
-  close_dialog ' - TREN1' $id_ok
+  click '' $IDOK
+  answer $IDYES
+  close_dialog ' - TREN1' $IDOK
   snapshot plant
   click_close_box "$main_title"
   editor_ended
@@ -44,21 +44,21 @@ test_settings_by_mouse() {
 
 test_settings_by_keyboard() {
   open_editor "$project" --language "$language"
-  until_control "$main_title" $id_devices focused
+  until_control "$main_title" $IDC_DEVICES focused
   key F4
   window ' - TREN1'
-  press_key_on $id_section_device space
-  until_control '' $id_minimum_current shown
-  press_key_on $((id_mode + 1)) space
-  press_key_on $((id_filter + 3)) space
-  enter $id_minimum_current 150
-  enter $id_number_of_units 6
+  press_key_on $KZ_IDC_OPTIONS_DEVICE space
+  until_control '' $IDC_CURRENT shown
+  press_key_on $((IDC_MODE + 1)) space
+  press_key_on $((IDC_FILTER + 3)) space
+  enter $IDC_CURRENT 150
+  enter $IDC_UNITS 6
   snapshot settings
   key Return
-  until_control "$message_title" $id_yes focused
+  until_control "$message_title" $IDYES focused
   key Return
   window ' - TREN1'
-  press_key_on $id_ok Return
+  press_key_on $IDOK Return
   window_gone ' - TREN1'
   close_editor
   settings_of_train

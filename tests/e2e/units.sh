@@ -5,16 +5,16 @@
 test_units_by_mouse() {
   open_editor "$project" --language "$language"
   choose_device 2 PINTURA
-  click "$main_title" $id_section_units
-  until_control '' $id_apparent_kilo shown
-  until_control '' $id_apparent_plain checked
-  until_control '' $id_apparent_one_decimal checked
-  click '' $id_apparent_kilo
-  click '' $id_apparent_three_decimals
-  click '' $id_reactive_two_decimals
-  until_control '' $id_reactive_two_decimals checked
+  click "$main_title" $KZ_IDC_OPTIONS_UNITS
+  until_control '' $IDC_APPARENT_KILO shown
+  until_control '' $IDC_APPARENT_PLAIN checked
+  until_control '' $IDC_APPARENT_DEC_1 checked
+  click '' $IDC_APPARENT_KILO
+  click '' $IDC_APPARENT_DEC_3
+  click '' $IDC_REACTIVE_DEC_2
+  until_control '' $IDC_REACTIVE_DEC_2 checked
   snapshot units
-  click '' $id_ok
+  click '' $IDOK
   save_project
   snapshot plant
   click_close_box "$main_title"
@@ -27,22 +27,22 @@ test_units_by_mouse() {
 
 test_units_by_keyboard() {
   open_editor "$project" --language "$language"
-  until_control "$main_title" $id_devices focused
+  until_control "$main_title" $IDC_DEVICES focused
   key F4
   window ' - TREN1'
-  press_key_on $id_section_units space
-  until_control '' $id_apparent_kilo shown
-  press_key_on $id_apparent_kilo Down
-  until_control '' $id_apparent_plain checked
-  tab_to '' $id_apparent_one_decimal
+  press_key_on $KZ_IDC_OPTIONS_UNITS space
+  until_control '' $IDC_APPARENT_KILO shown
+  press_key_on $IDC_APPARENT_KILO Down
+  until_control '' $IDC_APPARENT_PLAIN checked
+  tab_to '' $IDC_APPARENT_DEC_1
   key Down Down
-  until_control '' $id_apparent_three_decimals checked
-  press_key_on $id_reactive_one_decimal Up
-  until_control '' $id_reactive_no_decimals checked
+  until_control '' $IDC_APPARENT_DEC_3 checked
+  press_key_on $IDC_REACTIVE_DEC_1 Up
+  until_control '' $IDC_REACTIVE_DEC_0 checked
   snapshot units
   key Return
   window ' - TREN1'
-  press_key_on $id_ok Return
+  press_key_on $IDOK Return
   window_gone ' - TREN1'
   save_by_key
   close_editor
