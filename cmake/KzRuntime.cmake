@@ -1,13 +1,13 @@
-# The compiler's runtime DLLs stand beside the products, so that build/windows/bin can be copied to a Windows machine as it is.
+# The runtime DLLs of g++ stand beside the products, so that build/windows/bin can be copied to a Windows machine as it is.
 set(runtime_dlls libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
 if(KZ_HARDEN)
   list(APPEND runtime_dlls libssp-0.dll)  # the stack protector's
 endif()
 set(copies)
 foreach(dll ${runtime_dlls})
-  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll} OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
+  execute_process(COMMAND ${KZ_GXX} -print-file-name=${dll} OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
   if(NOT IS_ABSOLUTE "${path}")
-    # The compiler does not know the folder of the thread library's DLL, which is beside the target's libraries.
+    # g++ does not know the folder of the thread library's DLL, which is beside the target's libraries.
     find_file(path_${dll} ${dll} PATHS ${CMAKE_FIND_ROOT_PATH}/lib NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
     set(path ${path_${dll}})
   endif()

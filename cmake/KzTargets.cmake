@@ -10,6 +10,8 @@ function(kz_common target)
   target_compile_options(${target} PRIVATE
     $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror>)
   if(WIN32)
+    # MFC's own names, such as CDialog::Create beside CWnd::Create, hide inherited ones.
+    target_compile_options(${target} PRIVATE $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-overloaded-virtual>)
     target_compile_definitions(${target} PRIVATE UNICODE _UNICODE WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0700)
   endif()
   if(KZ_HARDEN)

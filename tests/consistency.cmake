@@ -15,4 +15,10 @@ if(WIN32)
     kz_consistency(${check} ${check})
   endforeach()
   kz_consistency(exports exports ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+
+  # The linters that need no build; "./dev lint" has the others too.
+  foreach(what format shell python)
+    add_test(NAME lint.${what} COMMAND ${CMAKE_SOURCE_DIR}/tools/lint.sh ${what})
+    set_tests_properties(lint.${what} PROPERTIES TIMEOUT 120 LABELS consistency)
+  endforeach()
 endif()

@@ -41,7 +41,10 @@ for program in "${programs[@]}"; do
 done
 
 if [ "$record" = --record ]; then
-  grep -qxF "$begin" "$document" && grep -qxF "$end" "$document" || { echo "bench.sh: $document lacks its marks" >&2; exit 1; }
+  if ! grep -qxF "$begin" "$document" || ! grep -qxF "$end" "$document"; then
+    echo "bench.sh: $document lacks its marks" >&2
+    exit 1
+  fi
   awk -v begin="$begin" -v end="$end" -v table="$table" '
     $0 == end { inside = 0 }
     !inside { print }

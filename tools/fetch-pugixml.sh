@@ -14,6 +14,7 @@ trap 'rm -rf "$work"' EXIT
 known() {
   local release
   release=$(. /etc/os-release && echo "${VERSION_CODENAME:-stable}")
+  # shellcheck disable=SC2016 # apt-get's own placeholders
   apt-get "$@" indextargets --format '$(COMPONENT) $(REPO_URI) $(RELEASE)' 'Created-By: Packages' |
     awk -v release="$release" '$1 == "main" { print ($3 == release ? 0 : 1), $2, $3 }' | sort -u | cut -d' ' -f2-
 }

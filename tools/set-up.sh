@@ -12,8 +12,9 @@ packages_wine=(
   libxcursor1 libxrandr2 libxi6 libxcomposite1 libxrender1 libxinerama1 libxfixes3 libxxf86vm1
 )
 packages_display=(xvfb xdotool imagemagick)
-packages_check=(python3)
+packages_check=(python3 clang-format shellcheck pyflakes3)
 packages_format=(clang-format)
+packages_tidy=(clang-14 clang-tidy-14)
 packages_coverage=(gcovr)
 packages_fuzz=(clang-14 libclang-rt-14-dev)
 packages_package=(zip)

@@ -33,8 +33,8 @@ public:
         std::error_code ignored;
         // Windows keeps read-only files.
         for (const auto& entry : std::filesystem::directory_iterator(m_path, ignored))
-            std::filesystem::permissions(entry, std::filesystem::perms::owner_write,
-                                         std::filesystem::perm_options::add, ignored);
+            std::filesystem::permissions(entry, std::filesystem::perms::owner_write, std::filesystem::perm_options::add,
+                                         ignored);
         std::filesystem::remove_all(m_path, ignored);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
