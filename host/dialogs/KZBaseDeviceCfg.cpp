@@ -1,10 +1,10 @@
 #include "KZBaseDeviceCfg.h"
 
-#include <exception>
 #include <filesystem>
 
 #include "../strings/StringIds.h"
 #include "DocumentName.h"
+#include "ExceptionGuard.h"
 #include "KZLoadString.h"
 #include "KZMainCfg.h"
 
@@ -43,10 +43,12 @@ KZBaseDeviceCfg::~KZBaseDeviceCfg() = default;
 
 INT_PTR KZBaseDeviceCfg::DoModal()
 {
-    try {
+    const bool read = Succeeds([this] {
         ReadDocument();
-    } catch (const std::exception&) {
-        AfxMessageBox(KZLoadString(KZ_IDS_OPTIONS_SECTION_FAILED).c_str());
+        return true;
+    });
+    if (!read) {
+        AfxMessageBox(KZLoadString(KZ_IDS_DEVICE_NOT_OPENED).c_str());
         return -1;
     }
     return KZBaseDlg::DoModal();
@@ -82,24 +84,31 @@ void KZBaseDeviceCfg::ReadDocument()
 
 bool KZBaseDeviceCfg::writeCfg(bool quiet)
 {
+    bool stored = false;
+    const bool completed = Succeeds([&] {
+        stored = StoreDocument(quiet);
+        return true;
+    });
+    // Files that fail give results: what throws has run out of memory.
+    if (!completed && !quiet)
+        Say(KZ_IDS_DEVICE_NOT_SAVED, KZLoadString(KZS_OUT_OF_MEMORY));
+    return stored;
+}
+
+bool KZBaseDeviceCfg::StoreDocument(bool quiet)
+{
     const auto fail = [quiet](unsigned format, const KZBasicString& reason) {
         if (!quiet)
             Say(format, reason);
         return false;
     };
-    try {
-        if (KZMainCfg::ProjectFolder().IsEmpty())
-            return fail(KZ_IDS_DEVICE_NO_PROJECT, {});
-        if (!m_readResult)
-            return fail(KZ_IDS_DEVICE_NOT_OVERWRITTEN, m_readResult.message);
-        const fs::path file(std::wstring(DocumentPath().View()));
-        std::error_code ignored;  // saving names the folder that is missing
-        fs::create_directories(file.parent_path(), ignored);
-        const KZDocumentResult saved = m_document.Save(file);
-        return saved ? true : fail(KZ_IDS_DEVICE_NOT_SAVED, saved.message);
-    } catch (const std::exception&) {
-        if (!quiet)
-            AfxMessageBox(KZLoadString(KZ_IDS_OPTIONS_SECTION_FAILED).c_str());
-        return false;
-    }
+    if (KZMainCfg::ProjectFolder().IsEmpty())
+        return fail(KZ_IDS_DEVICE_NO_PROJECT, {});
+    if (!m_readResult)
+        return fail(KZ_IDS_DEVICE_NOT_OVERWRITTEN, m_readResult.message);
+    const fs::path file(std::wstring(DocumentPath().View()));
+    std::error_code ignored;  // saving names the folder that is missing
+    fs::create_directories(file.parent_path(), ignored);
+    const KZDocumentResult saved = m_document.Save(file);
+    return saved ? true : fail(KZ_IDS_DEVICE_NOT_SAVED, saved.message);
 }

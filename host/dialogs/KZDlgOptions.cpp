@@ -1,9 +1,8 @@
 #include "KZDlgOptions.h"
 
-#include <exception>
-
 #include "../strings/StringIds.h"
 #include "DialogTemplate.h"
+#include "ExceptionGuard.h"
 #include "KZDlgOptionsIds.h"
 #include "KZLoadString.h"
 #include "KZQuorvelantaSetup.h"
@@ -85,15 +84,13 @@ int KZDlgOptions::Create(CWnd* parent)
 
 bool KZDlgOptions::CreateChild(CWnd* parent) noexcept
 {
-    try {
+    return Succeeds([&] {
         const std::vector<std::byte> bytes = LoadChildTemplate(KZ_IDD_OPTIONS);
         if (bytes.empty() || !CreateIndirect(reinterpret_cast<LPCDLGTEMPLATE>(bytes.data()), parent))
             return false;
         ShowWindow(SW_SHOWNA);
         return true;
-    } catch (const std::exception&) {
-        return false;  // Create reports it
-    }
+    });
 }
 
 void KZDlgOptions::SetButtonImage(int button, const KZBasicString& imagePath)

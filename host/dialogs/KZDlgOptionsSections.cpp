@@ -1,7 +1,6 @@
 // What the section buttons of the options hub do.
-#include <exception>
-
 #include "../strings/StringIds.h"
+#include "ExceptionGuard.h"
 #include "KZDlgOptions.h"
 #include "KZLoadString.h"
 #include "KZMainCfg.h"
@@ -18,11 +17,12 @@ void KZDlgOptions::OnSection(UINT id)
     if (section >= KZSectionCount)
         return;
     // This is called out of a window procedure, which no exception may leave.
-    try {
+    const bool handled = Succeeds([&] {
         (this->*Handlers[section])();
-    } catch (const std::exception&) {
+        return true;
+    });
+    if (!handled)
         AfxMessageBox(KZLoadString(KZ_IDS_OPTIONS_SECTION_FAILED).c_str());
-    }
 }
 
 void KZDlgOptions::OnDriver()

@@ -1,7 +1,8 @@
 #include "KZDriverServices.h"
 
 #include <map>
-#include <new>
+
+#include "../dialogs/ExceptionGuard.h"
 
 namespace {
 
@@ -27,11 +28,9 @@ bool KZDriverServices::Add(const CRuntimeClass* deviceClass, KZDriverDialogCallb
 {
     if (!deviceClass || !options || !selectVariables || !third)
         return false;
-    try {
+    return Succeeds([&] {
         return TheRegistry().try_emplace(deviceClass, KZDriverCallbacks{options, selectVariables, third}).second;
-    } catch (const std::bad_alloc&) {
-        return false;
-    }
+    });
 }
 
 bool KZDriverServices::AddCreateChildOptionsDlg(const CRuntimeClass* deviceClass, KZChildOptionsFactory factory)

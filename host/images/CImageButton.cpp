@@ -2,10 +2,10 @@
 
 #include <commctrl.h>
 
-#include <exception>
 #include <memory>
 #include <optional>
 
+#include "../dialogs/ExceptionGuard.h"
 #include "KZQuorvelantaSetup.h"
 #include "PictureFiles.h"
 #include "PictureStore.h"
@@ -135,16 +135,15 @@ bool CImageButton::SetImage(const KZBasicString& path, COLORREF transparent, boo
 {
     if (!::IsWindow(m_hWnd))
         return false;
-    try {
+    // Out of memory the button keeps what it shows.
+    return Succeeds([&] {
         if (!m_state)
             m_state = new State;
         PictureStore::Key key{WithImageFolder(path), transparent, WindowDpi(m_hWnd)};
         if (m_state->IsAnswered(key, imageOnTop) || m_state->Show(m_hWnd, std::move(key), imageOnTop))
             return m_state->HasPicture();
         return false;
-    } catch (const std::exception&) {
-        return false;  // out of memory: the button keeps what it shows
-    }
+    });
 }
 
 // Where the picture goes depends on whether there is a text.
@@ -164,9 +163,5 @@ void CImageButton::PostNcDestroy()
 bool CImageButton::GetBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* transparentColour)
 {
     bitmap.DeleteObject();
-    try {
-        return LoadMaskedBitmap(path, bitmap, transparentColour);
-    } catch (const std::exception&) {
-        return false;
-    }
+    return Succeeds([&] { return LoadMaskedBitmap(path, bitmap, transparentColour); });
 }

@@ -46,6 +46,7 @@ protected:
 
 private:
     void ReadDocument();
+    bool StoreDocument(bool quiet);
     [[nodiscard]] KZBasicString DocumentPath() const;
 
     KZDriver* m_pDriver;

@@ -38,6 +38,8 @@
 #define KZS_MAX_ONE_VARIABLE 32336
 
 // Failures
+#define KZS_OPERATION_FAILED 40200
+#define KZS_OUT_OF_MEMORY 40201
 #define KZS_PAGES_NOT_OPENED 40202
 
 // A device's identity

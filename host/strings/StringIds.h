@@ -25,3 +25,4 @@
 #define KZ_IDS_DEVICE_NOT_SAVED 40112        // %s: the reason
 #define KZ_IDS_DEVICE_NOT_OVERWRITTEN 40113  // %s: the reason it was not read for
 #define KZ_IDS_DEVICE_NO_PROJECT 40114
+#define KZ_IDS_DEVICE_NOT_OPENED 40115

@@ -2,6 +2,8 @@
 #include <afxdllx.h>
 #include <afxwin.h>
 
+#include "CaughtException.h"
+
 static AFX_EXTENSION_MODULE ZepModule = {};
 
 extern "C" BOOL APIENTRY DllMain(HINSTANCE instance, DWORD reason, LPVOID)
@@ -13,6 +15,7 @@ extern "C" BOOL APIENTRY DllMain(HINSTANCE instance, DWORD reason, LPVOID)
             // Puts the dialog templates on the host's resource chain; AfxTermExtensionModule destroys it.
             new CDynLinkLibrary(ZepModule);
         } catch (...) {
+            TakeException();
             // Out of memory. Windows loads no library whose start fails, and the host says so.
             AfxTermExtensionModule(ZepModule, FALSE);
             return FALSE;

@@ -11,27 +11,34 @@
 namespace zep {
 namespace {
 
-bool RunOptions(CWnd* parent, KZDriver* driver)
+// The driver as the device that the callbacks are registered for; null when there is none or it is another.
+KZDriverDeviceZEP* DeviceOf(KZDriver* driver)
 {
-    CDlgOptionsZEP dialog(parent, static_cast<KZDriverDevice*>(driver));
+    const bool isZep = driver && driver->IsKindOf(KZDriverDeviceZEP::GetThisClass());
+    return isZep ? static_cast<KZDriverDeviceZEP*>(driver) : nullptr;
+}
+
+bool RunOptions(CWnd* parent, KZDriverDeviceZEP* device)
+{
+    CDlgOptionsZEP dialog(parent, device);
     return dialog.DoModal() == IDOK;
 }
 
-bool RunSelection(CWnd* parent, KZDriver* driver, std::list<KZBasicString>& variables, const KZVariableGroups& groups,
-                  int maxVariables)
+bool RunSelection(CWnd* parent, KZDriverDeviceZEP* device, std::list<KZBasicString>& variables,
+                  const KZVariableGroups& groups, int maxVariables)
 {
-    if ((driver->VariableGroups() & groups).none()) {
+    if ((device->VariableGroups() & groups).none()) {
         AfxMessageBox(HostText(KZS_NO_SUCH_VARIABLES).c_str(), MB_OK, 0);
         return false;
     }
     // The dialog gets the host's own mask: what the device lacks is for its pages to leave out.
-    CDlgSelectVarZEP dialog(parent, static_cast<KZDriverDeviceZEP*>(driver), &variables, groups, maxVariables);
+    CDlgSelectVarZEP dialog(parent, device, &variables, groups, maxVariables);
     return dialog.DoModal() == IDOK;
 }
 
-CDialog* MakeChildOptions(CWnd* parent, KZDriver* driver)
+CDialog* MakeChildOptions(CWnd* parent, KZDriverDeviceZEP* device)
 {
-    auto dialog = std::make_unique<CDlgOptionsZEP>(parent, static_cast<KZDriverDevice*>(driver));
+    auto dialog = std::make_unique<CDlgOptionsZEP>(parent, device);
     dialog->SetChild();
     dialog->SetBackgroundColor(::GetSysColor(COLOR_WINDOW));
     return dialog->Create(parent) != 0 ? dialog.release() : nullptr;
@@ -41,13 +48,17 @@ CDialog* MakeChildOptions(CWnd* parent, KZDriver* driver)
 
 bool ShowOptions(CWnd* parent, KZDriver* driver) noexcept
 {
-    return AtEdge([&] { return RunOptions(parent, driver); }, false);
+    KZDriverDeviceZEP* const device = DeviceOf(driver);
+    return device && AtEdge(
+                         parent, [&] { return RunOptions(parent, device); }, false);
 }
 
 bool SelectVariables(CWnd* parent, KZDriver* driver, std::list<KZBasicString>& variables,
                      const KZVariableGroups& groups, int maxVariables, const wchar_t*) noexcept
 {
-    return AtEdge([&] { return RunSelection(parent, driver, variables, groups, maxVariables); }, false);
+    KZDriverDeviceZEP* const device = DeviceOf(driver);
+    return device && AtEdge(
+                         parent, [&] { return RunSelection(parent, device, variables, groups, maxVariables); }, false);
 }
 
 bool NothingToShow(CWnd*, KZDriver*) noexcept
@@ -57,7 +68,11 @@ bool NothingToShow(CWnd*, KZDriver*) noexcept
 
 CDialog* CreateChildOptions(CWnd* parent, KZDriver* driver) noexcept
 {
-    return AtEdge([&] { return MakeChildOptions(parent, driver); }, static_cast<CDialog*>(nullptr));
+    KZDriverDeviceZEP* const device = DeviceOf(driver);
+    CDialog* const none = nullptr;
+    return device ? AtEdge(
+                        parent, [&] { return MakeChildOptions(parent, device); }, none)
+                  : none;
 }
 
 }  // namespace zep

@@ -1,4 +1,5 @@
-// What this driver does in the editor: the four functions that the host calls.
+// What this driver does in the editor: the four functions that the host calls. A driver that is null or no
+// KZDriverDeviceZEP gives false or null, and nothing is shown.
 #pragma once
 
 #include <list>

@@ -3,28 +3,36 @@
 
 #include <afxwin.h>
 
-#include <exception>
+#include "CaughtException.h"
+#include "KZBasicString.h"
 
 namespace zep {
 
-// Tells the user that an operation failed, with the reason that the exception gives.
-void ReportFailure(const char* reason) noexcept;
+// Tells the user of a failure, in a message over the parent's window; over the active one when there is no parent.
+class FailureReport {
+public:
+    // Loads the messages: when one is needed, there may be no memory for it.
+    explicit FailureReport(const CWnd* parent) noexcept;
+
+    void Show(const CaughtException& failure) const noexcept;
+
+private:
+    HWND m_owner;
+    KZBasicString m_failed;
+    KZBasicString m_outOfMemory;
+};
 
 // Runs an operation on behalf of the host. An exception is reported and the failure value returned.
 template <class Operation, class Result>
-Result AtEdge(Operation operation, Result failure) noexcept
+Result AtEdge(const CWnd* parent, Operation operation, Result failure) noexcept
 {
+    const FailureReport report(parent);
     try {
         return operation();
-    } catch (CException* exception) {
-        exception->ReportError();
-        exception->Delete();
-    } catch (const std::exception& exception) {
-        ReportFailure(exception.what());
     } catch (...) {
-        ReportFailure(nullptr);
+        report.Show(TakeException());
+        return failure;
     }
-    return failure;
 }
 
 }  // namespace zep

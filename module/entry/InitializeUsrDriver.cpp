@@ -4,16 +4,26 @@
 #include "EdgeGuard.h"
 #include "KZDriverDeviceZEP.h"
 
+namespace {
+
+bool AddCallbacks()
+{
+    return KZDriverServices::Add(KZDriverDeviceZEP::GetThisClass(), &zep::ShowOptions, &zep::SelectVariables,
+                                 &zep::NothingToShow);
+}
+
+bool AddChildFactory()
+{
+    return KZDriverServices::AddCreateChildOptionsDlg(KZDriverDeviceZEP::GetThisClass(), &zep::CreateChildOptions);
+}
+
+}  // namespace
+
 extern "C" __declspec(dllexport) bool InitializeUsrDriver_ZEP()
 {
-    return zep::AtEdge(
-        [] {
-            if (!KZDriverServices::Add(KZDriverDeviceZEP::GetThisClass(), &zep::ShowOptions, &zep::SelectVariables,
-                                       &zep::NothingToShow))
-                return false;
-            // The driver works without an embedded options pane, so a host that refuses the factory still has the rest.
-            KZDriverServices::AddCreateChildOptionsDlg(KZDriverDeviceZEP::GetThisClass(), &zep::CreateChildOptions);
-            return true;
-        },
-        false);
+    if (!zep::AtEdge(nullptr, &AddCallbacks, false))
+        return false;
+    // The driver works without an embedded options pane: a host that cannot take the factory still has the rest.
+    zep::AtEdge(nullptr, &AddChildFactory, false);
+    return true;
 }

@@ -1,11 +1,11 @@
 #include "CDlgSelectVarZEP.h"
 
 #include <algorithm>
-#include <new>
 
 #include "CDlgSelectVarArmonicZEP.h"
 #include "CDlgSelectVarGeneralZEP.h"
 #include "CDlgSelectVarPowerZEP.h"
+#include "CaughtException.h"
 #include "DialogSetup.h"
 #include "HostText.h"
 #include "InitialMarks.h"
@@ -30,10 +30,8 @@ Page* AddPage(std::vector<std::unique_ptr<SelectVarPage>>& pages, CWnd* containe
         Page* const made = page.get();
         pages.push_back(std::move(page));
         return made;
-    } catch (const std::bad_alloc&) {
-        return nullptr;
-    } catch (CMemoryException* exception) {
-        exception->Delete();
+    } catch (...) {
+        TakeException();
         return nullptr;
     }
 }

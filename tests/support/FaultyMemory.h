@@ -15,7 +15,8 @@ namespace kztest {
 
 class FaultyMemory {
 public:
-    // fails(size) is asked for each allocation that the DLL makes; true makes it throw std::bad_alloc.
+    // fails(size) is asked for each allocation that the DLL makes; true makes it throw std::bad_alloc. It may also
+    // throw by itself what MFC's operator new throws.
     FaultyMemory(HMODULE module, std::function<bool(std::size_t)> fails)
         : m_new(module, "_Znwy", reinterpret_cast<void*>(New)),
           m_delete(module, "_ZdlPvy", reinterpret_cast<void*>(Delete))

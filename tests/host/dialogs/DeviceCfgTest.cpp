@@ -1,7 +1,9 @@
 // The base of device dialogs: where a device's document is, how it is read and stored.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <new>
 
 #include "KZBaseDeviceCfg.h"
 #include "KZDriverDeviceZEP.h"
@@ -13,6 +15,8 @@
 namespace fs = std::filesystem;
 
 namespace {
+
+using testing::ElementsAre;
 
 constexpr unsigned AnyTemplate = 1199;  // the host's own options dialog: any template will do
 constexpr int Closed = 55;
@@ -31,6 +35,7 @@ public:
     [[nodiscard]] std::wstring Version() { return Document()->Root()->Value(L"information/version", L"?"); }
 
     KZBasicString uriParams;
+    void (*fail)() = nullptr;  // instead of adding them
 
 protected:
     BOOL OnInitDialog() override
@@ -40,7 +45,12 @@ protected:
         EndDialog(Closed);
         return TRUE;
     }
-    void addUriParams(KZBasicString& uri) const override { uri += uriParams; }
+    void addUriParams(KZBasicString& uri) const override
+    {
+        if (fail)
+            fail();
+        uri += uriParams;
+    }
 
 private:
     std::function<void()> m_step;
@@ -155,10 +165,42 @@ TEST_F(DeviceCfg, ReportsThatThereIsNoProjectToStoreIn)
     EXPECT_EQ(m_boxes.Texts().size(), 1u);
 }
 
+// The two ways in which memory runs out: that of the C++ library and that of MFC.
+constexpr void (*MemoryFailures[])() = {[] { throw std::bad_alloc(); }, [] { AfxThrowMemoryException(); }};
+
+TEST_F(DeviceCfg, SaysThatThereIsNoMemoryToStoreWith)
+{
+    WriteDocument(Version3);
+    m_dialog.Run();
+    for (const auto failure : MemoryFailures) {
+        m_dialog.fail = failure;
+        EXPECT_FALSE(m_dialog.Write());
+        EXPECT_THAT(m_boxes.Take(),
+                    ElementsAre(kztest::SeenMessage{L"The device's configuration could not be saved.\n\n"
+                                                    L"There is not enough memory for this operation."}));
+        EXPECT_EQ(kztest::BytesOf(DocumentFile()), Version3);
+    }
+}
+
+TEST_F(DeviceCfg, SaysThatThereIsNoMemoryToOpenWith)
+{
+    for (const auto failure : MemoryFailures) {
+        m_dialog.fail = failure;
+        EXPECT_EQ(m_dialog.Run(), -1);
+        EXPECT_THAT(m_boxes.Take(), ElementsAre(kztest::SeenMessage{
+                                        L"The device's configuration could not be opened. Nothing was changed."}));
+    }
+}
+
 TEST_F(DeviceCfg, KeepsSilentWhenAskedTo)
 {
     KZMainCfg::SetProjectFolder({});
     EXPECT_FALSE(m_dialog.Write(true));
+    for (const auto failure : MemoryFailures) {
+        KZMainCfg::SetProjectFolder(m_project.Path().wstring());
+        m_dialog.fail = failure;
+        EXPECT_FALSE(m_dialog.Write(true));
+    }
     EXPECT_TRUE(m_boxes.Texts().empty());
 }
 

@@ -4,6 +4,8 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include "KZDriverDeviceZEP.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
@@ -200,6 +202,36 @@ TEST_F(OptionsHub, SaysInOneMessageThatADriverHasNothingToSetUpInASection)
             ASSERT_EQ(boxes.Texts().size(), 1u);
             EXPECT_NE(boxes.Texts()[0].find(caption), std::wstring::npos) << "the section is named";
         }
+    }
+    EXPECT_TRUE(m_changes.empty());
+}
+
+// A driver whose hook fails.
+class FailingHub : public BareHub {
+public:
+    using BareHub::BareHub;
+    void (*fail)() = nullptr;
+
+protected:
+    bool SetupUnits() override
+    {
+        fail();
+        return true;
+    }
+};
+
+TEST_F(OptionsHub, SaysThatASectionHasFailed)
+{
+    FailingHub hub(m_owner.Window(), &m_device);
+    hub.SetChild();
+    ASSERT_TRUE(hub.Create(m_owner.Window()));
+    constexpr void (*Failures[])() = {[] { throw std::bad_alloc(); }, [] { AfxThrowMemoryException(); }};
+    for (const auto failure : Failures) {
+        const kztest::MessageBoxes boxes;
+        hub.fail = failure;
+        hub.SendMessage(WM_COMMAND, static_cast<WPARAM>(KZSectionButtonBase + KZSectionUnits));
+        EXPECT_EQ(boxes.Texts(), (std::vector<std::wstring>{
+                                     L"This section was ended by an error. What was saved before stays saved."}));
     }
     EXPECT_TRUE(m_changes.empty());
 }

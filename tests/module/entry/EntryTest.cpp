@@ -7,6 +7,7 @@
 
 #include <list>
 #include <set>
+#include <stdexcept>
 
 #include "Controls.h"
 #include "FaultyMemory.h"
@@ -143,6 +144,50 @@ TEST_F(DriverModule, AnswersTrueThoughTheHostRefusesTheFactory)
     EXPECT_FALSE(KZDriverServices::Find(ZepClass())->createChildOptions);
 }
 
+bool FailOnFactory(const CRuntimeClass*, KZChildOptionsFactory)
+{
+    throw std::runtime_error("no room in the registry");
+}
+
+TEST_F(DriverModule, AnswersTrueThoughTheHostFailsOnTheFactory)
+{
+    const kztest::ImportPatch patch(
+        m_module.Handle(),
+        "_ZN16KZDriverServices24AddCreateChildOptionsDlgEPK13CRuntimeClassPFP7CDialogP4CWndP8KZDriverE",
+        reinterpret_cast<void*>(FailOnFactory));
+    kztest::MessageBoxes boxes;
+    EXPECT_TRUE(m_module.Initialize());
+    EXPECT_TRUE(KZDriverServices::Find(ZepClass())->options) << "the callbacks are registered and stay";
+    ASSERT_EQ(boxes.Texts().size(), 1U);
+    EXPECT_NE(boxes.Texts()[0].find(L"no room in the registry"), std::wstring::npos);
+}
+
+// A device of another model.
+class OtherDevice : public KZDriverDevice {
+public:
+    OtherDevice() : KZDriverDevice({L"other", L"OTHER", 1, L"OTHER", L"", KZVariableGroups(0x74)}) {}
+};
+
+TEST_F(DriverModule, RefusesADriverThatIsNoneOfItsOwn)
+{
+    ASSERT_TRUE(m_module.Initialize());
+    const KZDriverCallbacks& callbacks = *KZDriverServices::Find(ZepClass());
+    CWnd parent;
+    ASSERT_TRUE(parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW, 0, 0, 800, 600, nullptr, nullptr));
+    OtherDevice other;
+    m_names = {L"OTHER.HZIN"};
+    const NextDialog none(IDOK);
+    for (KZDriver* driver : {static_cast<KZDriver*>(nullptr), static_cast<KZDriver*>(&other)}) {
+        EXPECT_FALSE(callbacks.options(&parent, driver));
+        EXPECT_FALSE(callbacks.selectVariables(&parent, driver, m_names, KZVariableGroups(0x74), 0, nullptr));
+        EXPECT_FALSE(callbacks.third(&parent, driver));
+        EXPECT_FALSE(callbacks.createChildOptions(&parent, driver));
+    }
+    EXPECT_EQ(NextDialog::Count(), 0U);
+    EXPECT_THAT(m_names, ElementsAre(L"OTHER.HZIN"));
+    parent.DestroyWindow();
+}
+
 TEST_F(DriverModule, ThirdCallbackShowsNothingAndAnswersFalse)
 {
     ASSERT_TRUE(m_module.Initialize());
@@ -266,14 +311,29 @@ TEST_F(DriverModule, LeavesNothingBehindOfAChildThatCannotBeMade)
     EXPECT_EQ(kztest::CountGuiResources(), before);
 }
 
-TEST_F(DriverModule, ReportsRunningOutOfMemoryAndAnswersFalse)
+// What MFC's operator new does.
+bool FailAsMfcDoes(std::size_t)
+{
+    AfxThrowMemoryException();
+}
+
+bool Fail(std::size_t)
+{
+    return true;
+}
+
+TEST_F(DriverModule, ReportsRunningOutOfMemoryWithoutMemoryAndAnswersNull)
 {
     ASSERT_TRUE(m_module.Initialize());
     CWnd parent;
-    kztest::MessageBoxes boxes;
-    const kztest::FaultyMemory memory(m_module.Handle(), [](std::size_t) { return true; });
-    EXPECT_FALSE(KZDriverServices::Find(ZepClass())->createChildOptions(&parent, &m_device));
-    EXPECT_EQ(boxes.Texts().size(), 1U);
+    for (const auto fail : {Fail, FailAsMfcDoes}) {
+        kztest::MessageBoxes boxes;
+        int requests = 0;
+        const kztest::FaultyMemory memory(m_module.Handle(), [&](std::size_t size) { return ++requests, fail(size); });
+        EXPECT_FALSE(KZDriverServices::Find(ZepClass())->createChildOptions(&parent, &m_device));
+        EXPECT_THAT(boxes.Texts(), ElementsAre(std::wstring(KZLoadString(KZS_OUT_OF_MEMORY).View())));
+        EXPECT_EQ(requests, 1) << "the message asked for memory";
+    }
 }
 
 TEST(DriverModuleFile, LeavesNoResourcesBehindWhenFreed)

@@ -46,25 +46,30 @@ TEST_F(SelectionFaults, GoOnWithoutAPageThatCannotBeAllocated)
     const Case cases[] = {{sizeof(CDlgSelectVarGeneralZEP), 0, Family::General},
                           {sizeof(CDlgSelectVarPowerZEP), 0, Family::Power},
                           {sizeof(CDlgSelectVarArmonicZEP), 1, Family::Harmonic}};
-    for (const Case& each : cases) {
-        m_names.clear();
-        int seen = 0;
-        const kztest::FaultyMemory memory(
-            Module(), [&](std::size_t size) { return size == each.size && seen++ == each.occurrence; });
-        TestSelection dialog(m_device, m_names);
-        EXPECT_EQ(dialog.Run({[&] {
-                                  EXPECT_EQ(CountTabs(dialog), 2);
-                                  for (const Family family : {Family::General, Family::Power, Family::Harmonic})
-                                      EXPECT_EQ(dialog.Page(family) == nullptr, family == each.missing);
-                                  dialog.ShowTab(1);
-                                  if (each.missing != Family::Power)
-                                      dialog.Click(Family::Power, 6922);
-                                  dialog.PressOk();
-                              },
-                              [] {}}),
-                  IDOK);
-        EXPECT_EQ(m_names.size(), each.missing == Family::Power ? 0U : 1U);
-    }
+    for (const bool failsAsMfcDoes : {false, true})
+        for (const Case& each : cases) {
+            m_names.clear();
+            int seen = 0;
+            const kztest::FaultyMemory memory(Module(), [&](std::size_t size) {
+                const bool fails = size == each.size && seen++ == each.occurrence;
+                if (fails && failsAsMfcDoes)
+                    AfxThrowMemoryException();
+                return fails;
+            });
+            TestSelection dialog(m_device, m_names);
+            EXPECT_EQ(dialog.Run({[&] {
+                                      EXPECT_EQ(CountTabs(dialog), 2);
+                                      for (const Family family : {Family::General, Family::Power, Family::Harmonic})
+                                          EXPECT_EQ(dialog.Page(family) == nullptr, family == each.missing);
+                                      dialog.ShowTab(1);
+                                      if (each.missing != Family::Power)
+                                          dialog.Click(Family::Power, 6922);
+                                      dialog.PressOk();
+                                  },
+                                  [] {}}),
+                      IDOK);
+            EXPECT_EQ(m_names.size(), each.missing == Family::Power ? 0U : 1U);
+        }
 }
 
 TEST_F(SelectionFaults, SayThatNoPageCouldBeOpenedAndLeaveTheHostsListAlone)
