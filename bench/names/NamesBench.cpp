@@ -62,7 +62,7 @@ void CompareParsing(Report& report)
         const auto position = ParseVariableName(Family::Harmonic, name);
         return position ? static_cast<int>(PositionIndex(*position)) : -1;
     });
-    report.Add({"parse a name", "a loop written by hand", 1.30, parts},
+    report.Add({"parse a name", "a loop written by hand", {}, parts},
                RunInTurn(parse, OverAll(names, kzbench::ParseByHand)));
     report.Add({"parse a name", "swscanf", {}, parts}, RunInTurn(parse, OverAll(names, kzbench::ParseByScanf)));
     report.Add({"parse a name", "std::wregex", {}, parts}, RunInTurn(parse, OverAll(names, kzbench::ParseByRegex)));

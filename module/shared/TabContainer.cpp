@@ -55,7 +55,7 @@ void TabContainer::ShowSelected()
 void TabContainer::Layout(LayoutPlan& plan, int tabHeight)
 {
     {
-        const Raised layingOut(m_bLayingOut);
+        const Raised layingOut(m_layingOut);
         plan.FitAndApply();
     }
     const CRect area = PageArea(tabHeight);

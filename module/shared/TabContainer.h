@@ -31,7 +31,7 @@ public:
 
     // Whether there are pages to lay out. Not while a layout is under way: fitting the dialog's height sends WM_SIZE,
     // and the outer layout finishes with the new client area.
-    [[nodiscard]] bool CanLayOut() const noexcept { return !m_pages.empty() && !m_bLayingOut; }
+    [[nodiscard]] bool CanLayOut() const noexcept { return !m_pages.empty() && !m_layingOut; }
     // Carries out the dialog's plan, fits the dialog's height to it, and moves the pages over the tab control.
     //   tabHeight   of the row of tabs, in pixels
     void Layout(LayoutPlan& plan, int tabHeight);
@@ -52,5 +52,5 @@ private:
     CTabCtrl& m_tab;
     TabPage*& m_current;
     std::vector<TabPage*> m_pages;  // in tab order
-    bool m_bLayingOut = false;
+    bool m_layingOut = false;
 };

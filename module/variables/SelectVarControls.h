@@ -35,7 +35,7 @@
 #define IDC_HARMONIC_NET_ROW    7221    // to 7233
 #define IDC_HARMONIC_NET_BOX    7236    // to 7274
 #define IDC_HARMONIC_LOAD_ROW   7275    // to 7287
-#define IDC_HARMONIC_LOAD_BOX   7288    // to 7326
+#define IDC_HARMONIC_LOAD_BOX   7288    // to 7326; order 5 (row 2) on L2 is 7288 + 2 + 13, which is 7303
 
 // Every command of every page lies between these two.
 #define IDC_SELECTION_FIRST     6700

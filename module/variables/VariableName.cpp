@@ -1,5 +1,7 @@
 #include "VariableName.h"
 
+#include <algorithm>
+
 namespace zep {
 namespace {
 
@@ -66,17 +68,17 @@ std::optional<VariablePosition> ParseHarmonic(std::wstring_view name) noexcept
     return PhaseAndSide(row, name.substr(1));
 }
 
-// The row whose code opens the name; no code of a family opens another one with the separator behind it.
+// The code is what stands before the separator, which no code holds.
 std::optional<VariablePosition> ParseQuantity(Family family, std::wstring_view name) noexcept
 {
-    for (int row = 0; row < QuantityRowCount; ++row) {
-        const std::wstring_view code = CodesOf(family)[static_cast<std::size_t>(row)];
-        if (!name.starts_with(code) || !name.substr(code.size()).starts_with(Separator))
-            continue;
-        const std::wstring_view rest = name.substr(code.size() + 1);
-        return HasPhase(family, row) ? PhaseAndSide(row, rest) : FrequencyPosition(rest);
-    }
-    return std::nullopt;
+    const std::size_t separator = name.find(Separator);
+    const auto& codes = CodesOf(family);
+    const auto code = std::find(codes.begin(), codes.end(), name.substr(0, separator));
+    if (separator == name.npos || code == codes.end())
+        return std::nullopt;
+    const auto row = static_cast<int>(code - codes.begin());
+    const std::wstring_view rest = name.substr(separator + 1);
+    return HasPhase(family, row) ? PhaseAndSide(row, rest) : FrequencyPosition(rest);
 }
 
 }  // namespace

@@ -20,7 +20,6 @@ TEST_F(ChosenBefore, IsMarkedAndDisabled)
     m_names = {L"DEV1.ARM5A2L", L"DEV1.HZIN", L"DEV1.PFI3N", L"OTHER.VI1N", L"DEV1.VI2L", L"DEV1.ARM27A1N"};
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        // Order 5 is row 2 and L2 column 1 of 13 rows each: 7288 + 2 + 13.
         for (const auto& [family, id] :
              {std::pair(Family::Harmonic, 7303), std::pair(Family::General, 6719), std::pair(Family::Power, 6933)}) {
             EXPECT_TRUE(dialog.IsChecked(family, id)) << id;
