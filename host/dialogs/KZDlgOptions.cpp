@@ -183,7 +183,8 @@ void KZDlgOptions::OnCancel()
 void KZDlgOptions::OnSize(UINT type, int cx, int cy)
 {
     CDialog::OnSize(type, cx, cy);
-    if (m_btnOK.m_hWnd)
+    // A modal hub has no sizing border: it changes its own height, while it is laid out.
+    if (m_bChild && m_btnOK.m_hWnd)
         Layout();
 }
 

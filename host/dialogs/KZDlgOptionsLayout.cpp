@@ -40,14 +40,12 @@ CRect ClientArea(const CWnd& dialog) noexcept
     return client;
 }
 
-void FitHeight(CWnd& dialog, const KZLayout& page)
+void FitHeight(CWnd& dialog, int clientHeight)
 {
     CRect window;
     dialog.GetWindowRect(&window);
-    const int difference = page.FixedSize().cy - ClientArea(dialog).Height();
-    if (difference != 0)
-        dialog.SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + difference,
-                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    dialog.SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + clientHeight - ClientArea(dialog).Height(),
+                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace
@@ -89,10 +87,11 @@ bool KZDlgOptions::LayOut(int columns, bool evenIfTooNarrow)
         page.AddLayout(buttons, KZSizeStandard);
         page.AddGap(KZSizeStandard);
     }
-    if (page.FixedSize().cx > ClientArea(*this).Width() && !evenIfTooNarrow)
+    const CSize needed = page.FixedSize();
+    if (needed.cx > ClientArea(*this).Width() && !evenIfTooNarrow)
         return false;
     if (!m_bChild)
-        FitHeight(*this, page);
+        FitHeight(*this, needed.cy);
     page.Layout(ClientArea(*this));
     return true;
 }

@@ -3,22 +3,15 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
-constexpr std::size_t Index(LayoutAxis axis) noexcept
-{
-    return static_cast<std::size_t>(axis);
-}
-
-// Whether "&" in the control's text underlines a letter instead of showing.
-bool HasPrefix(HWND window, ControlKind kind) noexcept
-{
-    return kind != ControlKind::Text || !(GetWindowLongW(window, GWL_STYLE) & SS_NOPREFIX);
-}
+constexpr auto X = LayoutAxis::Horizontal;
+constexpr auto Y = LayoutAxis::Vertical;
 
 struct ButtonPicture {
-    SIZE size{};
+    PerAxis size{};
     bool aboveText = false;
 };
 
@@ -26,137 +19,149 @@ ButtonPicture PictureOf(HWND button) noexcept
 {
     BUTTON_IMAGELIST shown{};
     ButtonPicture picture;
-    int width = 0;
-    int height = 0;
-    if (SendMessageW(button, BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&shown)) && shown.himl &&
-        ImageList_GetIconSize(shown.himl, &width, &height)) {
-        picture.size = {width, height};
+    if (::SendMessageW(button, BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&shown)) && shown.himl &&
+        ImageList_GetIconSize(shown.himl, &picture.size.x, &picture.size.y))
         picture.aboveText = shown.uAlign == BUTTON_IMAGELIST_ALIGN_TOP || shown.uAlign == BUTTON_IMAGELIST_ALIGN_BOTTOM;
-    }
     return picture;
+}
+
+PerAxis PresentSize(HWND window) noexcept
+{
+    RECT place{};
+    ::GetWindowRect(window, &place);
+    return {place.right - place.left, place.bottom - place.top};
+}
+
+struct Collector {
+    HWND dialog;
+    std::map<int, HWND> controls{};
+};
+
+BOOL CALLBACK Collect(HWND window, LPARAM into)
+{
+    auto& [dialog, controls] = *reinterpret_cast<Collector*>(into);
+    try {
+        if (::GetAncestor(window, GA_PARENT) == dialog)
+            controls.emplace(::GetDlgCtrlID(window), window);
+        return TRUE;
+    } catch (...) {
+        return FALSE;  // no exception may pass through the system; Find asks for those that are missing
+    }
+}
+
+// One question to the system; GetDlgItem is one for each control, which makes opening the settings 7 % slower.
+std::map<int, HWND> ControlsOf(HWND dialog)
+{
+    Collector collector{dialog};
+    ::EnumChildWindows(dialog, Collect, reinterpret_cast<LPARAM>(&collector));
+    return std::move(collector.controls);
 }
 
 }  // namespace
 
-DialogMetrics::DialogMetrics(ControlTable& controls) : m_controls(controls)
+DialogMetrics::DialogMetrics(HWND dialog) : m_dialog(dialog), m_controls(ControlsOf(dialog))
 {
     RECT units{0, 0, 4, 8};
-    if (!MapDialogRect(Dialog(), &units)) {
-        const LONG system = GetDialogBaseUnits();
+    if (!::MapDialogRect(dialog, &units)) {
+        const LONG system = ::GetDialogBaseUnits();
         units.right = LOWORD(system);
         units.bottom = HIWORD(system);
     }
     m_baseUnits = {units.right, units.bottom};
-    ClientToScreen(Dialog(), &m_origin);
-    m_controls.ForgetSizes();
+}
+
+DialogMetrics::~DialogMetrics()
+{
+    ::DeleteDC(m_dc);
+}
+
+HWND DialogMetrics::Find(int id) const noexcept
+{
+    const auto found = m_controls.find(id);
+    return found == m_controls.end() ? ::GetDlgItem(m_dialog, id) : found->second;
 }
 
 int DialogMetrics::Pixels(int dialogUnits, LayoutAxis axis) const noexcept
 {
-    return axis == LayoutAxis::Horizontal ? MulDiv(dialogUnits, m_baseUnits.cx, 4)
-                                          : MulDiv(dialogUnits, m_baseUnits.cy, 8);
+    return axis == X ? ::MulDiv(dialogUnits, m_baseUnits.cx, 4) : ::MulDiv(dialogUnits, m_baseUnits.cy, 8);
 }
 
-ControlKind DialogMetrics::Kind(LayoutControl& control) const noexcept
+MeasuredControl DialogMetrics::Measure(int id) const noexcept
 {
-    if (!control.classified) {
-        control.kind = KindOf(control.window);
-        control.classified = true;
+    using namespace ControlUnits;
+    const HWND window = Find(id);
+    if (!window)
+        return {};
+    MeasuredControl control{.window = window, .kind = KindOf(window)};
+    PerAxis& natural = control.natural;
+    PerAxis& smallest = control.smallest;
+    switch (control.kind) {
+    case ControlKind::Text: {
+        const UINT prefix = ::GetWindowLongW(window, GWL_STYLE) & SS_NOPREFIX ? UINT{DT_NOPREFIX} : 0U;
+        smallest = {TextSize(window, prefix).cx, Pixels(TextLine, Y)};
+        break;
     }
-    return control.kind;
-}
-
-int DialogMetrics::Natural(LayoutControl& control, LayoutAxis axis) noexcept
-{
-    int& known = control.natural[Index(axis)];
-    if (known < 0)
-        known = std::max(MeasureNatural(control, axis), Smallest(control, axis));
-    return known;
-}
-
-int DialogMetrics::Smallest(LayoutControl& control, LayoutAxis axis) noexcept
-{
-    int& known = control.smallest[Index(axis)];
-    if (known < 0)
-        known = MeasureSmallest(control, axis);
-    return known;
-}
-
-int DialogMetrics::MeasureNatural(LayoutControl& control, LayoutAxis axis) noexcept
-{
-    const bool horizontal = axis == LayoutAxis::Horizontal;
-    switch (Kind(control)) {
-    case ControlKind::PushButton:
-        return Pixels(horizontal ? ControlUnits::ButtonWidth : ControlUnits::ButtonHeight, axis);
-    case ControlKind::Edit:
-    case ControlKind::DropList:
-        return horizontal ? Pixels(ControlUnits::FieldWidth, axis) : 0;
-    case ControlKind::Other:
-        return PresentSize(control.window, axis);
-    default:
-        return 0;
-    }
-}
-
-int DialogMetrics::MeasureSmallest(LayoutControl& control, LayoutAxis axis) noexcept
-{
-    const bool horizontal = axis == LayoutAxis::Horizontal;
-    switch (Kind(control)) {
-    case ControlKind::Text:
-        return horizontal ? TextSize(control).cx : Pixels(ControlUnits::TextLine, axis);
     case ControlKind::Check:
-        return horizontal ? Pixels(ControlUnits::CheckGlyph, axis) + TextSize(control).cx
-                          : Pixels(ControlUnits::CheckLine, axis);
+        smallest = {Pixels(CheckGlyph, X) + TextSize(window).cx, Pixels(CheckLine, Y)};
+        break;
     case ControlKind::PushButton:
-        return SmallestButton(control, axis);
+        smallest = SmallestButton(window);
+        natural = {Pixels(ButtonWidth, X), Pixels(ButtonHeight, Y)};
+        break;
     case ControlKind::Edit:
-        return Pixels(horizontal ? ControlUnits::SmallestField : ControlUnits::EditLine, axis);
+        smallest = {Pixels(SmallestField, X), Pixels(EditLine, Y)};
+        natural.x = Pixels(FieldWidth, X);
+        break;
     case ControlKind::DropList:
-        return horizontal ? Pixels(ControlUnits::SmallestField, axis) : PresentSize(control.window, axis);
+        smallest = {Pixels(SmallestField, X), PresentSize(window).y};
+        natural.x = Pixels(FieldWidth, X);
+        break;
     case ControlKind::Picture:
-        return PresentSize(control.window, axis);
-    default:
-        return 0;
+        smallest = PresentSize(window);
+        break;
+    case ControlKind::Other:
+        natural = PresentSize(window);
+        break;
     }
+    natural = {std::max(natural.x, smallest.x), std::max(natural.y, smallest.y)};
+    return control;
 }
 
-int DialogMetrics::SmallestButton(LayoutControl& control, LayoutAxis axis) noexcept
+PerAxis DialogMetrics::SmallestButton(HWND button) const noexcept
 {
-    const bool horizontal = axis == LayoutAxis::Horizontal;
-    const ButtonPicture picture = PictureOf(control.window);
-    if (!horizontal && picture.size.cy == 0)
-        return Pixels(ControlUnits::ButtonHeight, axis);
-    const SIZE text = TextSize(control);
-    const int pictureLength = horizontal ? picture.size.cx : picture.size.cy;
-    const int textLength = horizontal ? text.cx : text.cy;
-    const bool sideBySide = picture.aboveText != horizontal;
-    const int padding = 2 * Pixels(ControlUnits::ButtonPadding, axis);
-    if (!sideBySide || pictureLength == 0 || textLength == 0)
-        return std::max(pictureLength, textLength) + padding;
-    return pictureLength + textLength + padding + padding / 2;
+    const ButtonPicture picture = PictureOf(button);
+    const SIZE text = TextSize(button);
+    const PerAxis padding{2 * Pixels(ControlUnits::ButtonPadding, X), 2 * Pixels(ControlUnits::ButtonPadding, Y)};
+    if (picture.size.x == 0)
+        return {text.cx + padding.x, Pixels(ControlUnits::ButtonHeight, Y)};
+    PerAxis size{std::max<int>(picture.size.x, text.cx) + padding.x,
+                 std::max<int>(picture.size.y, text.cy) + padding.y};
+    if (text.cx == 0)
+        return size;
+    // Between picture and text there is as much space as on one side.
+    if (picture.aboveText)
+        size.y = picture.size.y + text.cy + padding.y * 3 / 2;
+    else
+        size.x = picture.size.x + text.cx + padding.x * 3 / 2;
+    return size;
 }
 
-int DialogMetrics::PresentSize(HWND window, LayoutAxis axis) const noexcept
+int DialogMetrics::CaptionWidth(HWND box) const noexcept
 {
-    RECT place{};
-    GetWindowRect(window, &place);
-    return axis == LayoutAxis::Horizontal ? place.right - place.left : place.bottom - place.top;
+    return TextSize(box).cx + 4 * Pixels(ControlUnits::BoxEdge, X);
 }
 
-RECT DialogMetrics::Place(HWND window) const noexcept
+SIZE DialogMetrics::TextSize(HWND window, UINT flags) const noexcept
 {
-    RECT place{};
-    GetWindowRect(window, &place);
-    OffsetRect(&place, -m_origin.x, -m_origin.y);
-    return place;
-}
-
-int DialogMetrics::CaptionWidth(LayoutControl& box) noexcept
-{
-    return TextSize(box).cx + 4 * Pixels(ControlUnits::BoxEdge, LayoutAxis::Horizontal);
-}
-
-SIZE DialogMetrics::TextSize(LayoutControl& control) noexcept
-{
-    return m_text.Measure(control.window, HasPrefix(control.window, Kind(control)));
+    wchar_t text[256];
+    const int length = ::GetWindowTextW(window, text, static_cast<int>(std::size(text)));
+    if (length <= 0)
+        return {};
+    const auto font = reinterpret_cast<HFONT>(::SendMessageW(window, WM_GETFONT, 0, 0));
+    const HGDIOBJ previous = font ? ::SelectObject(m_dc, font) : nullptr;
+    RECT bounds{};
+    ::DrawTextW(m_dc, text, length, &bounds, DT_CALCRECT | DT_LEFT | flags);
+    if (previous)
+        ::SelectObject(m_dc, previous);
+    return {bounds.right, bounds.bottom};
 }

@@ -1,43 +1,42 @@
-// The sizes that the controls of one dialog want, measured in the dialog's font.
+// Sizes in one dialog: its units in pixels, and what each of its controls needs.
 #pragma once
 
 #include <afxwin.h>
 
-#include "ControlTable.h"
-#include "SizeCodes.h"
-#include "TextMeter.h"
+#include <map>
 
-// Made for one pass over a layout: the windows and texts are taken to stay as they are meanwhile.
+#include "ControlKind.h"
+#include "SizeCodes.h"
+
+struct MeasuredControl {
+    HWND window = nullptr;  // null when the dialog lacks the control
+    ControlKind kind = ControlKind::Other;
+    PerAxis natural{};  // pixels, as are all lengths here; never less than smallest
+    PerAxis smallest{};
+};
+
 class DialogMetrics {
 public:
-    explicit DialogMetrics(ControlTable& controls);
+    explicit DialogMetrics(HWND dialog);
     DialogMetrics(const DialogMetrics&) = delete;
     DialogMetrics& operator=(const DialogMetrics&) = delete;
+    ~DialogMetrics();
 
-    [[nodiscard]] HWND Dialog() const noexcept { return m_controls.Dialog(); }
-    // The dialog's control of that id, or null.
-    [[nodiscard]] LayoutControl* Find(int id) noexcept { return m_controls.Find(id); }
-
+    [[nodiscard]] HWND Dialog() const noexcept { return m_dialog; }
     [[nodiscard]] int Pixels(int dialogUnits, LayoutAxis axis) const noexcept;
-    // The size that the control has where nothing says otherwise.
-    [[nodiscard]] int Natural(LayoutControl& control, LayoutAxis axis) noexcept;
-    // The least size at which the control's text is shown whole.
-    [[nodiscard]] int Smallest(LayoutControl& control, LayoutAxis axis) noexcept;
-    [[nodiscard]] ControlKind Kind(LayoutControl& control) const noexcept;
-    // The width of a group box's caption with the frame pieces beside it.
-    [[nodiscard]] int CaptionWidth(LayoutControl& box) noexcept;
-    // The control's present place in client coordinates of the dialog; a drop list's is that of its closed part.
-    [[nodiscard]] RECT Place(HWND window) const noexcept;
+
+    // The first control that has the id, or null.
+    [[nodiscard]] HWND Find(int id) const noexcept;
+    [[nodiscard]] MeasuredControl Measure(int id) const noexcept;
+    // What a group box needs for its caption.
+    [[nodiscard]] int CaptionWidth(HWND box) const noexcept;
 
 private:
-    [[nodiscard]] int MeasureNatural(LayoutControl& control, LayoutAxis axis) noexcept;
-    [[nodiscard]] int MeasureSmallest(LayoutControl& control, LayoutAxis axis) noexcept;
-    [[nodiscard]] int SmallestButton(LayoutControl& control, LayoutAxis axis) noexcept;
-    [[nodiscard]] int PresentSize(HWND window, LayoutAxis axis) const noexcept;
-    [[nodiscard]] SIZE TextSize(LayoutControl& control) noexcept;
+    [[nodiscard]] PerAxis SmallestButton(HWND button) const noexcept;
+    [[nodiscard]] SIZE TextSize(HWND window, UINT flags = 0) const noexcept;
 
-    ControlTable& m_controls;
+    HWND m_dialog;
+    std::map<int, HWND> m_controls;
     SIZE m_baseUnits{};
-    POINT m_origin{};
-    TextMeter m_text;
+    HDC m_dc = ::CreateCompatibleDC(nullptr);  // to measure texts with, so no window need be asked for its own
 };

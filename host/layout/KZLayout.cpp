@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "LayoutRun.h"
 #include "LayoutState.h"
+#include "MeasuredLayout.h"
 
 namespace {
 
@@ -63,28 +63,20 @@ void KZLayout::SetBoxControl(int boxId, int border, bool alignTop)
 
 void KZLayout::SetBorders(int x, int y) noexcept
 {
-    m_state->borders[0] = x;
-    m_state->borders[1] = y;
-}
-
-void KZLayout::SetControlText(int id, const wchar_t* text) const
-{
-    if (const LayoutControl* control = m_state->tables.Of(m_state->dialog).Find(id))
-        SetWindowTextW(control->window, text);
+    m_state->borders = {x, y};
 }
 
 CSize KZLayout::FixedSize() const
 {
-    LayoutRun run(m_state->tables);
-    return {run.Smallest(*m_state, LayoutAxis::Horizontal, nullptr),
-            run.Smallest(*m_state, LayoutAxis::Vertical, nullptr)};
+    const MeasuredLayout layout(*m_state, DialogMetrics(m_state->dialog));
+    return {layout.Needed().x, layout.Needed().y};
 }
 
 void KZLayout::Layout(const CRect& area) const
 {
-    LayoutRun run(m_state->tables);
-    run.Place(*m_state, area, nullptr);
-    run.Apply();
+    MeasuredLayout(*m_state, DialogMetrics(m_state->dialog)).Place(area);
+    if (::IsWindowVisible(m_state->dialog))
+        ::RedrawWindow(m_state->dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 CSize KZLayout::Pixels2Size(int pixels) noexcept

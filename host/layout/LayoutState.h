@@ -4,7 +4,6 @@
 #include <memory>
 #include <vector>
 
-#include "ControlTable.h"
 #include "KZLayout.h"
 #include "SizeCodes.h"
 
@@ -29,6 +28,5 @@ struct KZLayout::State {
     HWND dialog = nullptr;
     std::vector<LayoutItem> items{};
     LayoutBox box{};
-    int borders[2] = {0, 0};  // per LayoutAxis
-    ControlTables tables{};
+    PerAxis borders{};
 };

@@ -10,6 +10,15 @@ enum class LayoutAxis { Horizontal, Vertical };
     return axis == LayoutAxis::Horizontal ? LayoutAxis::Vertical : LayoutAxis::Horizontal;
 }
 
+// A length or size code for each axis.
+struct PerAxis {
+    int x = 0;
+    int y = 0;
+
+    [[nodiscard]] int& operator[](LayoutAxis axis) noexcept { return axis == LayoutAxis::Horizontal ? x : y; }
+    [[nodiscard]] int operator[](LayoutAxis axis) const noexcept { return axis == LayoutAxis::Horizontal ? x : y; }
+};
+
 // Sizes above the named ones and below 0 are pixels.
 [[nodiscard]] constexpr bool IsPixelSize(int size) noexcept
 {
