@@ -33,7 +33,8 @@ LRESULT InitDialog(CWnd& window, const MSG& message)
     CRect after;
     window.GetWindowRect(&after);
     const CWnd* owner = window.GetOwner();
-    if (wasHidden && (window.GetStyle() & (WS_VISIBLE | WS_CHILD)) == 0 && before.TopLeft() == after.TopLeft() &&
+    const bool wasMoved = before.left != after.left || before.top != after.top;
+    if (wasHidden && (window.GetStyle() & (WS_VISIBLE | WS_CHILD)) == 0 && !wasMoved &&
         !(owner && owner->IsWindowEnabled()) && AfxWindowAccess::WantsCentring(window))
         window.CenterWindow();
     return result;
