@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "EditorFixture.h"
+#include "KZDlgOptions.h"
 #include "resources/EditorIds.h"
 #include "text/Utf8.h"
 
@@ -16,7 +17,7 @@ namespace editor_tests {
 
 inline constexpr wchar_t cleanTitle[] = L"KZEditor – plant";
 inline constexpr wchar_t dirtyTitle[] = L"KZEditor – plant *";
-inline constexpr int firstSection = 1200;  // the first button of a driver's options dialog
+inline constexpr int firstSection = KZSectionButtonBase;
 inline constexpr int unitsSection = firstSection + 3;
 
 class MainWindowTest : public EditorTest {

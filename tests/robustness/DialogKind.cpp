@@ -1,13 +1,21 @@
 #include "DialogKind.h"
 
+#include "DeviceControls.h"
+#include "LimitsControls.h"
+#include "SelectVarControls.h"
+#include "UnitsControls.h"
+
 namespace {
 
 struct Sign {
     const char* name;
     int control;  // one that no other dialog has
 };
-constexpr std::array<Sign, DialogKindCount - 1> Signs{
-    {{"hub", KZSectionButtonBase}, {"device", 8094}, {"units", 8049}, {"limits", 5150}, {"selection", 6697}}};
+constexpr std::array<Sign, DialogKindCount - 1> Signs{{{"hub", KZSectionButtonBase},
+                                                       {"device", IDC_MODE},
+                                                       {"units", IDC_APPARENT_DEC_0},
+                                                       {"limits", IDC_LIMITS_TAB},
+                                                       {"selection", IDC_SELECTVAR_TAB}}};
 
 }  // namespace
 

@@ -107,9 +107,27 @@ struct Labelled {
 };
 
 constexpr Labelled Labels[] = {
-    {5000, 282},   {5001, 283},   {5003, 290},   {5004, 284},   {5006, 285},   {5008, 286},   {5011, 32314},
-    {5013, 35703}, {5078, 35661}, {5075, 35704}, {5059, 35662}, {8094, 35744}, {8095, 35745}, {8096, 35746},
-    {8097, 35747}, {5060, 35663}, {5058, 35664}, {5061, 35665}, {5076, 35705}, {1, 311},      {2, 312},
+    {IDC_IDENTITY_GROUP, KZS_DEVICE_INFORMATION},
+    {IDC_NUMBER_LABEL, KZS_DEVICE_NUMBER},
+    {IDC_IDENTIFIER_LABEL, KZS_DEVICE_IDENTIFIER},
+    {IDC_DESCRIPTION_LABEL, KZS_DEVICE_DESCRIPTION},
+    {IDC_MODEL_LABEL, KZS_DEVICE_MODEL},
+    {IDC_VERSION_LABEL, KZS_DEVICE_VERSION},
+    {IDC_SERIAL_NUMBER_LABEL, KZS_DEVICE_SERIAL_NUMBER},
+    {IDC_GAMMA_LABEL, KZS_DEVICE_RANGE},
+    {IDC_STATUS_GROUP, KZS_STATUS},
+    {IDC_ALGORITHM_GROUP, KZS_ALGORITHM},
+    {IDC_MODE_GROUP, KZS_WORKING_MODE},
+    {IDC_MODE, KZS_MODE_FIRST},
+    {IDC_MODE + 1, KZS_MODE_SECOND},
+    {IDC_MODE + 2, KZS_MODE_THIRD},
+    {IDC_MODE + 3, KZS_MODE_FOURTH},
+    {IDC_FILTERS_GROUP, KZS_FILTERED_HARMONICS},
+    {IDC_RATIO_GROUP, KZS_TRANSFORMER_RATIO},
+    {IDC_CURRENT_GROUP, KZS_MINIMUM_CURRENT},
+    {IDC_UNITS_GROUP, KZS_NUMBER_OF_UNITS},
+    {1, KZS_OK},
+    {2, KZS_CANCEL},
 };
 
 class DeviceDialogLanguages : public DeviceDialog, public testing::WithParamInterface<KZLanguage> {
@@ -123,8 +141,10 @@ TEST_P(DeviceDialogLanguages, TakesItsTextsFromTheHost)
         for (const auto& [control, text] : Labels)
             EXPECT_EQ(TextOf(control), Text(text)) << control;
         for (int i = 0; i < 12; ++i)
-            EXPECT_EQ(TextOf(8098 + i), KZBasicString::Format(Text(564).c_str(), 2 * i + 3).c_str());
-        EXPECT_EQ(ControlText(*m_dialog), KZBasicString::Format(Text(523).c_str(), Plant::Model().c_str()));
+            EXPECT_EQ(TextOf(IDC_FILTER + i),
+                      KZBasicString::Format(Text(KZS_HARMONIC_ORDER).c_str(), 2 * i + 3).c_str());
+        EXPECT_EQ(ControlText(*m_dialog),
+                  KZBasicString::Format(Text(KZS_DEVICE_TITLE).c_str(), Plant::Model().c_str()));
     });
 }
 

@@ -19,6 +19,7 @@
 #include "KZLoadString.h"
 #include "KZStringIds.h"
 #include "MessageBoxes.h"
+#include "SelectVarControls.h"
 
 namespace {
 
@@ -340,15 +341,15 @@ TEST(DriverModuleFile, LeavesNoResourcesBehindWhenFreed)
 {
     for (int round = 0; round < 20; ++round) {
         LoadedModule module;
-        EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCEW(3354), RT_DIALOG), module.Handle());
+        EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCEW(IDD_SELECTVAR), RT_DIALOG), module.Handle());
     }
-    EXPECT_NE(AfxFindResourceHandle(MAKEINTRESOURCEW(3354), RT_DIALOG), ::GetModuleHandleW(L"KZUsrZEP.dll"));
+    EXPECT_NE(AfxFindResourceHandle(MAKEINTRESOURCEW(IDD_SELECTVAR), RT_DIALOG), ::GetModuleHandleW(L"KZUsrZEP.dll"));
 }
 
 TEST(DriverModuleFile, HoldsItsTemplates)
 {
     LoadedModule module;
-    for (const int id : {3354, 3355, 3356, 3367})
+    for (const int id : {IDD_SELECTVAR, IDD_SELECTVAR_GENERAL, IDD_SELECTVAR_POWER, IDD_SELECTVAR_HARMONIC})
         EXPECT_TRUE(::FindResourceW(module.Handle(), MAKEINTRESOURCEW(id), RT_DIALOG)) << id;
 }
 

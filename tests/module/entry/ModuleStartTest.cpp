@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "ImportPatch.h"
+#include "SelectVarControls.h"
 
 namespace {
 
@@ -37,7 +38,7 @@ TEST(ModuleStart, FailsCleanlyWithoutMemory)
     EXPECT_EQ(::GetModuleHandleW(L"KZUsrZEP.dll"), nullptr);
     const HMODULE module = ::LoadLibraryW(L"KZUsrZEP.dll");
     ASSERT_NE(module, nullptr) << "what failed once can be loaded when there is memory again";
-    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCEW(3354), RT_DIALOG), module);
+    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCEW(IDD_SELECTVAR), RT_DIALOG), module);
     ::FreeLibrary(module);
 }
 

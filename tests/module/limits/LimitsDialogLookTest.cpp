@@ -1,6 +1,7 @@
 // Texts, places and tabs of the limits dialog, in both languages.
 #include "DialogLayout.h"
 #include "GuiResources.h"
+#include "KZStringIds.h"
 #include "LimitsDialogFixture.h"
 #include "ParameterNames.h"
 #include "PlaceOf.h"
@@ -43,11 +44,12 @@ INSTANTIATE_TEST_SUITE_P(Languages, LimitsDialogLanguages, testing::Values(KZLan
 TEST_P(LimitsDialogLanguages, NamesItselfItsTabsAndItsButtons)
 {
     Run([&] {
-        EXPECT_EQ(ControlText(*m_dialog), KZBasicString::Format(Text(32903).c_str(), Plant::Model().c_str()));
+        EXPECT_EQ(ControlText(*m_dialog),
+                  KZBasicString::Format(Text(KZS_LIMITS_TITLE).c_str(), Plant::Model().c_str()));
         EXPECT_EQ(Tab().SendMessage(TCM_GETITEMCOUNT), 3);
-        EXPECT_EQ(TabText(0), Text(24534));
-        EXPECT_EQ(TabText(1), Text(809) + L" " + Text(35652));
-        EXPECT_EQ(TabText(2), Text(809) + L" " + Text(35651));
+        EXPECT_EQ(TabText(0), Text(KZS_POWERS));
+        EXPECT_EQ(TabText(1), Text(KZS_HARMONIC_CURRENTS) + L" " + Text(KZS_NET_SIDE));
+        EXPECT_EQ(TabText(2), Text(KZS_HARMONIC_CURRENTS) + L" " + Text(KZS_LOAD_SIDE));
         for (int tab = 0; tab < 3; ++tab)
             EXPECT_EQ(TabImage(tab), tab);
         EXPECT_EQ(ControlText(*m_dialog->GetDlgItem(IDOK)), KZLoadString(311));
@@ -58,24 +60,27 @@ TEST_P(LimitsDialogLanguages, NamesItselfItsTabsAndItsButtons)
 TEST_P(LimitsDialogLanguages, LabelsThePowerPage)
 {
     Run([&] {
-        for (const int id : {5356, 5357, 5358, 5359})
-            EXPECT_EQ(TextOf(Power, id), Text(334)) << id;
-        for (const int id : {5316, 5317, 5318, 5319, 5312})
-            EXPECT_EQ(TextOf(Power, id), Text(335)) << id;
-        for (const int id : {5332, 5333, 5334, 5335, 5328})
-            EXPECT_EQ(TextOf(Power, id), Text(336)) << id;
-        for (const int id : {5417, 5418, 5419})
-            EXPECT_EQ(TextOf(Power, id), Text(803)) << id;
-        EXPECT_EQ(TextOf(Power, 5416), Text(917));
-        EXPECT_EQ(TextOf(Power, 5352), Text(916));
-        EXPECT_EQ(TextOf(Power, 5300), Text(133));
-        EXPECT_EQ(TextOf(Power, 5302), Text(24535));
-        EXPECT_EQ(TextOf(Power, 5303), Text(933));
-        EXPECT_EQ(TextOf(Power, 5304), Text(241));
-        EXPECT_EQ(TextOf(Power, 5380), L"");
-        EXPECT_EQ(TextOf(Power, 5384), L"(Kw)");
-        EXPECT_EQ(TextOf(Power, 5385), L"(Kvar)");
-        EXPECT_EQ(TextOf(Power, 5386), L"(Kva)");
+        for (const int id : {IDC_POWER_NOMINAL_HEAD, IDC_POWER_NOMINAL_HEAD + 1, IDC_POWER_NOMINAL_HEAD + 2,
+                             IDC_POWER_NOMINAL_HEAD + 3})
+            EXPECT_EQ(TextOf(Power, id), Text(KZS_NOMINAL)) << id;
+        for (const int id : {IDC_POWER_MAXW_HEAD, IDC_POWER_MAXW_HEAD + 1, IDC_POWER_MAXW_HEAD + 2,
+                             IDC_POWER_MAXW_HEAD + 3, IDC_POWER_MINW_HEAD})
+            EXPECT_EQ(TextOf(Power, id), Text(KZS_WARNING_LIMIT)) << id;
+        for (const int id : {IDC_POWER_MAXD_HEAD, IDC_POWER_MAXD_HEAD + 1, IDC_POWER_MAXD_HEAD + 2,
+                             IDC_POWER_MAXD_HEAD + 3, IDC_POWER_MIND_HEAD})
+            EXPECT_EQ(TextOf(Power, id), Text(KZS_ALARM_LIMIT)) << id;
+        for (const int id : {IDC_POWER_MAX_CAPTION + 1, IDC_POWER_MAX_CAPTION + 2, IDC_POWER_MAX_CAPTION + 3})
+            EXPECT_EQ(TextOf(Power, id), Text(KZS_MAXIMUM)) << id;
+        EXPECT_EQ(TextOf(Power, IDC_POWER_MAX_CAPTION), Text(KZS_POWER_FACTOR_MAXIMUM));
+        EXPECT_EQ(TextOf(Power, IDC_POWER_MIN_CAPTION), Text(KZS_POWER_FACTOR_MINIMUM));
+        EXPECT_EQ(TextOf(Power, IDC_PF_GROUP), Text(KZS_POWER_FACTOR));
+        EXPECT_EQ(TextOf(Power, IDC_AP_GROUP), Text(KZS_ACTIVE_POWER));
+        EXPECT_EQ(TextOf(Power, IDC_RP_GROUP), Text(KZS_REACTIVE_POWER));
+        EXPECT_EQ(TextOf(Power, IDC_VA_GROUP), Text(KZS_APPARENT_POWER));
+        EXPECT_EQ(TextOf(Power, IDC_PF_UNIT), L"");
+        EXPECT_EQ(TextOf(Power, IDC_AP_UNIT), L"(Kw)");
+        EXPECT_EQ(TextOf(Power, IDC_RP_UNIT), L"(Kvar)");
+        EXPECT_EQ(TextOf(Power, IDC_VA_UNIT), L"(Kva)");
     });
 }
 
@@ -84,17 +89,18 @@ TEST_P(LimitsDialogLanguages, LabelsTheHarmonicPages)
     Run([&] {
         for (const Page page : {Net, Load}) {
             for (int block = 0; block < 3; ++block) {
-                EXPECT_EQ(TextOf(page, 5458 + block), Text(334));
-                EXPECT_EQ(TextOf(page, 5496 + block), Text(335));
-                EXPECT_EQ(TextOf(page, 5531 + block), Text(336));
-                EXPECT_EQ(TextOf(page, 5566 + block), Text(803));
+                EXPECT_EQ(TextOf(page, IDC_HARMONIC_NOMINAL_HEAD + block), Text(KZS_NOMINAL));
+                EXPECT_EQ(TextOf(page, IDC_HARMONIC_MAXW_HEAD + block), Text(KZS_WARNING_LIMIT));
+                EXPECT_EQ(TextOf(page, IDC_HARMONIC_MAXD_HEAD + block), Text(KZS_ALARM_LIMIT));
+                EXPECT_EQ(TextOf(page, IDC_HARMONIC_MAX_CAPTION + block), Text(KZS_MAXIMUM));
             }
-            EXPECT_EQ(TextOf(page, 5426), Text(816));
+            EXPECT_EQ(TextOf(page, IDC_HARMONIC_ROW), Text(KZS_FUNDAMENTAL));
             for (int row = 1; row < 13; ++row)
-                EXPECT_EQ(TextOf(page, 5426 + row), KZBasicString::Format(Text(564).c_str(), 2 * row + 1).c_str());
-            EXPECT_EQ(TextOf(page, 5495), L"(A)");
-            EXPECT_EQ(TextOf(page, 5493), L"(%)");
-            EXPECT_EQ(TextOf(page, 5494), L"(%)");
+                EXPECT_EQ(TextOf(page, IDC_HARMONIC_ROW + row),
+                          KZBasicString::Format(Text(KZS_HARMONIC_ORDER).c_str(), 2 * row + 1).c_str());
+            EXPECT_EQ(TextOf(page, IDC_FUNDAMENTAL_UNIT), L"(A)");
+            EXPECT_EQ(TextOf(page, IDC_HARMONIC_UNIT_LEFT), L"(%)");
+            EXPECT_EQ(TextOf(page, IDC_HARMONIC_UNIT_RIGHT), L"(%)");
         }
     });
 }

@@ -15,15 +15,16 @@ std::wstring Text(unsigned id)
 TEST_F(LimitsDialog, ShowsTheStartValuesWithoutAViewSetup)
 {
     Run([&] {
-        for (const int id : {5368, 5370, 5371, 5372})
+        for (const int id : {IDC_PF_NOMINAL, IDC_AP_NOMINAL, IDC_RP_NOMINAL, IDC_VA_NOMINAL})
             EXPECT_EQ(TextOf(Power, id), L"0") << id;
-        for (const int id : {5392, 5394, 5395, 5396, 5404, 5406, 5407, 5408, 5344, 5348})
+        for (const int id : {IDC_PF_MAXW, IDC_AP_MAXW, IDC_RP_MAXW, IDC_VA_MAXW, IDC_PF_MAXD, IDC_AP_MAXD, IDC_RP_MAXD,
+                             IDC_VA_MAXD, IDC_PF_MINW, IDC_PF_MIND})
             EXPECT_EQ(TextOf(Power, id), L"1") << id;
         for (const Page page : {Net, Load})
             for (int row = 0; row < 13; ++row) {
-                EXPECT_EQ(TextOf(page, 5461 + row), L"0");
-                EXPECT_EQ(TextOf(page, 5499 + row), L"1");
-                EXPECT_EQ(TextOf(page, 5534 + row), L"1");
+                EXPECT_EQ(TextOf(page, IDC_HARMONIC_NOMINAL + row), L"0");
+                EXPECT_EQ(TextOf(page, IDC_HARMONIC_MAXW + row), L"1");
+                EXPECT_EQ(TextOf(page, IDC_HARMONIC_MAXD + row), L"1");
             }
     });
 }
@@ -237,9 +238,9 @@ protected:
 TEST_F(LimitsDialogRefusal, NamesGroupFieldAndReasonOfAPower)
 {
     EXPECT_EQ(PressOk([&] { Type(Power, IDC_AP_MAXD, L"100"); }).messages,
-              Lines({Text(24535), Text(32274), Text(351)}));
+              Lines({Text(KZS_ACTIVE_POWER), Text(KZS_FIELD_MAXD), Text(KZS_LIMIT_RANGE)}));
     EXPECT_EQ(PressOk([&] { Type(Power, IDC_PF_NOMINAL, L"0.5"); }).messages,
-              Lines({Text(133), Text(32276), Text(32277)}));
+              Lines({Text(KZS_POWER_FACTOR), Text(KZS_FIELD_NOMINAL), Text(KZS_POWER_FACTOR_NOMINAL)}));
 }
 
 TEST_F(LimitsDialogRefusal, NamesNoFieldWhenAPowersLimitsAreInTheWrongOrder)
@@ -248,7 +249,7 @@ TEST_F(LimitsDialogRefusal, NamesNoFieldWhenAPowersLimitsAreInTheWrongOrder)
                   Type(Power, IDC_VA_MAXW, L"60");
                   Type(Power, IDC_VA_MAXD, L"50");
               }).messages,
-              Lines({Text(241), Text(352)}));
+              Lines({Text(KZS_APPARENT_POWER), Text(KZS_LIMITS_ORDER)}));
 }
 
 TEST_F(LimitsDialogRefusal, LeavesTheFocusWhereItWasOnThePowerPage)
@@ -275,7 +276,7 @@ TEST_F(LimitsDialogRefusal, NamesTheOrderAndSelectsTheFieldOfAHarmonic)
             ::SendMessageW(expected, EM_GETSEL, reinterpret_cast<WPARAM>(&seen.selectionStart),
                            reinterpret_cast<LPARAM>(&seen.selectionEnd));
         });
-    EXPECT_EQ(outcome.messages, Lines({Text(809), Order(11), Text(349)}));
+    EXPECT_EQ(outcome.messages, Lines({Text(KZS_HARMONIC_CURRENTS), Order(11), Text(KZS_NOT_A_NUMBER)}));
     EXPECT_EQ(outcome.focus, expected);
     EXPECT_EQ(outcome.selectionStart, 0U);
     EXPECT_EQ(outcome.selectionEnd, 3U);
@@ -294,7 +295,7 @@ TEST_F(LimitsDialogRefusal, StaysOpenWhenABoxCannotBeRead)
 TEST_F(LimitsDialogRefusal, NamesTheFundamental)
 {
     EXPECT_EQ(PressOk([&] { Type(Load, IDC_HARMONIC_NOMINAL, L"-1"); }).messages,
-              Lines({Text(809), Text(816), Text(817)}));
+              Lines({Text(KZS_HARMONIC_CURRENTS), Text(KZS_FUNDAMENTAL), Text(KZS_CURRENT_BELOW_ZERO)}));
 }
 
 TEST_F(LimitsDialogRefusal, ReportsAPageThatIsNotShownAndKeepsTheTab)
@@ -305,7 +306,7 @@ TEST_F(LimitsDialogRefusal, ReportsAPageThatIsNotShownAndKeepsTheTab)
                                      EXPECT_TRUE(IsShown(m_pages[Power]));
                                      EXPECT_FALSE(IsShown(m_pages[Load]));
                                  });
-    EXPECT_EQ(outcome.messages, Lines({Text(809), Order(25), Text(351)}));
+    EXPECT_EQ(outcome.messages, Lines({Text(KZS_HARMONIC_CURRENTS), Order(25), Text(KZS_LIMIT_RANGE)}));
 }
 
 TEST_F(LimitsDialogRefusal, ChecksPowerThenNetThenLoadAndStopsAtTheFirst)
@@ -315,12 +316,12 @@ TEST_F(LimitsDialogRefusal, ChecksPowerThenNetThenLoadAndStopsAtTheFirst)
                   Type(Net, IDC_HARMONIC_MAXD + 1, L"0");
                   Type(Power, IDC_RP_NOMINAL, L"");
               }).messages,
-              Lines({Text(933), Text(32276), Text(349)}));
+              Lines({Text(KZS_REACTIVE_POWER), Text(KZS_FIELD_NOMINAL), Text(KZS_NOT_A_NUMBER)}));
     EXPECT_EQ(PressOk([&] {
                   Type(Load, IDC_HARMONIC_NOMINAL, L"x");
                   Type(Net, IDC_HARMONIC_MAXD + 1, L"0");
               }).messages,
-              Lines({Text(809), Order(3), Text(351)}));
+              Lines({Text(KZS_HARMONIC_CURRENTS), Order(3), Text(KZS_LIMIT_RANGE)}));
 }
 
 }  // namespace

@@ -14,10 +14,10 @@
 
 namespace {
 
-constexpr int ApparentDecimals[] = {8049, 8059, 8065, 8071};
-constexpr int ReactiveDecimals[] = {8050, 8060, 8066, 8072};
-constexpr int ApparentUnits[] = {8020, 8027};
-constexpr int ReactiveUnits[] = {8021, 8028};
+constexpr int ApparentDecimals[] = {IDC_APPARENT_DEC_0, IDC_APPARENT_DEC_1, IDC_APPARENT_DEC_2, IDC_APPARENT_DEC_3};
+constexpr int ReactiveDecimals[] = {IDC_REACTIVE_DEC_0, IDC_REACTIVE_DEC_1, IDC_REACTIVE_DEC_2, IDC_REACTIVE_DEC_3};
+constexpr int ApparentUnits[] = {IDC_APPARENT_KILO, IDC_APPARENT_PLAIN};
+constexpr int ReactiveUnits[] = {IDC_REACTIVE_KILO, IDC_REACTIVE_PLAIN};
 
 std::string SetupWith(const std::string& units)
 {
@@ -230,20 +230,20 @@ TEST_P(UnitsDialogLanguages, TakesItsTextsFromTheHostButForTheUnits)
         const auto text = [](unsigned id) { return std::wstring(KZLoadString(id).c_str()); };
         EXPECT_EQ(TextOf(IDC_APPARENT_GROUP), text(399));
         EXPECT_EQ(TextOf(IDC_REACTIVE_GROUP), text(400));
-        for (const int id : {8015, 8016})
+        for (const int id : {IDC_APPARENT_UNIT_LABEL, IDC_REACTIVE_UNIT_LABEL})
             EXPECT_EQ(TextOf(id), text(407));
-        for (const int id : {8039, 8040})
+        for (const int id : {IDC_APPARENT_DEC_LABEL, IDC_REACTIVE_DEC_LABEL})
             EXPECT_EQ(TextOf(id), text(408));
         for (const auto& radios : {ApparentDecimals, ReactiveDecimals}) {
             EXPECT_EQ(TextOf(radios[0]), text(403));
             EXPECT_EQ(TextOf(radios[1]), Decimals(404, 1));
-            EXPECT_EQ(TextOf(radios[2]), Decimals(32330, 2));
-            EXPECT_EQ(TextOf(radios[3]), Decimals(32330, 3));
+            EXPECT_EQ(TextOf(radios[2]), Decimals(KZS_SEVERAL_DECIMALS, 2));
+            EXPECT_EQ(TextOf(radios[3]), Decimals(KZS_SEVERAL_DECIMALS, 3));
         }
-        EXPECT_EQ(TextOf(8020), L"kW / kVA");
-        EXPECT_EQ(TextOf(8027), L"W / VA");
-        EXPECT_EQ(TextOf(8021), L"kVAR");
-        EXPECT_EQ(TextOf(8028), L"VAR");
+        EXPECT_EQ(TextOf(IDC_APPARENT_KILO), L"kW / kVA");
+        EXPECT_EQ(TextOf(IDC_APPARENT_PLAIN), L"W / VA");
+        EXPECT_EQ(TextOf(IDC_REACTIVE_KILO), L"kVAR");
+        EXPECT_EQ(TextOf(IDC_REACTIVE_PLAIN), L"VAR");
         EXPECT_EQ(TextOf(IDOK), text(311));
         EXPECT_EQ(TextOf(IDCANCEL), text(312));
         EXPECT_EQ(ControlText(*m_dialog), KZBasicString::Format(text(532).c_str(), Plant::Model().c_str()));

@@ -21,7 +21,8 @@ TEST_F(ChosenBefore, IsMarkedAndDisabled)
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
         for (const auto& [family, id] :
-             {std::pair(Family::Harmonic, 7303), std::pair(Family::General, 6719), std::pair(Family::Power, 6933)}) {
+             {std::pair(Family::Harmonic, IDC_HARMONIC_LOAD_BOX + 15),
+              std::pair(Family::General, IDC_GENERAL_NET_BOX + 1), std::pair(Family::Power, IDC_POWER_NET_BOX + 11)}) {
             EXPECT_TRUE(dialog.IsChecked(family, id)) << id;
             EXPECT_FALSE(dialog.IsEnabled(family, id)) << id;
             EXPECT_EQ(dialog.CountChecked(family), 1);
@@ -34,7 +35,7 @@ TEST_F(ChosenBefore, OfAnEvenOrderIsTheOrderBelow)
 {
     m_names = {L"DEV1.ARM2A1N"};
     TestSelection dialog(m_device, m_names);
-    dialog.Run({[&] { EXPECT_TRUE(dialog.IsChecked(Family::Harmonic, 7236)); }});
+    dialog.Run({[&] { EXPECT_TRUE(dialog.IsChecked(Family::Harmonic, IDC_HARMONIC_NET_BOX)); }});
 }
 
 TEST_F(ChosenBefore, IsTheOneFrequencyWhateverSideItsNameSays)
@@ -42,7 +43,7 @@ TEST_F(ChosenBefore, IsTheOneFrequencyWhateverSideItsNameSays)
     for (const wchar_t* name : {L"DEV1.HZIN", L"DEV1.HZIL"}) {
         m_names = {name};
         TestSelection dialog(m_device, m_names);
-        dialog.Run({[&] { EXPECT_TRUE(dialog.IsChecked(Family::General, 6719)) << name; }});
+        dialog.Run({[&] { EXPECT_TRUE(dialog.IsChecked(Family::General, IDC_GENERAL_NET_BOX + 1)) << name; }});
     }
 }
 
@@ -51,11 +52,12 @@ TEST_F(ChosenBefore, TakesNoPartInGroups)
     m_names = {L"DEV1.ARM1A1N", L"DEV1.ARM1A2N", L"DEV1.ARM1A3N", L"DEV1.ARM3A1N"};
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        dialog.Click(Family::Harmonic, 7221);  // nothing selectable in it
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_NET_ROW);  // nothing selectable in it
         EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 4);
-        dialog.Click(Family::Harmonic, 7222);
-        dialog.Click(Family::Harmonic, 7222);
-        EXPECT_TRUE(dialog.IsChecked(Family::Harmonic, 7237));  // what was chosen before cannot be cleared
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_NET_ROW + 1);
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_NET_ROW + 1);
+        EXPECT_TRUE(
+            dialog.IsChecked(Family::Harmonic, IDC_HARMONIC_NET_BOX + 1));  // what was chosen before cannot be cleared
         EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 4);
     }});
     EXPECT_THAT(dialog.notes, ElementsAre(Unselect(0), Select(2), Unselect(2)));
@@ -84,7 +86,7 @@ TEST_F(ChosenBefore, IsNeverCollected)
     m_names = {L"DEV1.API1N", L"DEV1.API2N"};
     TestSelection dialog(m_device, m_names);
     EXPECT_EQ(dialog.Run({[&] {
-        dialog.Click(Family::Power, 6910);
+        dialog.Click(Family::Power, IDC_POWER_CAPTION);
         dialog.PressOk();
     }}),
               IDOK);
@@ -99,9 +101,9 @@ TEST_F(ChosenBefore, IsFoundForDevicesOfAnyName)
         m_names = {KZBasicString(name + L".HZIN"), KZBasicString(name + L"x.VI1N")};
         TestSelection dialog(device, m_names);
         EXPECT_EQ(dialog.Run({[&] {
-            EXPECT_FALSE(dialog.IsEnabled(Family::General, 6719));
+            EXPECT_FALSE(dialog.IsEnabled(Family::General, IDC_GENERAL_NET_BOX + 1));
             EXPECT_EQ(dialog.CountChecked(Family::General), 1);
-            dialog.Click(Family::Harmonic, 7326);
+            dialog.Click(Family::Harmonic, IDC_HARMONIC_LOAD_BOX + 38);
             dialog.PressOk();
         }}),
                   IDOK);

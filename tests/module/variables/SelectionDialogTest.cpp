@@ -95,11 +95,11 @@ TEST_F(SelectionDialog, ShowsTheGeneralPageFirstAndOnePageAtATime)
         dialog.ShowTab(0);
         EXPECT_THAT(visible(), ElementsAre(true, false, false));
 
-        const HWND tab = ::GetDlgItem(dialog.m_hWnd, 6697);
-        NMHDR change{tab, 6697, static_cast<UINT>(TCN_SELCHANGE)};
+        const HWND tab = ::GetDlgItem(dialog.m_hWnd, IDC_SELECTVAR_TAB);
+        NMHDR change{tab, IDC_SELECTVAR_TAB, static_cast<UINT>(TCN_SELCHANGE)};
         TabCtrl_SetCurSel(tab, -1);
         for (int twice = 0; twice < 2; ++twice) {
-            dialog.SendMessage(WM_NOTIFY, 6697, reinterpret_cast<LPARAM>(&change));
+            dialog.SendMessage(WM_NOTIFY, IDC_SELECTVAR_TAB, reinterpret_cast<LPARAM>(&change));
             EXPECT_THAT(visible(), ElementsAre(false, false, false));
         }
     }});
@@ -109,10 +109,10 @@ TEST_F(SelectionDialog, KeepsCheckMarksAcrossTabs)
 {
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        dialog.Click(Family::General, 6724);
+        dialog.Click(Family::General, IDC_GENERAL_NET_BOX + 6);
         dialog.ShowTab(2);
         dialog.ShowTab(0);
-        EXPECT_TRUE(dialog.IsChecked(Family::General, 6724));
+        EXPECT_TRUE(dialog.IsChecked(Family::General, IDC_GENERAL_NET_BOX + 6));
     }});
 }
 
@@ -152,10 +152,10 @@ TEST_F(SelectionDialog, HandsOverNewChoicesInPageOrder)
     m_names = {L"OTHER.API1N", L"DEV1.VI1N"};
     TestSelection dialog(m_device, m_names);
     EXPECT_EQ(dialog.Run({[&] {
-        dialog.Click(Family::Harmonic, 7236);
-        dialog.Click(Family::Power, 6971);
-        dialog.Click(Family::General, 6783);
-        dialog.Click(Family::General, 6719);
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_NET_BOX);
+        dialog.Click(Family::Power, IDC_POWER_LOAD_BOX + 1);
+        dialog.Click(Family::General, IDC_GENERAL_LOAD_BOX + 11);
+        dialog.Click(Family::General, IDC_GENERAL_NET_BOX + 1);
         dialog.PressOk();
     }}),
               IDOK);
@@ -175,7 +175,7 @@ TEST_F(SelectionDialog, CancelLeavesTheListAsItWas)
     m_names = {L"DEV1.HZIN", L"OTHER.API1N"};
     TestSelection dialog(m_device, m_names);
     EXPECT_EQ(dialog.Run({[&] {
-        dialog.Click(Family::General, 6724);
+        dialog.Click(Family::General, IDC_GENERAL_NET_BOX + 6);
         dialog.PressCancel();
     }}),
               IDCANCEL);
@@ -197,7 +197,7 @@ TEST_F(SelectionDialog, BehavesTheSameForAnyText)
         m_names.clear();
         TestSelection dialog(m_device, m_names, 0, 0x74, text);
         EXPECT_EQ(dialog.Run({[&] {
-            dialog.Click(Family::Power, 6922);
+            dialog.Click(Family::Power, IDC_POWER_NET_BOX);
             dialog.PressOk();
         }}),
                   IDOK);
@@ -227,10 +227,10 @@ TEST_F(SelectionDialog, RefusesTheClickOverALimitOfOneWithItsOwnMessage)
         kztest::MessageBoxes boxes;
         TestSelection dialog(m_device, m_names, 1);
         dialog.Run({[&] {
-            dialog.Click(Family::General, 6718);
-            dialog.Click(Family::Power, 6922);
-            EXPECT_TRUE(dialog.IsChecked(Family::General, 6718));
-            EXPECT_FALSE(dialog.IsChecked(Family::Power, 6922));
+            dialog.Click(Family::General, IDC_GENERAL_NET_BOX);
+            dialog.Click(Family::Power, IDC_POWER_NET_BOX);
+            EXPECT_TRUE(dialog.IsChecked(Family::General, IDC_GENERAL_NET_BOX));
+            EXPECT_FALSE(dialog.IsChecked(Family::Power, IDC_POWER_NET_BOX));
         }});
         EXPECT_THAT(boxes.Texts(), ElementsAre(HostText(KZS_MAX_ONE_VARIABLE)));
     });
@@ -242,7 +242,7 @@ TEST_F(SelectionDialog, FormatsALargerLimitIntoItsMessage)
         kztest::MessageBoxes boxes;
         TestSelection dialog(m_device, m_names, 5);
         dialog.Run({[&] {
-            dialog.Click(Family::Power, 6910);
+            dialog.Click(Family::Power, IDC_POWER_CAPTION);
             EXPECT_EQ(dialog.CountChecked(Family::Power), 0);
         }});
         EXPECT_THAT(boxes.Texts(), ElementsAre(KZBasicString::Format(HostText(KZS_MAX_VARIABLES).c_str(), 5).c_str()));
@@ -254,7 +254,7 @@ TEST_F(SelectionDialog, AllowsExactlyTheLimit)
     kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names, 6);
     EXPECT_EQ(dialog.Run({[&] {
-        dialog.Click(Family::Power, 6910);
+        dialog.Click(Family::Power, IDC_POWER_CAPTION);
         dialog.PressOk();
     }}),
               IDOK);
@@ -283,7 +283,8 @@ TEST_F(SelectionDialog, RecountsThePagesOnOk)
     m_names = {L"OTHER.X"};
     TestSelection dialog(m_device, m_names, 2);
     EXPECT_EQ(dialog.Run({[&] {
-        for (const int id : {6718, 6722, 6726})  // behind the pages' back
+        for (const int id :
+             {IDC_GENERAL_NET_BOX, IDC_GENERAL_NET_BOX + 4, IDC_GENERAL_NET_BOX + 8})  // behind the pages' back
             ::SendMessageW(dialog.Control(Family::General, id), BM_SETCHECK, BST_CHECKED, 0);
         dialog.PressOk();
     }}),
@@ -298,7 +299,7 @@ TEST_F(SelectionDialog, CountsOnlyNewChoicesAgainstTheLimit)
     m_names = {L"DEV1.VI1N", L"DEV1.VI2N", L"DEV1.VI3N"};
     TestSelection dialog(m_device, m_names, 1);
     EXPECT_EQ(dialog.Run({[&] {
-        dialog.Click(Family::General, 6719);
+        dialog.Click(Family::General, IDC_GENERAL_NET_BOX + 1);
         dialog.PressOk();
     }}),
               IDOK);

@@ -63,7 +63,7 @@ TEST_F(SelectionFaults, GoOnWithoutAPageThatCannotBeAllocated)
                                           EXPECT_EQ(dialog.Page(family) == nullptr, family == each.missing);
                                       dialog.ShowTab(1);
                                       if (each.missing != Family::Power)
-                                          dialog.Click(Family::Power, 6922);
+                                          dialog.Click(Family::Power, IDC_POWER_NET_BOX);
                                       dialog.PressOk();
                                   },
                                   [] {}}),
@@ -128,7 +128,7 @@ TEST_F(SelectionFaults, LeaveTheHostsListAsItWasWhenItsNewNamesCannotBeMade)
         const kztest::FaultyMemory memory(Module(), [&](std::size_t) { return isScarce && count++ == failing; });
         TestSelection dialog(m_device, m_names);
         answer = dialog.Run({[&] {
-                                 dialog.Click(Family::General, 6713);
+                                 dialog.Click(Family::General, IDC_NET_COLUMN);
                                  isScarce = true;
                                  dialog.PressOk();
                              },
@@ -154,7 +154,7 @@ TEST_F(SelectionFaults, LeaveNoWindowAndNoHandleBehindAfterTwentyRuns)
         dialog.Run({[&] {
             for (int tab = 0; tab < 3; ++tab)
                 dialog.ShowTab(tab);
-            dialog.Click(Family::Harmonic, 6713);
+            dialog.Click(Family::Harmonic, IDC_NET_COLUMN);
         }});
     };
     run();

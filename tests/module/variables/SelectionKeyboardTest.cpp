@@ -43,11 +43,13 @@ TEST_F(SelectionKeyboard, WalksWithTabThroughEveryControlOfThePageAndBack)
             TestSelection::Type(key);
         });
     };
-    dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, 6713)); }, step(VK_TAB), step(VK_TAB), step(VK_TAB),
+    dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, IDC_NET_COLUMN)); }, step(VK_TAB), step(VK_TAB),
                 step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB),
-                step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB)});
-    EXPECT_THAT(visited,
-                ElementsAre(6713, 6714, 6715, 6716, 6767, 6768, 6769, 6770, 6700, 6874, 6718, 6722, 6726, 6701));
+                step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB)});
+    EXPECT_THAT(visited, ElementsAre(IDC_NET_COLUMN, IDC_NET_COLUMN + 1, IDC_NET_COLUMN + 2, IDC_NET_COLUMN + 3,
+                                     IDC_LOAD_COLUMN, IDC_LOAD_COLUMN + 1, IDC_LOAD_COLUMN + 2, IDC_LOAD_COLUMN + 3,
+                                     IDC_GENERAL_CAPTION, IDC_GENERAL_NET_ROW, IDC_GENERAL_NET_BOX,
+                                     IDC_GENERAL_NET_BOX + 4, IDC_GENERAL_NET_BOX + 8, IDC_GENERAL_CAPTION + 1));
 }
 
 TEST_F(SelectionKeyboard, LeavesThePageForTheTabsAndButtonsAndComesBack)
@@ -58,18 +60,19 @@ TEST_F(SelectionKeyboard, LeavesThePageForTheTabsAndButtonsAndComesBack)
         visited.push_back(Focused());
         TestSelection::Type(VK_TAB);
     });
-    dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, 6783)); }, step, step, step, step, step});
-    EXPECT_THAT(visited, ElementsAre(6783, IDC_SELECTVAR_TAB, IDOK, IDCANCEL, 6713));
+    dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, IDC_GENERAL_LOAD_BOX + 11)); }, step, step, step, step,
+                step});
+    EXPECT_THAT(visited, ElementsAre(IDC_GENERAL_LOAD_BOX + 11, IDC_SELECTVAR_TAB, IDOK, IDCANCEL, IDC_NET_COLUMN));
 }
 
 TEST_F(SelectionKeyboard, ChecksABoxWithSpace)
 {
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-                    ::SetFocus(dialog.Control(Family::General, 6724));
+                    ::SetFocus(dialog.Control(Family::General, IDC_GENERAL_NET_BOX + 6));
                     TestSelection::Type(VK_SPACE);
                 },
-                [&] { EXPECT_TRUE(dialog.IsChecked(Family::General, 6724)); }});
+                [&] { EXPECT_TRUE(dialog.IsChecked(Family::General, IDC_GENERAL_NET_BOX + 6)); }});
 }
 
 TEST_F(SelectionKeyboard, WalksTheArrowsInsideARow)
@@ -80,15 +83,17 @@ TEST_F(SelectionKeyboard, WalksTheArrowsInsideARow)
         visited.push_back(Focused());
         TestSelection::Type(VK_RIGHT);
     });
-    dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, 6700)); }, step, step, step, step, step, step});
-    EXPECT_THAT(visited, ElementsAre(6700, 6874, 6718, 6722, 6726, 6700));
+    dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, IDC_GENERAL_CAPTION)); }, step, step, step, step, step,
+                step});
+    EXPECT_THAT(visited, ElementsAre(IDC_GENERAL_CAPTION, IDC_GENERAL_NET_ROW, IDC_GENERAL_NET_BOX,
+                                     IDC_GENERAL_NET_BOX + 4, IDC_GENERAL_NET_BOX + 8, IDC_GENERAL_CAPTION));
 }
 
 TEST_F(SelectionKeyboard, ConfirmsWithEnterOnACheckBox)
 {
     TestSelection dialog(m_device, m_names);
     EXPECT_EQ(dialog.Run({[&] {
-                              ::SetFocus(dialog.Control(Family::General, 6724));
+                              ::SetFocus(dialog.Control(Family::General, IDC_GENERAL_NET_BOX + 6));
                               TestSelection::Type(VK_SPACE);
                           },
                           [] { TestSelection::Type(VK_RETURN); }, [] {}, [] {}}),
@@ -100,7 +105,7 @@ TEST_F(SelectionKeyboard, PressesAGroupButtonWithEnter)
 {
     TestSelection dialog(m_device, m_names);
     EXPECT_EQ(dialog.Run({[&] {
-                              dialog.GotoDlgCtrl(CWnd::FromHandle(dialog.Control(Family::General, 6713)));
+                              dialog.GotoDlgCtrl(CWnd::FromHandle(dialog.Control(Family::General, IDC_NET_COLUMN)));
                               TestSelection::Type(VK_RETURN);
                           },
                           [&] { EXPECT_EQ(dialog.CountChecked(Family::General), 10); }}),
@@ -112,7 +117,7 @@ TEST_F(SelectionKeyboard, CancelsWithEscapeInsideAPage)
     m_names = {L"DEV1.HZIN"};
     TestSelection dialog(m_device, m_names);
     EXPECT_EQ(dialog.Run({[&] {
-                              ::SetFocus(dialog.Control(Family::General, 6724));
+                              ::SetFocus(dialog.Control(Family::General, IDC_GENERAL_NET_BOX + 6));
                               TestSelection::Type(VK_ESCAPE);
                           },
                           [] {}, [] {}}),

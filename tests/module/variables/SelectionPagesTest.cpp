@@ -95,18 +95,18 @@ TEST_F(SelectionPages, TakeTheirCaptionsFromTheHost)
                 EXPECT_EQ(dialog.Text(family, IDC_NET_COLUMN + 2), L"L2");
             }
             const auto row = [&](Family family, int id) { return dialog.Text(family, id); };
-            EXPECT_EQ(row(Family::General, 6700), HostText(342));
-            EXPECT_EQ(row(Family::General, 6701), HostText(135));
-            EXPECT_EQ(row(Family::General, 6702), HostText(160));
-            EXPECT_EQ(row(Family::General, 6703), HostText(347));
-            EXPECT_EQ(row(Family::Power, 6910), HostText(24535));
-            EXPECT_EQ(row(Family::Power, 6911), HostText(933));
-            EXPECT_EQ(row(Family::Power, 6912), HostText(241));
-            EXPECT_EQ(row(Family::Power, 6913), HostText(133));
-            EXPECT_EQ(row(Family::Harmonic, 7206), HostText(816));
+            EXPECT_EQ(row(Family::General, IDC_GENERAL_CAPTION), HostText(KZS_PHASE_VOLTAGE));
+            EXPECT_EQ(row(Family::General, IDC_GENERAL_CAPTION + 1), HostText(KZS_FREQUENCY));
+            EXPECT_EQ(row(Family::General, IDC_GENERAL_CAPTION + 2), HostText(KZS_CURRENT));
+            EXPECT_EQ(row(Family::General, IDC_GENERAL_CAPTION + 3), HostText(KZS_CURRENT_DISTORTION));
+            EXPECT_EQ(row(Family::Power, IDC_POWER_CAPTION), HostText(KZS_ACTIVE_POWER));
+            EXPECT_EQ(row(Family::Power, IDC_POWER_CAPTION + 1), HostText(KZS_REACTIVE_POWER));
+            EXPECT_EQ(row(Family::Power, IDC_POWER_CAPTION + 2), HostText(KZS_APPARENT_POWER));
+            EXPECT_EQ(row(Family::Power, IDC_POWER_CAPTION + 3), HostText(KZS_POWER_FACTOR));
+            EXPECT_EQ(row(Family::Harmonic, IDC_HARMONIC_CAPTION), HostText(KZS_FUNDAMENTAL));
             for (int order = 3; order <= 25; order += 2) {
-                const auto expected = KZBasicString::Format(HostText(564).c_str(), order);
-                EXPECT_EQ(row(Family::Harmonic, 7206 + (order - 1) / 2), expected.View());
+                const auto expected = KZBasicString::Format(HostText(KZS_HARMONIC_ORDER).c_str(), order);
+                EXPECT_EQ(row(Family::Harmonic, IDC_HARMONIC_CAPTION + (order - 1) / 2), expected.View());
             }
         }});
     });
@@ -128,10 +128,10 @@ TEST_F(SelectionPages, AskForOneVariableAtAClickAndGiveItBackAtTheNext)
 {
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        dialog.Click(Family::Harmonic, 7303);
-        EXPECT_TRUE(dialog.IsChecked(Family::Harmonic, 7303));
-        dialog.Click(Family::Harmonic, 7303);
-        EXPECT_FALSE(dialog.IsChecked(Family::Harmonic, 7303));
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_LOAD_BOX + 15);
+        EXPECT_TRUE(dialog.IsChecked(Family::Harmonic, IDC_HARMONIC_LOAD_BOX + 15));
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_LOAD_BOX + 15);
+        EXPECT_FALSE(dialog.IsChecked(Family::Harmonic, IDC_HARMONIC_LOAD_BOX + 15));
     }});
     EXPECT_THAT(dialog.notes, ElementsAre(Select(1), Unselect(1)));
 }
@@ -141,9 +141,9 @@ TEST_F(SelectionPages, TakeARefusedClickBackWithoutGivingAnythingBack)
     kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names, 1);
     dialog.Run({[&] {
-        dialog.Click(Family::General, 6718);
-        dialog.Click(Family::General, 6722);
-        EXPECT_FALSE(dialog.IsChecked(Family::General, 6722));
+        dialog.Click(Family::General, IDC_GENERAL_NET_BOX);
+        dialog.Click(Family::General, IDC_GENERAL_NET_BOX + 4);
+        EXPECT_FALSE(dialog.IsChecked(Family::General, IDC_GENERAL_NET_BOX + 4));
     }});
     EXPECT_THAT(dialog.notes, ElementsAre(Select(1), Select(1, 0)));
 }
@@ -157,11 +157,14 @@ struct ColumnCase {
 TEST_F(SelectionPages, CountTheBoxesOfEachColumnButton)
 {
     const ColumnCase cases[] = {
-        {Family::General, 6713, 10},  {Family::General, 6714, 4},   {Family::General, 6715, 3},
-        {Family::General, 6716, 3},   {Family::General, 6767, 6},   {Family::General, 6768, 2},
-        {Family::General, 6770, 2},   {Family::Power, 6713, 12},    {Family::Power, 6715, 4},
-        {Family::Power, 6767, 12},    {Family::Power, 6770, 4},     {Family::Harmonic, 6713, 39},
-        {Family::Harmonic, 6714, 13}, {Family::Harmonic, 6767, 39}, {Family::Harmonic, 6769, 13},
+        {Family::General, IDC_NET_COLUMN, 10},       {Family::General, IDC_NET_COLUMN + 1, 4},
+        {Family::General, IDC_NET_COLUMN + 2, 3},    {Family::General, IDC_NET_COLUMN + 3, 3},
+        {Family::General, IDC_LOAD_COLUMN, 6},       {Family::General, IDC_LOAD_COLUMN + 1, 2},
+        {Family::General, IDC_LOAD_COLUMN + 3, 2},   {Family::Power, IDC_NET_COLUMN, 12},
+        {Family::Power, IDC_NET_COLUMN + 2, 4},      {Family::Power, IDC_LOAD_COLUMN, 12},
+        {Family::Power, IDC_LOAD_COLUMN + 3, 4},     {Family::Harmonic, IDC_NET_COLUMN, 39},
+        {Family::Harmonic, IDC_NET_COLUMN + 1, 13},  {Family::Harmonic, IDC_LOAD_COLUMN, 39},
+        {Family::Harmonic, IDC_LOAD_COLUMN + 2, 13},
     };
     for (const ColumnCase& each : cases) {
         TestSelection dialog(m_device, m_names);
@@ -179,7 +182,7 @@ TEST_F(SelectionPages, CheckTheBoxesOfAColumnOnItsSideAlone)
 {
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        dialog.Click(Family::Power, 6769);  // load, L2
+        dialog.Click(Family::Power, IDC_LOAD_COLUMN + 2);  // load, L2
         for (int row = 0; row < zep::QuantityRowCount; ++row) {
             for (const Side side : zep::Sides) {
                 for (int phase = 0; phase < zep::PhaseCount; ++phase) {
@@ -195,11 +198,11 @@ TEST_F(SelectionPages, ToggleARowOnBothSides)
 {
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        dialog.Click(Family::Harmonic, 7206);
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_CAPTION);
         EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 6);
-        dialog.Click(Family::Harmonic, 7206);
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_CAPTION);
         EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 0);
-        dialog.Click(Family::General, 6701);
+        dialog.Click(Family::General, IDC_GENERAL_CAPTION + 1);
         EXPECT_EQ(dialog.CountChecked(Family::General), 1);
     }});
     EXPECT_THAT(dialog.notes, ElementsAre(Select(6), Unselect(6), Select(1)));
@@ -209,10 +212,10 @@ TEST_F(SelectionPages, ToggleARowOnOneSide)
 {
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        dialog.Click(Family::General, 6889);
-        EXPECT_TRUE(dialog.IsChecked(Family::General, 6775));
-        EXPECT_TRUE(dialog.IsChecked(Family::General, 6779));
-        EXPECT_TRUE(dialog.IsChecked(Family::General, 6783));
+        dialog.Click(Family::General, IDC_GENERAL_LOAD_ROW + 3);
+        EXPECT_TRUE(dialog.IsChecked(Family::General, IDC_GENERAL_LOAD_BOX + 3));
+        EXPECT_TRUE(dialog.IsChecked(Family::General, IDC_GENERAL_LOAD_BOX + 7));
+        EXPECT_TRUE(dialog.IsChecked(Family::General, IDC_GENERAL_LOAD_BOX + 11));
         EXPECT_EQ(dialog.CountChecked(Family::General), 3);
     }});
     EXPECT_THAT(dialog.notes, ElementsAre(Select(3)));
@@ -222,9 +225,9 @@ TEST_F(SelectionPages, CompleteAPartialGroupByWhatItLacks)
 {
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        dialog.Click(Family::Harmonic, 7236);
-        dialog.Click(Family::Harmonic, 7249);
-        dialog.Click(Family::Harmonic, 7221);
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_NET_BOX);
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_NET_BOX + 13);
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_NET_ROW);
         EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 3);
     }});
     EXPECT_THAT(dialog.notes, ElementsAre(Select(1), Select(1), Select(1)));
@@ -235,12 +238,12 @@ TEST_F(SelectionPages, ChangeNothingWhenAGroupIsRefused)
     kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names, 5);
     dialog.Run({[&] {
-        dialog.Click(Family::Harmonic, 7240);
-        dialog.Click(Family::Harmonic, 7210);
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_NET_BOX + 4);
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_CAPTION + 4);
         EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 1);
-        dialog.Click(Family::Harmonic, 6713);
+        dialog.Click(Family::Harmonic, IDC_NET_COLUMN);
         EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 1);
-        dialog.Click(Family::Harmonic, 7225);  // three on one side fit
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_NET_ROW + 4);  // three on one side fit
         EXPECT_EQ(dialog.CountChecked(Family::Harmonic), 3);
     }});
     EXPECT_THAT(dialog.notes, ElementsAre(Select(1), Select(5, 0), Select(38, 0), Select(2)));
@@ -257,19 +260,19 @@ TEST_F(SelectionPages, ShowATouchedRowByTheSamePictureWhateverItsState)
 {
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        const HWND first = dialog.Control(Family::Power, 7066);
-        const HWND second = dialog.Control(Family::Power, 7067);
+        const HWND first = dialog.Control(Family::Power, IDC_POWER_NET_ROW);
+        const HWND second = dialog.Control(Family::Power, IDC_POWER_NET_ROW + 1);
         const HIMAGELIST untouched = PictureOf(first);
         ASSERT_TRUE(untouched);
-        dialog.Click(Family::Power, 6922);  // one box of the row
+        dialog.Click(Family::Power, IDC_POWER_NET_BOX);  // one box of the row
         const HIMAGELIST touched = PictureOf(first);
         EXPECT_NE(touched, untouched);
         EXPECT_EQ(PictureOf(second), untouched);
-        dialog.Click(Family::Power, 6922);  // cleared again
+        dialog.Click(Family::Power, IDC_POWER_NET_BOX);  // cleared again
         EXPECT_EQ(PictureOf(first), touched);
-        dialog.Click(Family::Power, 6713);  // the whole side
+        dialog.Click(Family::Power, IDC_NET_COLUMN);  // the whole side
         EXPECT_EQ(PictureOf(second), touched);
-        EXPECT_EQ(PictureOf(dialog.Control(Family::Power, 7078)), untouched);  // the other side
+        EXPECT_EQ(PictureOf(dialog.Control(Family::Power, IDC_POWER_LOAD_ROW)), untouched);  // the other side
     }});
 }
 
@@ -277,11 +280,11 @@ TEST_F(SelectionPages, RefreshBothSidesOfAToggledRow)
 {
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        const HWND load = dialog.Control(Family::Harmonic, 7280);
+        const HWND load = dialog.Control(Family::Harmonic, IDC_HARMONIC_LOAD_ROW + 5);
         const HIMAGELIST untouched = PictureOf(load);
-        dialog.Click(Family::Harmonic, 7211);
+        dialog.Click(Family::Harmonic, IDC_HARMONIC_CAPTION + 5);
         EXPECT_NE(PictureOf(load), untouched);
-        EXPECT_EQ(PictureOf(load), PictureOf(dialog.Control(Family::Harmonic, 7226)));
+        EXPECT_EQ(PictureOf(load), PictureOf(dialog.Control(Family::Harmonic, IDC_HARMONIC_NET_ROW + 5)));
     }});
 }
 
@@ -290,10 +293,10 @@ TEST_F(SelectionPages, KeepTheirPicturesWhenAGroupIsRefused)
     kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names, 1);
     dialog.Run({[&] {
-        const HIMAGELIST untouched = PictureOf(dialog.Control(Family::Power, 7066));
-        for (const int button : {6713, 6910, 7066})
+        const HIMAGELIST untouched = PictureOf(dialog.Control(Family::Power, IDC_POWER_NET_ROW));
+        for (const int button : {IDC_NET_COLUMN, IDC_POWER_CAPTION, IDC_POWER_NET_ROW})
             dialog.Click(Family::Power, button);
-        EXPECT_EQ(PictureOf(dialog.Control(Family::Power, 7066)), untouched);
+        EXPECT_EQ(PictureOf(dialog.Control(Family::Power, IDC_POWER_NET_ROW)), untouched);
         EXPECT_EQ(dialog.CountChecked(Family::Power), 0);
     }});
 }

@@ -1,5 +1,6 @@
 #include "TestSelection.h"
 
+#include "SelectVarControls.h"
 #include "SelectVarMessages.h"
 #include "SelectionTables.h"
 
@@ -52,7 +53,7 @@ HWND TestSelection::Box(zep::Family family, const zep::VariablePosition& positio
 
 void TestSelection::ShowTab(int index)
 {
-    ::SendDlgItemMessageW(m_hWnd, 6697, TCM_SETCURFOCUS, static_cast<WPARAM>(index), 0);
+    ::SendDlgItemMessageW(m_hWnd, IDC_SELECTVAR_TAB, TCM_SETCURFOCUS, static_cast<WPARAM>(index), 0);
 }
 
 std::wstring TestSelection::Text(zep::Family family, int id) const

@@ -1,16 +1,16 @@
 #include "ScriptedUser.h"
 
 #include "Controls.h"
+#include "DeviceControls.h"
+#include "LimitsControls.h"
 #include "MemoryFaults.h"
+#include "SelectVarControls.h"
+#include "UnitsControls.h"
 
 namespace {
 
 constexpr int MessageTextId = 0xFFFF;
 // Controls of the dialogs in which this user changes something.
-constexpr int FirstMode = 8094;
-constexpr int ThreeDecimals = 8071;
-constexpr int WholeNetSide = 6713;
-constexpr int ActivePowerNominal = 5370;
 
 HWND FindControl(HWND dialog, int id)
 {
@@ -60,16 +60,16 @@ void ScriptedUser::Change(HWND dialog, DialogKind kind)
     const auto click = [&](int id) { ::PostMessageW(FindControl(dialog, id), BM_CLICK, 0, 0); };
     switch (kind) {
     case DialogKind::Device:
-        click(FirstMode);
+        click(IDC_MODE);
         break;
     case DialogKind::Units:
-        click(ThreeDecimals);
+        click(IDC_APPARENT_DEC_3);
         break;
     case DialogKind::Limits:
-        ::SendMessageW(FindControl(dialog, ActivePowerNominal), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"5"));
+        ::SendMessageW(FindControl(dialog, IDC_AP_NOMINAL), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"5"));
         break;
     case DialogKind::Selection:
-        click(WholeNetSide);
+        click(IDC_NET_COLUMN);
         break;
     default:
         break;

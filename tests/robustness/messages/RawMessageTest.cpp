@@ -11,6 +11,7 @@
 #include "Endurance.h"
 #include "LethalMessages.h"
 #include "ProjectRules.h"
+#include "SelectVarControls.h"
 #include "SelectVarMessages.h"
 #include "SelectionModel.h"
 #include "StepLoop.h"
@@ -18,7 +19,6 @@
 
 namespace {
 
-constexpr int TabId = 6697;
 constexpr int Maximum = 7;
 constexpr long MessagesPerVisit = 100;
 constexpr long MostEndings = 200;  // far more than a visit takes, whatever is open and asks back
@@ -214,7 +214,7 @@ LONG_PTR RawMessages::Parameter(const std::vector<HWND>& windows)
 // and not as many as a count below zero would let in.
 void RawMessages::ProbeCount(HWND dialog)
 {
-    if (!::GetDlgItem(dialog, TabId))
+    if (!::GetDlgItem(dialog, IDC_SELECTVAR_TAB))
         return;
     ::SendMessageW(dialog, WM_SELECTVAR_UNSELECT, static_cast<WPARAM>(-1), 0);
     EXPECT_EQ(::SendMessageW(dialog, WM_SELECTVAR_SELECT, Maximum, 0), 1) << m_log.Describe();

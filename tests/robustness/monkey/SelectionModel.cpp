@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "SelectVarControls.h"
+
 namespace {
 
 constexpr wchar_t SideLetters[] = L"NL";
@@ -44,14 +46,14 @@ void SelectionModel::AddBox(int page, int id, const std::wstring& name, int row,
 void SelectionModel::AddGeneralBoxes()
 {
     for (int phase = 0; phase < 3; ++phase)
-        AddBox(0, 6718 + 4 * phase, L"VI" + std::to_wstring(phase + 1) + L"N", 0, 0, phase);
-    AddBox(0, 6719, L"HZIN", 1, 0, 0);
+        AddBox(0, IDC_GENERAL_NET_BOX + 4 * phase, L"VI" + std::to_wstring(phase + 1) + L"N", 0, 0, phase);
+    AddBox(0, IDC_GENERAL_NET_BOX + 1, L"HZIN", 1, 0, 0);
     for (int row = 2; row < 4; ++row) {
         const std::wstring code = row == 2 ? L"AI" : L"DAI";
         for (int phase = 0; phase < 3; ++phase)
-            AddBox(0, 6718 + row + 4 * phase, code + std::to_wstring(phase + 1) + L"N", row, 0, phase);
+            AddBox(0, IDC_GENERAL_NET_BOX + row + 4 * phase, code + std::to_wstring(phase + 1) + L"N", row, 0, phase);
         for (int phase = 0; phase < 3; ++phase)
-            AddBox(0, 6772 + row + 4 * phase, code + std::to_wstring(phase + 1) + L"L", row, 1, phase);
+            AddBox(0, IDC_GENERAL_LOAD_BOX + row + 4 * phase, code + std::to_wstring(phase + 1) + L"L", row, 1, phase);
     }
 }
 
@@ -61,7 +63,7 @@ void SelectionModel::AddPowerBoxes()
     for (int row = 0; row < 4; ++row)
         for (int side = 0; side < 2; ++side)
             for (int phase = 0; phase < 3; ++phase)
-                AddBox(1, (side == 0 ? 6922 : 6970) + row + 4 * phase,
+                AddBox(1, (side == 0 ? IDC_POWER_NET_BOX : IDC_POWER_LOAD_BOX) + row + 4 * phase,
                        codes[row] + std::to_wstring(phase + 1) + SideLetters[side], row, side, phase);
 }
 
@@ -70,7 +72,7 @@ void SelectionModel::AddHarmonicBoxes()
     for (int row = 0; row < 13; ++row)
         for (int side = 0; side < 2; ++side)
             for (int phase = 0; phase < 3; ++phase)
-                AddBox(2, (side == 0 ? 7236 : 7288) + row + 13 * phase,
+                AddBox(2, (side == 0 ? IDC_HARMONIC_NET_BOX : IDC_HARMONIC_LOAD_BOX) + row + 13 * phase,
                        L"ARM" + std::to_wstring(2 * row + 1) + L"A" + std::to_wstring(phase + 1) + SideLetters[side],
                        row, side, phase);
 }
@@ -78,11 +80,11 @@ void SelectionModel::AddHarmonicBoxes()
 std::vector<SelectionModel::Box*> SelectionModel::GroupOf(int page, int id)
 {
     const int rows[] = {4, 4, 13};
-    const int captions[] = {6700, 6910, 7206};
-    const int netButtons[] = {6874, 7066, 7221};
-    const int loadButtons[] = {6886, 7078, 7275};
-    const int netColumns = 6713;   // "all", then one per phase
-    const int loadColumns = 6767;  // the same
+    const int captions[] = {IDC_GENERAL_CAPTION, IDC_POWER_CAPTION, IDC_HARMONIC_CAPTION};
+    const int netButtons[] = {IDC_GENERAL_NET_ROW, IDC_POWER_NET_ROW, IDC_HARMONIC_NET_ROW};
+    const int loadButtons[] = {IDC_GENERAL_LOAD_ROW, IDC_POWER_LOAD_ROW, IDC_HARMONIC_LOAD_ROW};
+    const int netColumns = IDC_NET_COLUMN;    // "all", then one per phase
+    const int loadColumns = IDC_LOAD_COLUMN;  // the same
 
     std::vector<Box*> group;
     const auto add = [&](std::optional<int> row, std::optional<int> side, std::optional<int> phase) {

@@ -2,10 +2,12 @@
 
 #include <commctrl.h>
 
+#include "SelectVarControls.h"
+
 namespace {
 
-constexpr int TabId = 6697;
-constexpr int FirstCaptions[] = {6700, 6910, 7206};  // what tells the pages apart
+constexpr int FirstCaptions[] = {IDC_GENERAL_CAPTION, IDC_POWER_CAPTION,
+                                 IDC_HARMONIC_CAPTION};  // what tells the pages apart
 constexpr int Maxima[] = {0, 0, 0, 0, 0, 1, 2, 10, 78, 100, 110, 117, 118, 118, 118, 118};
 constexpr std::size_t Closing = 120;
 constexpr long ComparedEvery =
@@ -151,7 +153,7 @@ void SelectionSession::CompareBoxes()
 
 void SelectionSession::ComparePages(HWND dialog)
 {
-    const auto tab = static_cast<std::size_t>(::SendDlgItemMessageW(dialog, TabId, TCM_GETCURSEL, 0, 0));
+    const auto tab = static_cast<std::size_t>(::SendDlgItemMessageW(dialog, IDC_SELECTVAR_TAB, TCM_GETCURSEL, 0, 0));
     for (std::size_t page = 0; page < PageCount; ++page)
         if ((::IsWindowVisible(m_pages[page].window) != FALSE) != (page == tab))
             Fail("page " + std::to_string(page) + " is wrongly shown or hidden");
