@@ -6,7 +6,8 @@
   dialogs    every dialog template has a test that looks at its window
   texts      every text id has its text in each language, the texts take the same arguments, and code uses every id
   formats    the arguments of a text are those that its header promises and that its callers pass
-  exports    KZUsrZEP.dll exports exactly the committed list, and the products import only what ships with them
+  exports    KZUsrZEP.dll exports exactly the committed list and imports from the host only what the other list promises;
+             the products import only what ships with them
   files      no machine paths, no file of more than 400 lines, UTF-8, LF, no tabs, no blanks at line ends
   documents  links lead to files and headings, quotes of the code are in the code, each picture is shown
   guide      the messages that the user guide explains are the product's own

@@ -36,6 +36,29 @@ Page* AddPage(std::vector<std::unique_ptr<SelectVarPage>>& pages, CWnd* containe
     }
 }
 
+void AddTab(TabContainer& container, TabPage* page, unsigned textId, int image)
+{
+    if (page)
+        container.Add(*page, HostText(textId), image);
+}
+
+void ShowLimitMessage(int maxVariables)
+{
+    const KZBasicString text =
+        maxVariables == 1 ? HostText(KZS_MAX_ONE_VARIABLE) : FormatHostText(KZS_MAX_VARIABLES, maxVariables);
+    AfxMessageBox(text.c_str(), MB_OK, 0);
+}
+
+// What the tabs and the frame take of the tab control's height. The display area of an empty rectangle comes out inside
+// out by just that much, so it is top minus bottom: the other way round the height would be negative, and the pages
+// would lie over the tabs.
+int TabHeight(CTabCtrl& tab)
+{
+    CRect rect(0, 0, 0, 0);
+    tab.AdjustRect(FALSE, &rect);
+    return rect.top - rect.bottom;
+}
+
 }  // namespace
 
 BEGIN_MESSAGE_MAP(CDlgSelectVarZEP, CDialog)
@@ -71,9 +94,16 @@ BOOL CDlgSelectVarZEP::OnInitDialog()
     SetUpOkCancel(m_btnOK, m_btnCancel);
 
     const bool isOffered = (m_groups.to_ullong() & OfferedGroups) != 0;
-    if (isOffered)
-        CreatePages();
-    CreateTabs();
+    if (isOffered) {
+        m_pGeneral = AddPage<CDlgSelectVarGeneralZEP>(m_pages, this, m_pDevice, &m_groups);
+        m_pPower = AddPage<CDlgSelectVarPowerZEP>(m_pages, this, m_pDevice);
+        m_pArmonic = AddPage<CDlgSelectVarArmonicZEP>(m_pages, this, m_pDevice);
+    }
+    m_container.SetImages(m_imageList,
+                          {L"SYSTEM-var_general.png", L"ZEP-var_power.png", L"SYSTEM-var_armonic_current.png"});
+    AddTab(m_container, m_pGeneral, KZS_GENERAL, 0);
+    AddTab(m_container, m_pPower, KZS_POWERS, 1);
+    AddTab(m_container, m_pArmonic, KZS_HARMONIC_CURRENTS, 2);
     if (m_pages.empty()) {
         // OK without pages empties the host's list: right when it asked for nothing that they hold, and only then.
         if (isOffered)
@@ -87,26 +117,6 @@ BOOL CDlgSelectVarZEP::OnInitDialog()
     CheckInitialVariables();
     SetIcon(m_hIcon, TRUE);
     return TRUE;
-}
-
-void CDlgSelectVarZEP::CreatePages()
-{
-    m_pGeneral = AddPage<CDlgSelectVarGeneralZEP>(m_pages, this, m_pDevice, &m_groups);
-    m_pPower = AddPage<CDlgSelectVarPowerZEP>(m_pages, this, m_pDevice);
-    m_pArmonic = AddPage<CDlgSelectVarArmonicZEP>(m_pages, this, m_pDevice);
-}
-
-void CDlgSelectVarZEP::CreateTabs()
-{
-    m_container.SetImages(m_imageList,
-                          {L"SYSTEM-var_general.png", L"ZEP-var_power.png", L"SYSTEM-var_armonic_current.png"});
-    const auto add = [this](TabPage* page, unsigned textId, int image) {
-        if (page)
-            m_container.Add(*page, HostText(textId), image);
-    };
-    add(m_pGeneral, KZS_GENERAL, 0);
-    add(m_pPower, KZS_POWERS, 1);
-    add(m_pArmonic, KZS_HARMONIC_CURRENTS, 2);
 }
 
 // One pass over the host's list serves all pages: it may be long, and no name belongs to two of them.
@@ -127,15 +137,8 @@ bool CDlgSelectVarZEP::IsValid()
         selected += page->CountSelected();
     if (zep::FitsMaximum(0, selected, m_nMaxVariables))
         return true;
-    ShowLimitMessage();
+    ShowLimitMessage(m_nMaxVariables);
     return false;
-}
-
-void CDlgSelectVarZEP::ShowLimitMessage() const
-{
-    const KZBasicString text =
-        m_nMaxVariables == 1 ? HostText(KZS_MAX_ONE_VARIABLE) : FormatHostText(KZS_MAX_VARIABLES, m_nMaxVariables);
-    AfxMessageBox(text.c_str(), MB_OK, 0);
 }
 
 // After OK the host's list holds the new choices alone. The host, which knows what it had, decides what becomes of it.
@@ -159,7 +162,7 @@ BOOL CDlgSelectVarZEP::OnCommand(WPARAM wParam, LPARAM lParam)
 LRESULT CDlgSelectVarZEP::OnVariableSelect(WPARAM count, LPARAM)
 {
     if (!zep::FitsMaximum(m_nSelected, count, m_nMaxVariables)) {
-        ShowLimitMessage();
+        ShowLimitMessage(m_nMaxVariables);
         return 0;
     }
     m_nSelected += static_cast<unsigned>(count);
@@ -185,21 +188,11 @@ void CDlgSelectVarZEP::OnSize(UINT type, int cx, int cy)
         Layout(cx, cy);
 }
 
-// What the tabs and the frame take of the tab control's height. The display area of an empty rectangle comes out inside
-// out by just that much, so it is top minus bottom: the other way round the height would be negative, and the pages
-// would lie over the tabs.
-int CDlgSelectVarZEP::TabHeight()
-{
-    CRect rect(0, 0, 0, 0);
-    m_tab.AdjustRect(FALSE, &rect);
-    return rect.top - rect.bottom;
-}
-
 void CDlgSelectVarZEP::Layout(int, int)
 {
     if (!m_container.CanLayOut())
         return;
-    const int tabHeight = TabHeight();
+    const int tabHeight = TabHeight(m_tab);
     int pageHeight = 0;
     for (const auto& page : m_pages)
         pageHeight = std::max(pageHeight, page->NeededHeight());

@@ -19,6 +19,7 @@ class CDlgSelectVarGeneralZEP;
 class CDlgSelectVarPowerZEP;
 class CDlgSelectVarArmonicZEP;
 
+// Its members are the interface that the library exports: what helps them stands beside them in the source.
 class AFX_EXT_CLASS CDlgSelectVarZEP : public CDialog {
 public:
     //   device        the device whose variables are offered; not owned
@@ -54,11 +55,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void CreatePages();
-    void CreateTabs();
-    void ShowLimitMessage() const;
-    [[nodiscard]] int TabHeight();
-
     CTabCtrl m_tab;
     CImageButton m_btnOK;
     CImageButton m_btnCancel;

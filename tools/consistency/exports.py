@@ -2,6 +2,7 @@
 import re
 import subprocess
 
+import contract
 from tree import ROOT, text_of
 
 EXPORTS = ROOT / "tests/exports/KZUsrZEP.txt"
@@ -47,8 +48,14 @@ def check(folder):
         for name in sorted(TOO_NEW & set(re.findall(r"\w+", headers.partition("[Ordinal/Name")[0]))):
             findings.append(f"{product}: must not link to {name}")
         if product == "KZUsrZEP.dll":
-            findings += compare(exported(headers))
+            findings += compare(exported(headers)) + contract.check(imported(headers, "KZHost.dll"))
     return findings
+
+
+def imported(headers, dll):
+    """The names that the file whose headers these are imports from a DLL."""
+    table = headers.partition(f"DLL Name: {dll}")[2].split("\n\n")[0]
+    return set(re.findall(r"^\s+[0-9a-f]+\s+\d+\s+(\S+)$", table, re.M))
 
 
 def compare(found):
