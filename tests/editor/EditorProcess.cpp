@@ -65,7 +65,7 @@ private:
 
 bool WaitUntil(const std::function<bool()>& condition)
 {
-    const auto end = std::chrono::steady_clock::now() + patience;
+    const auto end = std::chrono::steady_clock::now() + Patience;
     while (!condition()) {
         if (std::chrono::steady_clock::now() > end)
             return false;
@@ -159,7 +159,7 @@ EditorProcess::~EditorProcess()
 
 int EditorProcess::Wait()
 {
-    const auto limit = static_cast<DWORD>(std::chrono::milliseconds(patience).count());
+    const auto limit = static_cast<DWORD>(std::chrono::milliseconds(Patience).count());
     if (::WaitForSingleObject(m_process.hProcess, limit) != WAIT_OBJECT_0)
         return -1;
     m_output.Close();

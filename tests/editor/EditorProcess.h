@@ -13,7 +13,7 @@
 namespace editor_tests {
 
 // How long a test waits for something that has to happen.
-inline constexpr std::chrono::seconds patience{20};
+inline constexpr std::chrono::seconds Patience{20};
 
 // Waits until the condition holds; false when it does not in time.
 [[nodiscard]] bool WaitUntil(const std::function<bool()>& condition);

@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr unsigned firstText = IDS_PROJECT_NO_FOLDER;
-constexpr unsigned lastText = IDS_SUMMARY_LIMITS_VALUE;
+constexpr unsigned FirstText = IDS_PROJECT_NO_FOLDER;
+constexpr unsigned LastText = IDS_SUMMARY_LIMITS_VALUE;
 
 // The conversions of a printf format, in their order.
 std::vector<wchar_t> Conversions(const std::wstring& format)
@@ -42,20 +42,20 @@ void ExpectEachOnce(std::vector<wchar_t> letters)
     EXPECT_EQ(std::adjacent_find(letters.begin(), letters.end()), letters.end());
 }
 
-constexpr KZLanguage languages[] = {KZLanguage::English, KZLanguage::Spanish};
+constexpr KZLanguage Languages[] = {KZLanguage::English, KZLanguage::Spanish};
 
 }  // namespace
 
 TEST(EditorTexts, ExistInBothLanguagesWithTheSameConversions)
 {
-    for (unsigned id = firstText; id <= lastText; ++id) {
+    for (unsigned id = FirstText; id <= LastText; ++id) {
         const std::wstring english = EditorText(id, KZLanguage::English);
         const std::wstring spanish = EditorText(id, KZLanguage::Spanish);
         EXPECT_FALSE(english.empty()) << id;
         EXPECT_FALSE(spanish.empty()) << id;
         EXPECT_EQ(Conversions(english), Conversions(spanish)) << id;
     }
-    EXPECT_TRUE(EditorText(lastText + 1, KZLanguage::English).empty());
+    EXPECT_TRUE(EditorText(LastText + 1, KZLanguage::English).empty());
 }
 
 TEST(EditorTexts, KeepTheirAccents)
@@ -66,7 +66,7 @@ TEST(EditorTexts, KeepTheirAccents)
 
 TEST(EditorTexts, OfTheMenuComeInTheChosenLanguage)
 {
-    for (const KZLanguage language : languages) {
+    for (const KZLanguage language : Languages) {
         KZQuorvelantaSetup::Get()->SetLanguage(language);
         const HMENU menu = LoadEditorMenu(IDM_MAIN);
         wchar_t text[64] = L"";
@@ -80,7 +80,7 @@ TEST(EditorTexts, OfTheMenuComeInTheChosenLanguage)
 
 TEST(EditorTexts, OfTheMainWindowsControlsHaveMnemonicsOfTheirOwn)
 {
-    for (const KZLanguage language : languages) {
+    for (const KZLanguage language : Languages) {
         KZQuorvelantaSetup::Get()->SetLanguage(language);
         const HMENU menu = LoadEditorMenu(IDM_MAIN);
         std::vector<wchar_t> letters = Mnemonics(menu);

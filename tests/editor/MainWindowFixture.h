@@ -15,10 +15,10 @@
 
 namespace editor_tests {
 
-inline constexpr wchar_t cleanTitle[] = L"KZEditor – plant";
-inline constexpr wchar_t dirtyTitle[] = L"KZEditor – plant *";
-inline constexpr int firstSection = KZSectionButtonBase;
-inline constexpr int unitsSection = firstSection + 3;
+inline constexpr wchar_t CleanTitle[] = L"KZEditor – plant";
+inline constexpr wchar_t DirtyTitle[] = L"KZEditor – plant *";
+inline constexpr int FirstSection = KZSectionButtonBase;
+inline constexpr int UnitsSection = FirstSection + 3;
 
 class MainWindowTest : public EditorTest {
 protected:
@@ -26,7 +26,7 @@ protected:
 
     void TakeWindow(EditorProcess& editor)
     {
-        m_window = editor.WindowTitled(cleanTitle);
+        m_window = editor.WindowTitled(CleanTitle);
         if (!m_window)
             throw std::runtime_error("the main window does not appear");
     }
@@ -91,7 +91,7 @@ protected:
     {
         Press(m_window, IDC_OPTIONS);
         Answer(L"test options", IDOK);
-        ExpectTitle(dirtyTitle);
+        ExpectTitle(DirtyTitle);
     }
 
     void Close() { ::PostMessageW(m_window, WM_CLOSE, 0, 0); }

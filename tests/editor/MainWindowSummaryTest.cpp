@@ -1,11 +1,11 @@
 // The main window shows what the selected device is set to, and follows a change at once.
 #include "MainWindowFixture.h"
 
-using editor_tests::dirtyTitle;
+using editor_tests::DirtyTitle;
 using editor_tests::ListCell;
 using editor_tests::MainWindowTest;
 using editor_tests::Press;
-using editor_tests::unitsSection;
+using editor_tests::UnitsSection;
 using editor_tests::WaitUntil;
 
 TEST_F(MainWindowTest, ShowsTheSettingsUnitsAndLimitsOfTheSelectedDevice)
@@ -29,9 +29,9 @@ TEST_F(MainWindowTest, ShowsAChangeMadeInTheEmbeddedOptionsAtOnce)
     m_program.AddModule("ready");
     Open();
     ASSERT_TRUE(WaitUntil([&] { return EmbeddedDialog() != nullptr; }));
-    Press(EmbeddedDialog(), unitsSection);
+    Press(EmbeddedDialog(), UnitsSection);
     EXPECT_TRUE(WaitUntil([&] { return Summary(L"Reactive power") == L"kVAR, 1 decimal"; }));
-    ExpectTitle(dirtyTitle);
+    ExpectTitle(DirtyTitle);
 }
 
 TEST_F(MainWindowTest, ShowsWhatChangedWhileTheOptionsWereOpen)

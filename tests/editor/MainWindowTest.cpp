@@ -1,9 +1,9 @@
 // The main window: devices, chosen variables, embedded options, saving, keys, sizes.
 #include "MainWindowFixture.h"
 
-using editor_tests::cleanTitle;
-using editor_tests::dirtyTitle;
-using editor_tests::firstSection;
+using editor_tests::CleanTitle;
+using editor_tests::DirtyTitle;
+using editor_tests::FirstSection;
 using editor_tests::ListCell;
 using editor_tests::MainWindowTest;
 using editor_tests::Press;
@@ -25,7 +25,7 @@ TEST_F(MainWindowTest, ListsTheDevicesWithTheStateOfTheirModule)
     EXPECT_EQ(ListCell(*m_editor, list, 2, 1), L"OTHER");
     EXPECT_EQ(ListCell(*m_editor, list, 2, 2), L"XYZ");
     EXPECT_EQ(ListCell(*m_editor, list, 2, 4), L"no module");
-    ExpectTitle(cleanTitle);
+    ExpectTitle(CleanTitle);
 }
 
 TEST_F(MainWindowTest, TellsTheStateOfEachModule)
@@ -52,7 +52,7 @@ TEST_F(MainWindowTest, EmbedsTheOptionsOfTheSelectedDeviceAndRebuildsThemWithThe
     Open();
     ASSERT_TRUE(WaitUntil([&] { return EmbeddedDialog() != nullptr; }));
     const HWND first = EmbeddedDialog();
-    EXPECT_NE(::GetDlgItem(first, firstSection), nullptr);
+    EXPECT_NE(::GetDlgItem(first, FirstSection), nullptr);
     EXPECT_EQ(TextOf(Control(IDC_PANE_LABEL)), L"Options of GRÚA.1");
     ChooseRow(1);
     EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(first); }));
@@ -83,7 +83,7 @@ TEST_F(MainWindowTest, MarksItsTitleWhileTheProjectIsUnsavedAndSavesIt)
     MakeDirty();
     EXPECT_TRUE(::IsWindowEnabled(Control(IDC_SAVE)));
     Press(m_window, IDC_SAVE);
-    ExpectTitle(cleanTitle);
+    ExpectTitle(CleanTitle);
     EXPECT_THAT(m_folder.Read("plant/main.xml"), HasSubstr("<changedBy>zep-1</changedBy>"));
     Close();
     EXPECT_EQ(m_editor->Wait(), 0);
@@ -99,7 +99,7 @@ TEST_F(MainWindowTest, AddsNewlySelectedVariablesToTheEarlierOnesWithoutDoubles)
     Answer(L"test select", IDOK);
     EXPECT_TRUE(WaitUntil([&] { return ChosenCount() == 2; }));
     EXPECT_EQ(Chosen(0), "GRÚA.1.HZIN");
-    ExpectTitle(dirtyTitle);
+    ExpectTitle(DirtyTitle);
     Press(m_window, IDC_SELECT);
     Answer(L"test select", IDOK);
     EXPECT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(m_window) != FALSE; }));
@@ -133,7 +133,7 @@ TEST_F(MainWindowTest, RemovesTheMarkedVariablesAndKeepsTheRestInTheProject)
     EXPECT_TRUE(WaitUntil([&] { return ChosenCount() == 1; }));
     EXPECT_EQ(Chosen(0), "GRÚA.1.VI1N");
     Press(m_window, IDC_SAVE);
-    ExpectTitle(cleanTitle);
+    ExpectTitle(CleanTitle);
     const std::string saved = m_folder.Read("plant/main.xml");
     EXPECT_THAT(saved, HasSubstr("GRÚA.1.VI1N"));
     EXPECT_THAT(saved, Not(HasSubstr("HZIN")));
@@ -194,7 +194,7 @@ TEST_F(MainWindowTest, StaysOpenOnCancel)
     Close();
     Answer(L"KZEditor", IDCANCEL);
     EXPECT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(m_window) != FALSE; }));
-    ExpectTitle(dirtyTitle);
+    ExpectTitle(DirtyTitle);
     EXPECT_EQ(ProjectFiles(), before);
 }
 
@@ -211,7 +211,7 @@ TEST_F(MainWindowTest, StaysOpenAndSaysWhyWhenSavingFails)
     Answer(L"KZEditor", IDYES);
     Answer(L"KZEditor", IDOK);
     EXPECT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(m_window) != FALSE; }));
-    ExpectTitle(dirtyTitle);
+    ExpectTitle(DirtyTitle);
 }
 
 TEST_F(MainWindowTest, EscapeDoesNotCloseIt)

@@ -22,8 +22,8 @@ using editor_tests::EditorFolder;
 using kztest::TemporaryFolder;
 using testing::HasSubstr;
 
-constexpr std::uint16_t machineX86 = 0x014C;
-constexpr std::uint16_t machineX64 = 0x8664;
+constexpr std::uint16_t MachineX86 = 0x014C;
+constexpr std::uint16_t MachineX64 = 0x8664;
 
 class ModuleLoaderTest : public testing::Test {
 protected:
@@ -134,7 +134,7 @@ TEST_F(ModuleLoaderTest, SaysThatAFileIsNoLibrary)
 TEST_F(ModuleLoaderTest, SaysForWhichArchitectureAModuleIsBuilt)
 {
     Add("ready");
-    BuildFor(machineX86, m_folder.Path() / "KZUsrZEP.dll");
+    BuildFor(MachineX86, m_folder.Path() / "KZUsrZEP.dll");
     ExpectOnlyModule(ModuleState::WrongArchitecture, "x86");
 }
 
@@ -180,8 +180,8 @@ TEST_F(ModuleLoaderTest, HasNoModulesInAFolderThatDoesNotExist)
 
 TEST(PeMachine, IsReadFromTheHeaderAndFromNothingElse)
 {
-    EXPECT_EQ(PeMachine(EditorFolder::ModuleFile("ready")), machineX64);
-    EXPECT_EQ(OwnMachine(), machineX64);
+    EXPECT_EQ(PeMachine(EditorFolder::ModuleFile("ready")), MachineX64);
+    EXPECT_EQ(OwnMachine(), MachineX64);
     const TemporaryFolder folder;
     folder.Write("empty", "");
     folder.Write("short", "MZ");

@@ -122,7 +122,7 @@ TestDialog::TestDialog(std::initializer_list<TestControl> items, int fontPoints,
     for (const TestControl& control : items)
         WriteControl(writer, control);
     const HWND dialog =
-        CreateDialogIndirectParamW(GetModuleHandleW(nullptr), writer.Template(), nullptr, DialogProcedure, 0);
+        ::CreateDialogIndirectParamW(::GetModuleHandleW(nullptr), writer.Template(), nullptr, DialogProcedure, 0);
     if (!dialog)
         throw std::runtime_error("the test dialog could not be created");
     m_window.Attach(dialog);

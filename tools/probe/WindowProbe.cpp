@@ -52,12 +52,12 @@ std::string Utf8(std::wstring_view text)
 std::wstring TextOf(HWND window)
 {
     DWORD_PTR length = 0;
-    if (SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 2000, &length) == 0)
+    if (::SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 2000, &length) == 0)
         return {};
     std::wstring text(static_cast<size_t>(length) + 1, L'\0');
     DWORD_PTR copied = 0;
-    if (SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG,
-                            2000, &copied) == 0)
+    if (::SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG,
+                              2000, &copied) == 0)
         return {};
     text.resize(static_cast<size_t>(copied));
     return text;
@@ -67,9 +67,9 @@ std::wstring TextOf(HWND window)
 std::vector<HWND> TopLevelWindows()
 {
     std::vector<HWND> windows;
-    EnumWindows(
+    ::EnumWindows(
         [](HWND window, LPARAM list) -> BOOL {
-            if (IsWindowVisible(window))
+            if (::IsWindowVisible(window))
                 reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
             return TRUE;
         },
@@ -88,7 +88,7 @@ bool HasTitle(HWND window, std::wstring_view title)
 HWND FindTopLevel(const std::wstring& title, bool enabledOnly)
 {
     for (HWND window : TopLevelWindows()) {
-        if (HasTitle(window, title) && (!enabledOnly || IsWindowEnabled(window)))
+        if (HasTitle(window, title) && (!enabledOnly || ::IsWindowEnabled(window)))
             return window;
     }
     return nullptr;
@@ -104,12 +104,12 @@ HWND FindControl(const std::wstring& title, int id)
     HWND top = FindTopLevel(title, true);
     ControlSearch search{id, nullptr};
     if (top != nullptr) {
-        EnumChildWindows(
+        ::EnumChildWindows(
             top,
             [](HWND window, LPARAM data) -> BOOL {
                 auto& wanted = *reinterpret_cast<ControlSearch*>(data);
                 // Ids are words: the text of a message box has 0xFFFF, which is -1 as an int.
-                if (LOWORD(GetDlgCtrlID(window)) == wanted.id && IsWindowVisible(window))
+                if (LOWORD(::GetDlgCtrlID(window)) == wanted.id && ::IsWindowVisible(window))
                     wanted.found = window;
                 return wanted.found == nullptr;
             },
@@ -124,7 +124,7 @@ void PrintWindows(std::FILE* file)
         RECT rect = {};
         GetWindowRect(window, &rect);
         std::fprintf(file, "%ld %ld %ld %ld %s %s\n", rect.left, rect.top, rect.right - rect.left,
-                     rect.bottom - rect.top, IsWindowEnabled(window) ? "enabled" : "disabled",
+                     rect.bottom - rect.top, ::IsWindowEnabled(window) ? "enabled" : "disabled",
                      Utf8(TextOf(window)).c_str());
     }
 }
@@ -133,9 +133,10 @@ int PrintFocus()
 {
     GUITHREADINFO info = {};
     info.cbSize = sizeof info;
-    if (!GetGUIThreadInfo(GetWindowThreadProcessId(GetForegroundWindow(), nullptr), &info) || info.hwndFocus == nullptr)
+    if (!::GetGUIThreadInfo(::GetWindowThreadProcessId(::GetForegroundWindow(), nullptr), &info) ||
+        info.hwndFocus == nullptr)
         return 1;
-    std::printf("%d\n", LOWORD(GetDlgCtrlID(info.hwndFocus)));
+    std::printf("%d\n", LOWORD(::GetDlgCtrlID(info.hwndFocus)));
     return 0;
 }
 
@@ -143,14 +144,14 @@ bool HasFocus(HWND control)
 {
     GUITHREADINFO info = {};
     info.cbSize = sizeof info;
-    return GetGUIThreadInfo(GetWindowThreadProcessId(control, nullptr), &info) && info.hwndFocus == control;
+    return ::GetGUIThreadInfo(::GetWindowThreadProcessId(control, nullptr), &info) && info.hwndFocus == control;
 }
 
 LRESULT ItemCount(HWND list)
 {
     wchar_t name[64] = {};
-    GetClassNameW(list, name, static_cast<int>(std::size(name)));
-    return SendMessageW(list, std::wstring_view(name) == WC_LISTVIEWW ? LVM_GETITEMCOUNT : LB_GETCOUNT, 0, 0);
+    ::GetClassNameW(list, name, static_cast<int>(std::size(name)));
+    return ::SendMessageW(list, std::wstring_view(name) == WC_LISTVIEWW ? LVM_GETITEMCOUNT : LB_GETCOUNT, 0, 0);
 }
 
 // Throws std::invalid_argument for a state that it does not know, at once rather than when the time is over.
@@ -158,10 +159,10 @@ std::function<bool(HWND)> StateTest(const std::wstring& state)
 {
     if (state == L"checked" || state == L"unchecked") {
         const LRESULT wanted = state == L"checked" ? BST_CHECKED : BST_UNCHECKED;
-        return [wanted](HWND control) { return SendMessageW(control, BM_GETCHECK, 0, 0) == wanted; };
+        return [wanted](HWND control) { return ::SendMessageW(control, BM_GETCHECK, 0, 0) == wanted; };
     }
     if (state == L"enabled" || state == L"disabled")
-        return [wanted = state == L"enabled"](HWND control) { return (IsWindowEnabled(control) != FALSE) == wanted; };
+        return [wanted = state == L"enabled"](HWND control) { return (::IsWindowEnabled(control) != FALSE) == wanted; };
     if (state == L"shown")
         return [](HWND) { return true; };  // a hidden control is not found
     if (state == L"focused")
@@ -177,14 +178,14 @@ std::function<bool(HWND)> StateTest(const std::wstring& state)
 
 int WaitFor(const std::function<bool()>& condition)
 {
-    const ULONGLONG end = GetTickCount64() + LimitMs;
+    const ULONGLONG end = ::GetTickCount64() + LimitMs;
     while (!condition()) {
-        if (GetTickCount64() > end) {
+        if (::GetTickCount64() > end) {
             std::fputs("WindowProbe: the condition did not come true; the windows are:\n", stderr);
             PrintWindows(stderr);
             return 1;
         }
-        Sleep(PollMs);
+        ::Sleep(PollMs);
     }
     return 0;
 }

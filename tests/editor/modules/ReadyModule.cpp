@@ -11,7 +11,7 @@
 namespace {
 
 // The device whose factory makes no dialog.
-constexpr wchar_t deviceWithoutDialog[] = L"NODIALOG";
+constexpr wchar_t DeviceWithoutDialog[] = L"NODIALOG";
 
 int Ask(CWnd* parent, const KZBasicString& text, const wchar_t* title)
 {
@@ -68,7 +68,7 @@ bool Third(CWnd*, KZDriver*)
 
 CDialog* CreateChildOptions(CWnd* parent, KZDriver* driver)
 {
-    if (driver->Name() == deviceWithoutDialog)
+    if (driver->Name() == DeviceWithoutDialog)
         return nullptr;
     auto dialog = std::make_unique<TestOptions>(parent, driver);
     dialog->SetChild();

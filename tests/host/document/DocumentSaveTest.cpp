@@ -103,10 +103,10 @@ TEST_F(Save, LeavesAFileThatAnotherProgramHoldsOpen)
 {
     folder.Write("main.xml", "old");
     const HANDLE holder =
-        CreateFileW((folder.Path() / "main.xml").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        ::CreateFileW((folder.Path() / "main.xml").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(holder, INVALID_HANDLE_VALUE);
     const KZDocumentResult result = document.Save(folder.Path() / "main.xml");
-    CloseHandle(holder);
+    ::CloseHandle(holder);
     EXPECT_FALSE(result);
     EXPECT_FALSE(result.message.IsEmpty());
     EXPECT_TRUE(document.IsDirty());

@@ -17,14 +17,14 @@ public:
     RegionalSetting(LCTYPE type, const wchar_t* value) : m_type(type)
     {
         wchar_t old[16];
-        m_known = GetLocaleInfoW(LOCALE_USER_DEFAULT, type, old, 16) > 0;
+        m_known = ::GetLocaleInfoW(LOCALE_USER_DEFAULT, type, old, 16) > 0;
         m_old = m_known ? old : L"";
-        m_changed = SetLocaleInfoW(LOCALE_USER_DEFAULT, type, value);
+        m_changed = ::SetLocaleInfoW(LOCALE_USER_DEFAULT, type, value);
     }
     ~RegionalSetting()
     {
         if (m_known)
-            SetLocaleInfoW(LOCALE_USER_DEFAULT, m_type, m_old.c_str());
+            ::SetLocaleInfoW(LOCALE_USER_DEFAULT, m_type, m_old.c_str());
     }
     RegionalSetting(const RegionalSetting&) = delete;
     RegionalSetting& operator=(const RegionalSetting&) = delete;

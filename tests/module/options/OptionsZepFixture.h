@@ -44,7 +44,7 @@ inline HWND PageWith(HWND dialog, int id)
     return nullptr;
 }
 
-inline constexpr Section sections[] = {
+inline constexpr Section Sections[] = {
     {KZSectionDevice, "Device", KZS_DEVICE_TITLE, [](HWND dialog) { kztest::SetText(dialog, IDC_CURRENT, L"9"); }, true,
      true},
     {KZSectionLimits, "Limits", KZS_LIMITS_TITLE,

@@ -10,10 +10,10 @@ namespace {
 
 // A quote, an ampersand, a slash, a percent sign, an equals sign, letters beyond ASCII; the neighbours' ids are its
 // beginning and its continuation.
-constexpr wchar_t awkwardId[] = L"a\"b'&c/d%s=eñ";
-constexpr char awkwardXml[] = "a&quot;b'&amp;c/d%s=eñ";
-constexpr char shorterXml[] = "a&quot;b'&amp;c";
-constexpr char longerXml[] = "a&quot;b'&amp;c/d%s=eñ2";
+constexpr wchar_t AwkwardId[] = L"a\"b'&c/d%s=eñ";
+constexpr char AwkwardXml[] = "a&quot;b'&amp;c/d%s=eñ";
+constexpr char ShorterXml[] = "a&quot;b'&amp;c";
+constexpr char LongerXml[] = "a&quot;b'&amp;c/d%s=eñ2";
 
 std::string Units(const char* driverId, const char* decimals)
 {
@@ -31,9 +31,9 @@ class OptionsZepRecords : public OptionsZep {
 protected:
     OptionsZepRecords()
     {
-        Plant::Configure("<unitSetups>" + Units(shorterXml, "0") + Units(longerXml, "3") + Units(awkwardXml, "2") +
-                         "</unitSetups><viewSetups>" + Limits(shorterXml, "10") + Limits(longerXml, "30") +
-                         Limits(awkwardXml, "20") + "</viewSetups>");
+        Plant::Configure("<unitSetups>" + Units(ShorterXml, "0") + Units(LongerXml, "3") + Units(AwkwardXml, "2") +
+                         "</unitSetups><viewSetups>" + Limits(ShorterXml, "10") + Limits(LongerXml, "30") +
+                         Limits(AwkwardXml, "20") + "</viewSetups>");
     }
 
     // The configuration with the driver's own record of a section taken out.
@@ -41,11 +41,11 @@ protected:
     {
         const std::string text = Plant::Configuration();
         for (const std::string& record :
-             {Units(shorterXml, "0"), Units(longerXml, "3"), Limits(shorterXml, "10"), Limits(longerXml, "30")})
+             {Units(ShorterXml, "0"), Units(LongerXml, "3"), Limits(ShorterXml, "10"), Limits(LongerXml, "30")})
             EXPECT_NE(text.find(record), std::string::npos) << record << " in " << text;
     }
 
-    KZDriverDeviceZEP m_driver{{awkwardId, L"DEV", 1, L"ZEP", L"", {}}};
+    KZDriverDeviceZEP m_driver{{AwkwardId, L"DEV", 1, L"ZEP", L"", {}}};
 };
 
 }  // namespace
@@ -59,7 +59,7 @@ TEST_F(OptionsZepRecords, TheUnitsOfTheDriverAreShownAndChanged)
     });
     ExpectNeighboursUnchanged();
     const XmlDocument::XmlNode* unit =
-        KZMainCfg::Get()->Root()->NodeV(L"unitSetups/unitSetup?driverId=%s?/unit?name=RP?", awkwardId);
+        KZMainCfg::Get()->Root()->NodeV(L"unitSetups/unitSetup?driverId=%s?/unit?name=RP?", AwkwardId);
     EXPECT_EQ(Plant::Value(unit, L"decimals"), L"1");
 }
 
@@ -73,7 +73,7 @@ TEST_F(OptionsZepRecords, TheLimitsOfTheDriverAreShownAndChanged)
     });
     ExpectNeighboursUnchanged();
     const XmlDocument::XmlNode* check =
-        KZMainCfg::Get()->Root()->NodeV(L"viewSetups/viewSetup?driverId=%s?/check?var=AP?", awkwardId);
+        KZMainCfg::Get()->Root()->NodeV(L"viewSetups/viewSetup?driverId=%s?/check?var=AP?", AwkwardId);
     EXPECT_EQ(Plant::Value(check, L"nominal"), L"21.000000");
     EXPECT_FALSE(KZMainCfg::Get()->Node(L"viewSetups/viewSetup?driverId=zep1?"));
 }
@@ -82,14 +82,14 @@ TEST_F(OptionsZepRecords, TheSettingsOfTheDriverAreStoredInAFileOfItsOwn)
 {
     const std::string neighbour = m_plant.DeviceText();
     const std::filesystem::path file =
-        m_plant.DeviceFile().parent_path() / KZBaseDeviceCfg::DocumentFileName(awkwardId).c_str();
+        m_plant.DeviceFile().parent_path() / KZBaseDeviceCfg::DocumentFileName(AwkwardId).c_str();
     std::ofstream(file, std::ios::binary)
         << "<device><information><transRatio>100</transRatio><minCurrent>5</minCurrent><numZEP>2</numZEP>"
            "</information></device>";
     RunHub(&m_driver, KZSectionDevice, [](HWND dialog) {
         EXPECT_EQ(kztest::TextOf(dialog, IDC_CURRENT), L"5");
-        sections[0].change(dialog);
-        Accept(sections[0], dialog);
+        Sections[0].change(dialog);
+        Accept(Sections[0], dialog);
     });
     XmlDocument document(L"device");
     ASSERT_TRUE(document.Load(file).ok);

@@ -17,7 +17,7 @@ protected:
     static void Close(HWND dialog) { ::PostMessageW(dialog, WM_CLOSE, 0, 0); }
 };
 
-INSTANTIATE_TEST_SUITE_P(All, OptionsZepSection, testing::ValuesIn(sections), kztest::ByName);
+INSTANTIATE_TEST_SUITE_P(All, OptionsZepSection, testing::ValuesIn(Sections), kztest::ByName);
 
 }  // namespace
 
