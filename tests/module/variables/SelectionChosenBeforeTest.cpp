@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "MessageBoxes.h"
 #include "SelectVarControls.h"
 #include "SelectionFixture.h"
 
@@ -66,6 +67,7 @@ TEST_F(ChosenBefore, TakesNoPartInGroups)
 TEST_F(ChosenBefore, TakesNoNoticeOfAStrayCommand)
 {
     m_names = {L"DEV1.HZIN"};
+    const kztest::MessageBoxes boxes;
     TestSelection dialog(m_device, m_names, 1);
     EXPECT_EQ(dialog.Run({[&] {
         const HWND box = dialog.Control(Family::General, IDC_GENERAL_NET_BOX + 1);
@@ -77,6 +79,7 @@ TEST_F(ChosenBefore, TakesNoNoticeOfAStrayCommand)
         dialog.PressOk();
     }}),
               IDOK);
+    EXPECT_THAT(boxes.Texts(), IsEmpty());
     EXPECT_THAT(dialog.notes, ElementsAre(Select(1)));
     EXPECT_THAT(Names(), ElementsAre(L"DEV1.VI1N"));
 }
