@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "../dialogs/ExceptionGuard.h"
+
 namespace {
 
 constexpr auto X = LayoutAxis::Horizontal;
@@ -40,13 +42,12 @@ struct Collector {
 BOOL CALLBACK Collect(HWND window, LPARAM into)
 {
     auto& [dialog, controls] = *reinterpret_cast<Collector*>(into);
-    try {
+    // No exception may pass through the system; Find asks for those that are missing.
+    return Succeeds([&] {
         if (::GetAncestor(window, GA_PARENT) == dialog)
             controls.emplace(::GetDlgCtrlID(window), window);
-        return TRUE;
-    } catch (...) {
-        return FALSE;  // no exception may pass through the system; Find asks for those that are missing
-    }
+        return true;
+    });
 }
 
 // One question to the system; GetDlgItem is one for each control, which makes opening the settings 7 % slower.
