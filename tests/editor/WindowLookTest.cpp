@@ -1,76 +1,17 @@
 // The editor's windows with the real module in them: nothing cut, nothing over anything else, in each language and at
 // each resolution.
-#include <afxwin.h>
-
-#include <commctrl.h>
-#include <gtest/gtest.h>
-
-#include <memory>
-
-#include "Conditions.h"
-#include "Controls.h"
 #include "DialogLayout.h"
-#include "KZMainCfg.h"
-#include "KZQuorvelantaSetup.h"
+#include "EditorWindowFixture.h"
 #include "ModalScript.h"
 #include "ParameterNames.h"
-#include "modules/ModuleLoader.h"
 #include "project/ChosenVariables.h"
-#include "project/Project.h"
-#include "resources/EditorIds.h"
-#include "text/EditorText.h"
 #include "window/ChildWindow.h"
-#include "window/MainWindow.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
-class EditorLook : public testing::TestWithParam<KZLanguage> {
+class MainWindowLook : public editor_tests::OpenMainWindow, public testing::WithParamInterface<KZLanguage> {
 protected:
-    EditorLook() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
-    ~EditorLook() override
-    {
-        KZQuorvelantaSetup::Get()->SetLanguage(KZLanguage::English);
-        AfxGetApp()->m_pMainWnd = nullptr;
-        MSG quit;  // the end of either window asks the program to end
-        ::PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    }
-
-    Project m_project{fs::path(KZ_EXAMPLES) / "plant"};
-    ModuleLoader m_modules{ProgramFolder().parent_path() / "bin"};
-};
-
-class MainWindowLook : public EditorLook {
-protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(m_window.Create());
-        for (const Device& device : m_project.Devices())
-            ASSERT_NE(m_modules.CallbacksOf(device), nullptr);
-    }
-    ~MainWindowLook() override { m_window.DestroyWindow(); }
-
-    [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(m_window.m_hWnd, id); }
-
-    void ChooseDevice(int row)
-    {
-        ListView_SetItemState(Control(IDC_DEVICES), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-        const std::wstring& name = m_project.Devices()[static_cast<std::size_t>(row)].driver->Name().c_str();
-        ASSERT_NE(kztest::TextOf(Control(IDC_PANE_LABEL)).find(name), std::wstring::npos);
-    }
-
-    template <typename Check>
-    void ForEachDevice(Check check)
-    {
-        for (int row = 0; row < static_cast<int>(m_project.Devices().size()); ++row) {
-            SCOPED_TRACE(row);
-            ChooseDevice(row);
-            check();
-        }
-    }
-
-    MainWindow m_window{m_project, m_modules};
+    MainWindowLook() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
 };
 
 // The width that a text needs beside the blanks that a list leaves on both sides of it.
@@ -153,7 +94,10 @@ TEST_P(MainWindowLook, ShowsEachCellOfItsListsInFull)
 INSTANTIATE_TEST_SUITE_P(Languages, MainWindowLook, testing::Values(KZLanguage::English, KZLanguage::Spanish),
                          kztest::ByLanguage);
 
-class ChildWindowLook : public EditorLook {};
+class ChildWindowLook : public editor_tests::EditorWindows, public testing::WithParamInterface<KZLanguage> {
+protected:
+    ChildWindowLook() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
+};
 
 TEST_P(ChildWindowLook, IsTidy)
 {

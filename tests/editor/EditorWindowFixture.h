@@ -1,0 +1,105 @@
+// The editor's windows in the test's own process, on the example plant with the real module.
+#pragma once
+
+#include <afxwin.h>
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "Conditions.h"
+#include "Controls.h"
+#include "KZMainCfg.h"
+#include "KZQuorvelantaSetup.h"
+#include "modules/ModuleLoader.h"
+#include "project/Project.h"
+#include "resources/EditorIds.h"
+#include "text/EditorText.h"
+#include "window/MainWindow.h"
+
+namespace editor_tests {
+
+class EditorWindows : public testing::Test {
+protected:
+    ~EditorWindows() override
+    {
+        KZQuorvelantaSetup::Get()->SetLanguage(KZLanguage::English);
+        AfxGetApp()->m_pMainWnd = nullptr;
+        MSG quit;  // the end of either window asks the program to end
+        ::PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    }
+
+    // A control's place in its parent.
+    [[nodiscard]] static CRect PlaceOf(HWND control)
+    {
+        CRect place;
+        ::GetWindowRect(control, &place);
+        ::MapWindowPoints(nullptr, ::GetParent(control), reinterpret_cast<POINT*>(static_cast<RECT*>(&place)), 2);
+        return place;
+    }
+    [[nodiscard]] static CRect ClientOf(HWND window)
+    {
+        CRect client;
+        ::GetClientRect(window, &client);
+        return client;
+    }
+    // The options dialog that a pane embeds; null when it shows a text.
+    [[nodiscard]] static HWND EmbeddedIn(HWND pane) { return ::FindWindowExW(pane, nullptr, L"#32770", nullptr); }
+
+    // Both icons of a window, in the sizes that the system wants for them.
+    static void ExpectProgramIcon(HWND window)
+    {
+        const struct {
+            WPARAM kind;
+            int metric;
+        } icons[] = {{ICON_BIG, SM_CXICON}, {ICON_SMALL, SM_CXSMICON}};
+        for (const auto& [kind, metric] : icons) {
+            ICONINFO icon{};
+            ASSERT_TRUE(::GetIconInfo(reinterpret_cast<HICON>(::SendMessageW(window, WM_GETICON, kind, 0)), &icon));
+            BITMAP picture{};
+            ::GetObjectW(icon.hbmColor, sizeof picture, &picture);
+            EXPECT_EQ(picture.bmWidth, ::GetSystemMetrics(metric));
+            ::DeleteObject(icon.hbmColor);
+            ::DeleteObject(icon.hbmMask);
+        }
+    }
+
+    Project m_project{std::filesystem::path(KZ_EXAMPLES) / "plant"};
+    ModuleLoader m_modules{ProgramFolder().parent_path() / "bin"};
+};
+
+class OpenMainWindow : public EditorWindows {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_window.Create());
+        for (const Device& device : m_project.Devices())
+            ASSERT_NE(m_modules.CallbacksOf(device), nullptr);
+    }
+    ~OpenMainWindow() override { m_window.DestroyWindow(); }
+
+    [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(m_window.m_hWnd, id); }
+
+    void ChooseDevice(int row)
+    {
+        ListView_SetItemState(Control(IDC_DEVICES), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        const std::wstring& name = m_project.Devices()[static_cast<std::size_t>(row)].driver->Name().c_str();
+        ASSERT_NE(kztest::TextOf(Control(IDC_PANE_LABEL)).find(name), std::wstring::npos);
+    }
+
+    template <typename Check>
+    void ForEachDevice(Check check)
+    {
+        for (int row = 0; row < static_cast<int>(m_project.Devices().size()); ++row) {
+            SCOPED_TRACE(row);
+            ChooseDevice(row);
+            check();
+        }
+    }
+
+    MainWindow m_window{m_project, m_modules};
+};
+
+}  // namespace editor_tests
