@@ -77,6 +77,7 @@ std::string Difference(const Lines& before, const Lines& now)
 
 void ExpectPortrait(const std::string& name, const std::string& portrait)
 {
+    ASSERT_FALSE(portrait.empty()) << "the dialog was not drawn";
     const std::filesystem::path file = FileOf(name);
     if (::GetEnvironmentVariableW(L"KZ_PORTRAITS_RENEW", nullptr, 0) != 0) {
         std::ofstream(file, std::ios::binary) << portrait;

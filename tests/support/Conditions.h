@@ -6,7 +6,8 @@
 
 namespace kztest {
 
-inline constexpr std::chrono::milliseconds DefaultLimit{5000};
+// Long enough for a machine that compiles beside the tests.
+inline constexpr std::chrono::milliseconds DefaultLimit{15000};
 
 // Waits until the condition holds. On a thread that has windows, messages are dispatched meanwhile.
 // Returns whether it held within the limit.

@@ -11,6 +11,7 @@
 
 #include "ControlNames.h"
 #include "Controls.h"
+#include "PictureMark.h"
 
 namespace kztest {
 
@@ -151,14 +152,10 @@ std::string WordsOf(DWORD style, std::span<const StyleWord> table)
 std::string PictureOf(HWND button)
 {
     BUTTON_IMAGELIST picture{};
-    int width = 0;
-    int height = 0;
-    if (!::SendMessageW(button, BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&picture)) || !picture.himl ||
-        !::ImageList_GetIconSize(picture.himl, &width, &height))
-        return {};
+    ::SendMessageW(button, BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&picture));
+    const std::string mark = PictureMark(picture.himl, 0);
     constexpr std::array Places{"left", "right", "above", "below", "centre"};
-    return " picture-" + std::string(Places.at(picture.uAlign)) + "-" + std::to_string(width) + "x" +
-           std::to_string(height);
+    return mark.empty() ? mark : " picture-" + std::string(Places.at(picture.uAlign)) + "-" + mark;
 }
 
 std::string StyleWordsOf(HWND control, const std::wstring& className)
@@ -249,8 +246,9 @@ std::string TabBlock(HWND dialog, HWND tab, int index)
     TCITEMW item{};
     item.mask = TCIF_IMAGE;
     ::SendMessageW(tab, TCM_GETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
-    const std::string block = "\ntab " + std::to_string(index) + "  " + Quoted(TabText(tab, index)) + "  picture " +
-                              std::to_string(item.iImage);
+    const auto pictures = reinterpret_cast<HIMAGELIST>(::SendMessageW(tab, TCM_GETIMAGELIST, 0, 0));
+    const std::string block = "\ntab " + std::to_string(index) + "  " + Quoted(TabText(tab, index)) + "  picture-" +
+                              PictureMark(pictures, item.iImage);
     const HWND page = FindChild(dialog, L"#32770", true);
     if (!page)
         return block + "  no page\n";
