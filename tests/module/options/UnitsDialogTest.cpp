@@ -9,7 +9,6 @@
 #include "MessageBoxes.h"
 #include "ModalDialogTest.h"
 #include "ParameterNames.h"
-#include "PlaceOf.h"
 #include "UnitsControls.h"
 
 namespace {
@@ -217,57 +216,11 @@ TEST_F(UnitsDialog, StopsOnceInEachGroupOnTheWayWithTab)
 class UnitsDialogLanguages : public UnitsDialog, public testing::WithParamInterface<KZLanguage> {
 protected:
     UnitsDialogLanguages() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
-
-    [[nodiscard]] static std::wstring Decimals(unsigned id, int count)
-    {
-        return KZBasicString::Format(KZLoadString(id).c_str(), count).c_str();
-    }
 };
-
-TEST_P(UnitsDialogLanguages, TakesItsTextsFromTheHostButForTheUnits)
-{
-    Run([&] {
-        const auto text = [](unsigned id) { return std::wstring(KZLoadString(id).c_str()); };
-        EXPECT_EQ(TextOf(IDC_APPARENT_GROUP), text(399));
-        EXPECT_EQ(TextOf(IDC_REACTIVE_GROUP), text(400));
-        for (const int id : {IDC_APPARENT_UNIT_LABEL, IDC_REACTIVE_UNIT_LABEL})
-            EXPECT_EQ(TextOf(id), text(407));
-        for (const int id : {IDC_APPARENT_DEC_LABEL, IDC_REACTIVE_DEC_LABEL})
-            EXPECT_EQ(TextOf(id), text(408));
-        for (const auto& radios : {ApparentDecimals, ReactiveDecimals}) {
-            EXPECT_EQ(TextOf(radios[0]), text(403));
-            EXPECT_EQ(TextOf(radios[1]), Decimals(404, 1));
-            EXPECT_EQ(TextOf(radios[2]), Decimals(KZS_SEVERAL_DECIMALS, 2));
-            EXPECT_EQ(TextOf(radios[3]), Decimals(KZS_SEVERAL_DECIMALS, 3));
-        }
-        EXPECT_EQ(TextOf(IDC_APPARENT_KILO), L"kW / kVA");
-        EXPECT_EQ(TextOf(IDC_APPARENT_PLAIN), L"W / VA");
-        EXPECT_EQ(TextOf(IDC_REACTIVE_KILO), L"kVAR");
-        EXPECT_EQ(TextOf(IDC_REACTIVE_PLAIN), L"VAR");
-        EXPECT_EQ(TextOf(IDOK), text(311));
-        EXPECT_EQ(TextOf(IDCANCEL), text(312));
-        EXPECT_EQ(ControlText(*m_dialog), KZBasicString::Format(text(532).c_str(), Plant::Model().c_str()));
-    });
-}
 
 TEST_P(UnitsDialogLanguages, IsTidy)
 {
     Run([&] { kztest::ExpectNothingClippedOrOverlapping(m_dialog->m_hWnd); });
-}
-
-TEST_P(UnitsDialogLanguages, SetsTheTwoUnitsSideBySide)
-{
-    Run([&] {
-        const CRect apparent = PlaceOf(Item(IDC_APPARENT_GROUP));
-        const CRect reactive = PlaceOf(Item(IDC_REACTIVE_GROUP));
-        EXPECT_EQ(apparent.top, reactive.top);
-        EXPECT_EQ(apparent.bottom, reactive.bottom);
-        EXPECT_LT(apparent.right, reactive.left);
-        EXPECT_LE(std::abs(apparent.Width() - reactive.Width()), 1);
-        for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(PlaceOf(Item(ApparentDecimals[i])).top, PlaceOf(Item(ReactiveDecimals[i])).top);
-        EXPECT_LT(apparent.bottom, PlaceOf(Item(IDOK)).top);
-    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, UnitsDialogLanguages, testing::Values(KZLanguage::English, KZLanguage::Spanish),

@@ -1,10 +1,10 @@
-// Nothing clipped, nothing over anything else, in both languages and at the resolution that the test is run at.
+// What the selection dialog's portraits do not show: nothing cut at any resolution, and new sizes.
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
 #include "DialogLayout.h"
-#include "PlaceOf.h"
+#include "SelectVarControls.h"
 #include "SelectionFixture.h"
 
 namespace {
@@ -26,29 +26,28 @@ TEST_F(SelectionLook, IsTidyOnEveryPageInBothLanguages)
     });
 }
 
-TEST_F(SelectionLook, PutsEachBoxUnderItsColumnButtonAndBesideItsRowCaption)
+TEST_F(SelectionLook, GivesItsPagesANewWidth)
 {
+    constexpr int Growth = 300;
+    constexpr Family families[] = {Family::General, Family::Power, Family::Harmonic};
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
-        const auto centre = [&](Family family, int id) {
-            const CRect place = PlaceOf(dialog.Control(family, id));
-            return CPoint((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+        const auto rightOfLoad = [&](Family family) {
+            CRect place;
+            ::GetWindowRect(dialog.Control(family, IDC_LOAD_GROUP), &place);
+            return place.right;
         };
-        int tab = 0;
-        for (const Family family : {Family::General, Family::Power, Family::Harmonic}) {
-            dialog.ShowTab(tab++);
-            const auto& table = TableOf(family);
-            for (int row = 0; row < table.RowCount(); ++row) {
-                for (const zep::Side side : zep::Sides) {
-                    for (int phase = 0; phase < zep::PhaseCount; ++phase) {
-                        if (!table.HasBox({row, phase, side}))
-                            continue;
-                        const CPoint box = centre(family, table.BoxId({row, phase, side}));
-                        EXPECT_NEAR(box.x, centre(family, table.Ids(side).column + 1 + phase).x, 1);
-                        EXPECT_NEAR(box.y, centre(family, table.caption + row).y, 1);
-                    }
-                }
-            }
+        std::vector<LONG> before;
+        for (int tab = 0; tab < 3; ++tab) {
+            dialog.ShowTab(tab);
+            before.push_back(rightOfLoad(families[tab]));
+        }
+        CRect window;
+        dialog.GetWindowRect(&window);
+        dialog.MoveWindow(window.left, window.top, window.Width() + Growth, window.Height());
+        for (int tab = 0; tab < 3; ++tab) {
+            dialog.ShowTab(tab);
+            EXPECT_NEAR(rightOfLoad(families[tab]) - before[static_cast<std::size_t>(tab)], Growth, 1) << tab;
         }
     }});
 }
