@@ -43,8 +43,10 @@ def jobs(build, sources):
     files, found = read_files(build), {}
     for entry in json.loads((build / "compile_commands.json").read_text(encoding="utf-8")):
         name = os.path.relpath(entry["file"], ROOT)
+        if not name.startswith(PRODUCT) or not name.endswith(".cpp") or name in found or (sources and name not in sources):
+            continue
         read = files.get(re.search(r" -o (\S+)", entry["command"]).group(1))
-        if not read or not name.startswith(PRODUCT) or name in found or (sources and name not in sources):
+        if not read:  # a target that was not asked for
             continue
         state = hashlib.sha256(entry["command"].encode())
         for path in [ROOT / ".clang-tidy", *read]:
