@@ -4,7 +4,7 @@
 packages_build=(
   cmake ninja-build g++                              # native build
   g++-mingw-w64-x86-64-posix                         # cross build
-  googletest libcli11-dev dpkg-dev                   # sources, headers, the unpacker of pugixml
+  googletest libcli11-dev dpkg-dev                   # sources, headers, the unpacker of source packages
   librsvg2-bin imagemagick                           # pictures and icon
 )
 packages_wine=(
@@ -53,8 +53,12 @@ set_up() {
   rm -f "$log"
 }
 
-set_up_pugixml() {
-  [ -f "$root/build/deps/pugixml/src/pugixml.cpp" ] && return
-  say "Fetching pugixml's source"
-  "$root/tools/fetch-pugixml.sh" "$root/build/deps/pugixml" || fail "could not fetch pugixml's source"
+# The libraries whose sources the builds compile themselves.
+set_up_sources() {
+  local package
+  for package in pugixml expat; do
+    [ -d "$root/build/deps/$package" ] && continue
+    say "Fetching the source of $package"
+    "$root/tools/fetch-source.sh" "$package" "$root/build/deps/$package" || fail "could not fetch the source of $package"
+  done
 }

@@ -6,12 +6,7 @@
 #include <string>
 #include <string_view>
 
-// Why a text is not a document: the reason, and where, when it is at a place.
-struct SourceFault {
-    std::wstring reason;
-    std::size_t line = 0;  // from 1; 0: no place
-    std::size_t column = 0;
-};
+#include "WellFormedness.h"
 
 // The tree is for looking up and changing, the text for writing back: what nobody changed is copied from the text, so
 // that it keeps its spelling – entities, quotes, blanks in tags, line ends – of which the tree knows nothing. The

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# fetch-pugixml.sh DIR: puts pugixml's source into DIR, from Debian's own source package. The packaged library is the
-# narrow-character build, and the documents here are wide. The source lists used are private and derived from the
-# machine's own, so its apt configuration stays as it was; apt verifies the signed index and dpkg-source the checksums.
+# fetch-source.sh PACKAGE DIR: puts the source of a Debian package into DIR, for a library that the packaged build does not
+# serve: the cross build has no packages at all. The source lists used are private and derived from the machine's own, so
+# its apt configuration stays as it was; apt verifies the signed index and dpkg-source the checksums.
 set -euo pipefail
-dir=${1:?usage: fetch-pugixml.sh DIR}
-[ -f "$dir/src/pugixml.cpp" ] && exit 0
+package=${1:?usage: fetch-source.sh PACKAGE DIR}
+dir=${2:?usage: fetch-source.sh PACKAGE DIR}
+[ -d "$dir" ] && exit 0
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -45,7 +46,7 @@ Components: main
 Signed-By: /usr/share/keyrings/debian-archive-keyring.gpg
 END
   apt-get "${options[@]}" update && cd "$work/package" &&
-    apt-get "${options[@]}" --download-only source pugixml && dpkg-source -x pugixml_*.dsc tree
+    apt-get "${options[@]}" --download-only source "$package" && dpkg-source -x "$package"_*.dsc tree
 }
 
 while read -r uri release; do
@@ -58,5 +59,5 @@ while read -r uri release; do
 done < <(repositories)
 
 cat "$work/log" >&2
-echo "fetch-pugixml.sh: no Debian source list of this machine gave pugixml; is there a network?" >&2
+echo "fetch-source.sh: no Debian source list of this machine gave $package; is there a network?" >&2
 exit 1

@@ -1,0 +1,35 @@
+# pugixml in its wide-character build and expat, from the Debian source packages that the set-up step fetched. Both are
+# linked into the library that uses them.
+enable_language(C)
+
+# kz_source(PACKAGE FILE OUT): the folder of a file that the source package must have
+function(kz_source package file out)
+  set(folder ${CMAKE_SOURCE_DIR}/build/deps/${package})
+  if(NOT EXISTS ${folder}/${file})
+    message(FATAL_ERROR "the source of ${package} is not in ${folder}: run ./dev build, which fetches it")
+  endif()
+  cmake_path(GET file PARENT_PATH path)
+  set(${out} ${folder}/${path} PARENT_SCOPE)
+endfunction()
+
+function(kz_source_library target)
+  add_library(${target} STATIC ${ARGN})
+  if(KZ_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all)
+  endif()
+  if(KZ_FUZZ)
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
+endfunction()
+
+kz_source(pugixml src/pugixml.cpp pugixml)
+kz_source_library(kz_pugixml ${pugixml}/pugixml.cpp)
+target_include_directories(kz_pugixml SYSTEM PUBLIC ${pugixml})
+target_compile_definitions(kz_pugixml PUBLIC PUGIXML_WCHAR_MODE)
+
+kz_source(expat expat/lib/expat.h expat)
+kz_source_library(kz_expat ${expat}/xmlparse.c ${expat}/xmlrole.c ${expat}/xmltok.c)
+target_include_directories(kz_expat SYSTEM PUBLIC ${expat} PRIVATE ${CMAKE_BINARY_DIR}/expat)
+target_compile_definitions(kz_expat PUBLIC XML_STATIC PRIVATE $<$<NOT:$<BOOL:${WIN32}>>:HAVE_GETRANDOM>)
+# What expat's own build finds out about the machine.
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/expat/expat_config.h CONTENT "#define BYTEORDER 1234\n#define XML_CONTEXT_BYTES 1024\n")
