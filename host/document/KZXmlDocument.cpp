@@ -66,6 +66,10 @@ KZDocumentResult XmlDocument::Parse(std::string_view utf8)
 
 KZDocumentResult XmlDocument::Load(const std::filesystem::path& file)
 {
+    std::error_code unknown;  // reading says why
+    if (const auto size = std::filesystem::file_size(file, unknown); !unknown)
+        if (const std::optional<SourceFault> fault = CheckSize(size))
+            return Failure(file, fault->reason);
     std::string bytes;
     if (const FileOutcome read = ReadWholeFile(file, bytes); !read)
         return Failure(file, read.reason);

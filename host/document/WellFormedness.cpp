@@ -207,9 +207,16 @@ private:
 
 }  // namespace
 
+std::optional<SourceFault> CheckSize(std::uintmax_t bytes)
+{
+    if (bytes <= LargestDocument)
+        return std::nullopt;
+    return SourceFault{L"the document is larger than " + std::to_wstring(LargestDocument >> 20) + L" MB"};
+}
+
 std::optional<SourceFault> CheckWellFormedness(std::string_view utf8)
 {
-    if (utf8.size() > LargestDocument)
-        return SourceFault{L"the document is larger than " + std::to_wstring(LargestDocument >> 20) + L" MB"};
+    if (std::optional<SourceFault> fault = CheckSize(utf8.size()))
+        return fault;
     return Check().Run(utf8);
 }

@@ -1,6 +1,7 @@
 // Whether a text is a document: XML, all of it, within bounds that no configuration reaches.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,6 +18,9 @@ inline constexpr std::size_t LargestDocument = 64U << 20;  // bytes
 inline constexpr int DeepestNesting = 256;                 // elements
 inline constexpr std::size_t LongestName = 1000;           // bytes of UTF-8
 inline constexpr std::size_t MostAttributes = 1000;        // of one element
+
+// Why a document is refused by its size alone, or nothing; a file is asked for its size before it is read.
+[[nodiscard]] std::optional<SourceFault> CheckSize(std::uintmax_t bytes);
 
 // Checks a UTF-8 text without byte order mark. A document type declaration is refused whatever it holds: the platform's
 // documents have none, and what it can declare is an attack.

@@ -52,11 +52,9 @@ INSTANTIATE_TEST_SUITE_P(
         Text{"Smallest", "<r><v>old</v></r>"},
         Text{"ByteOrderMarkAndDeclaration", "\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"utf-8\" "
                                             "standalone='yes'?>\r\n<r>\r\n  <v>old</v>\r\n</r>\r\n"},
-        Text{"CommentsAround", "<?xml version='1.0'?>\n<!-- before -->\n<r>\n\t<v>old</v>\n\t<!-- in -- the middle? "
-                               "no: -->\n</r>\n<!-- after "
+        Text{"CommentsAround", "<?xml version='1.0'?>\n<!-- before -->\n<r>\n\t<v>old</v>\n\t<!-- in - the middle? "
+                               "yes -->\n</r>\n<!-- after "
                                "-->\n\n"},
-        Text{"DocumentTypeAndEntities",
-             "<!DOCTYPE r [ <!ENTITY x \"y\"> <!ELEMENT r ANY> ]>\n<r a='&x;'>&x;<v>old</v>&#233;&unknown;</r>"},
         Text{"ProcessingInstructions", "<?pi some data?><r><?inner more?><v>old</v><?empty?></r><?last?>"},
         Text{"BlanksInTags", "<r   a = \"1\"\n     b='say \"hi\"' c=\"it's &lt; &#10;\"  ><v x=\"1\">old</v  ></r >"},
         Text{"EmptyElements", "<r><e/><e /><e></e><e a='1'/><e a=\"1\"\n/><v>old</v><e>\n</e></r>"},

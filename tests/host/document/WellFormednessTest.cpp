@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "KZXmlDocument.h"
+#include "ParameterNames.h"
 #include "Utf8.h"
 
 namespace {
@@ -16,12 +17,6 @@ struct Faulty {
 
     friend void PrintTo(const Faulty& faulty, std::ostream* out) { *out << faulty.text; }
 };
-
-template <class Case>
-std::string NameOf(const testing::TestParamInfo<Case>& info)
-{
-    return info.param.name;
-}
 
 class NotWellFormed : public testing::TestWithParam<Faulty> {};
 
@@ -52,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
                            "line 1, column 33: the XML declaration is malformed"},
                     Faulty{"DeclarationInCapitals", "<?XML version='1.0'?><r/>", WRONG_CHARACTER(1, 6)},
                     Faulty{"UnfinishedDeclaration", "<?xml version='1.0'", UNFINISHED(1, 1)}),
-    NameOf<Faulty>);
+    kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(
     Root, NotWellFormed,
@@ -65,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
                            "line 2, column 6: the end tag does not match the element that is open here"},
                     Faulty{"Overlap", "<r><a><b></a></b></r>",
                            "line 1, column 12: the end tag does not match the element that is open here"}),
-    NameOf<Faulty>);
+    kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(Tags, NotWellFormed,
                          testing::Values(Faulty{"NameBeginsWithADigit", "<r><1/></r>", WRONG_CHARACTER(1, 5)},
@@ -73,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(Tags, NotWellFormed,
                                          Faulty{"BlankAfterTheSlash", "<r/ >", WRONG_CHARACTER(1, 4)},
                                          Faulty{"EndTagWithAttribute", "<r></r a='1'>", WRONG_CHARACTER(1, 8)},
                                          Faulty{"Unfinished", "<r><a b='1'", UNFINISHED(1, 4)}),
-                         NameOf<Faulty>);
+                         kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(Attributes, NotWellFormed,
                          testing::Values(Faulty{"Twice", "<r a='1' b='2' a='3'/>",
@@ -87,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Attributes, NotWellFormed,
                                                 "line 1, column 1: the entity is not one of XML's own"},
                                          Faulty{"ControlCharacter", "<r a='\x01'/>", WRONG_CHARACTER(1, 7)},
                                          Faulty{"Unfinished", "<r a='1/>", UNFINISHED(1, 1)}),
-                         NameOf<Faulty>);
+                         kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, NotWellFormed,
@@ -109,13 +104,13 @@ INSTANTIATE_TEST_SUITE_P(
                     Faulty{"ZeroCharacter", "<r>\0</r>"s, WRONG_CHARACTER(1, 4)},
                     Faulty{"NonCharacter", "<r>\xEF\xBF\xBF</r>", WRONG_CHARACTER(1, 4)},
                     Faulty{"ColumnsAreCharacters", "<r>\xC3\xB1\xC3\xB1&</r>", WRONG_CHARACTER(1, 7)}),
-    NameOf<Faulty>);
+    kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(Comments, NotWellFormed,
                          testing::Values(Faulty{"TwoDashes", "<r><!-- a -- b --></r>", WRONG_CHARACTER(1, 13)},
                                          Faulty{"ThreeDashesAtTheEnd", "<r><!-- a ---></r>", WRONG_CHARACTER(1, 13)},
                                          Faulty{"Unfinished", "<r><!-- a </r>", UNFINISHED(1, 4)}),
-                         NameOf<Faulty>);
+                         kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(
     Sections, NotWellFormed,
@@ -127,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Faulty{"InstructionNamedXml", "<r><?xml a?></r>",
                            "line 1, column 4: an XML declaration may stand only at the very start"},
                     Faulty{"UnfinishedInstruction", "<r><?a ></r>", UNFINISHED(1, 4)}),
-    NameOf<Faulty>);
+    kztest::ByName);
 
 INSTANTIATE_TEST_SUITE_P(
     Refused, NotWellFormed,
@@ -146,7 +141,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Faulty{"AsciiWithOtherCharacters", "<?xml version='1.0' encoding='US-ASCII'?><r>\xC3\xB1</r>",
                            WRONG_CHARACTER(1, 45)},
                     Faulty{"Utf16", "\xFF\xFE<\0r\0/\0>\0"s, "line 1, column 1: the text is not UTF-8"}),
-    NameOf<Faulty>);
+    kztest::ByName);
 
 struct Accepted {
     const char* name;
@@ -179,7 +174,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Accepted{"Names", "<r><_a/><b.c-d/><e:f/><\xC3\xB1\xC3\xA9/><\xCE\xA9 \xD0\xB1='1'/></r>"},
                     Accepted{"CharactersBeyondTheBasicPlane", "<r a='\xF0\x9F\x94\x8C'>\xF0\x9F\x94\x8C</r>"},
                     Accepted{"OldLineEnds", "<r>\r<a>\rb\r</a>\r</r>\r"}, Accepted{"DeleteCharacter", "<r>\x7F</r>"}),
-    NameOf<Accepted>);
+    kztest::ByName);
 
 TEST(Bounds, NestingEndsAt256)
 {
