@@ -6,6 +6,7 @@ packages_build=(
   g++-mingw-w64-x86-64-posix                         # cross build
   googletest libcli11-dev dpkg-dev                   # sources, headers, the unpacker of source packages
   librsvg2-bin imagemagick                           # pictures and icon
+  libxml2-dev                                        # the other reader that documents are tried with
 )
 packages_wine=(
   wine wine64 fonts-wine locales

@@ -218,5 +218,8 @@ std::optional<SourceFault> CheckWellFormedness(std::string_view utf8)
 {
     if (std::optional<SourceFault> fault = CheckSize(utf8.size()))
         return fault;
+    // The one mark that a text may begin with is not part of it; expat would pass over another.
+    if (utf8.starts_with("\xEF\xBB\xBF"))
+        return SourceFault{L"a second byte order mark stands here", 1, 1};
     return Check().Run(utf8);
 }

@@ -34,6 +34,8 @@ TEST_P(NotWellFormed, IsRefusedWithPlaceAndReason)
 INSTANTIATE_TEST_SUITE_P(
     Prolog, NotWellFormed,
     testing::Values(Faulty{"TextBeforeTheRoot", "text<r/>", WRONG_CHARACTER(1, 5)},
+                    Faulty{"SecondByteOrderMark", "\xEF\xBB\xBF\xEF\xBB\xBF<r/>",
+                           "line 1, column 1: a second byte order mark stands here"},
                     Faulty{"ReferenceBeforeTheRoot", "&amp;<r/>", WRONG_CHARACTER(1, 1)},
                     Faulty{"DeclarationAfterABlank", " <?xml version='1.0'?><r/>",
                            "line 1, column 2: an XML declaration may stand only at the very start"},
