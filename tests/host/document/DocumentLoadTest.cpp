@@ -101,8 +101,8 @@ TEST(Load, ReadsFilesOfAnySize)
 
 TEST(Load, LooksAtTheSizeBeforeItReads)
 {
-    const ScratchFolder folder;
-    WriteBytes(folder.File("main.xml"), "<configuration/>");
+    const kztest::TemporaryFolder folder;
+    folder.Write("main.xml", "<configuration/>");
     std::filesystem::resize_file(folder.File("main.xml"), (std::uintmax_t{64} << 20) + 1);
     XmlDocument document(L"configuration");
     const std::string message = EncodeUtf8(document.Load(folder.File("main.xml")).message.View());
