@@ -103,9 +103,9 @@ TEST(Load, LooksAtTheSizeBeforeItReads)
 {
     const kztest::TemporaryFolder folder;
     folder.Write("main.xml", "<configuration/>");
-    std::filesystem::resize_file(folder.File("main.xml"), (std::uintmax_t{64} << 20) + 1);
+    std::filesystem::resize_file(folder.Path() / "main.xml", (std::uintmax_t{64} << 20) + 1);
     XmlDocument document(L"configuration");
-    const std::string message = EncodeUtf8(document.Load(folder.File("main.xml")).message.View());
+    const std::string message = EncodeUtf8(document.Load(folder.Path() / "main.xml").message.View());
     EXPECT_THAT(message, HasSubstr("main.xml: the document is larger than 64 MB"));
 }
 
