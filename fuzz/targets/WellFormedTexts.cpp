@@ -24,8 +24,8 @@ bool OtherTakes(std::string_view text)
     return document != nullptr;
 }
 
-// Where the two may differ: names beyond ASCII, which the fifth edition of XML allows more of; a zero character, which ends
-// the text for libxml2; and what is refused although it is XML.
+// Where the two may differ: names beyond ASCII, which the fifth edition of XML allows more of; a zero character, which
+// ends the text for libxml2; and what is refused although it is XML.
 bool MayDiffer(std::string_view text)
 {
     return std::any_of(text.begin(), text.end(), [](char c) { return static_cast<signed char>(c) <= 0; }) ||

@@ -15,5 +15,5 @@ protected:
     [[nodiscard]] int RowLabelId(std::size_t variable) const noexcept override;
 
 private:
-    KZDriver* m_pDriver;
+    [[maybe_unused]] KZDriver* m_pDriver;  // part of the page, though nothing on it depends on the device
 };

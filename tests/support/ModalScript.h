@@ -3,8 +3,8 @@
 //     kztest::ModalScript script([] { kztest::Click(kztest::WaitForDialog(), IDOK); });
 //     EXPECT_EQ(dialog.DoModal(), IDOK);
 //
-// An exception out of the script, or a modal loop that has not ended a limit's time after it, fails the test and closes every
-// window of the test's thread, so that no test hangs.
+// An exception out of the script, or a modal loop that has not ended a limit's time after it, fails the test and closes
+// every window of the test's thread, so that no test hangs.
 #pragma once
 
 #include <windows.h>
