@@ -15,7 +15,8 @@
 
 namespace {
 
-constexpr double DialogLimit = 1.25;
+constexpr double DialogLimit = 1.35;
+constexpr double HubLimit = 1.50;       // ten pictures and texts on next to no template
 constexpr unsigned HubTemplate = 1199;  // of the host
 
 constexpr std::array<unsigned, 3> LimitsPages{IDD_LIMITS_HARMONIC, IDD_LIMITS_HARMONIC, IDD_LIMITS_POWER};
@@ -56,7 +57,10 @@ std::vector<Road> Roads::All()
     const HMODULE module = ::GetModuleHandleW(L"KZUsrZEP.dll");
     const HMODULE host = ::GetModuleHandleW(L"KZHost.dll");
     return {
-        {"options hub", [this] { CDlgOptionsZEP(&m_owner, &m_plant.Device()).DoModal(); }, {host, HubTemplate, {}}, {}},
+        {"options hub",
+         [this] { CDlgOptionsZEP(&m_owner, &m_plant.Device()).DoModal(); },
+         {host, HubTemplate, {}},
+         HubLimit},
         {"device settings", [this] { m_hub->OpenDevice(); }, {module, IDD_DEVICE_CONFIGURATION, {}}, DialogLimit},
         {"units", [this] { m_hub->OpenUnits(); }, {module, IDD_UNITS, {}}, DialogLimit},
         {"limits", [this] { m_hub->OpenLimits(); }, {module, IDD_LIMITS, LimitsPages}, DialogLimit},
