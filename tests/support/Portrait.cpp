@@ -158,6 +158,13 @@ std::string PictureOf(HWND button)
     return mark.empty() ? mark : " picture-" + std::string(Places.at(picture.uAlign)) + "-" + mark;
 }
 
+bool IsBold(HWND control)
+{
+    LOGFONTW font{};
+    const auto handle = reinterpret_cast<HFONT>(::SendMessageW(control, WM_GETFONT, 0, 0));
+    return handle && ::GetObjectW(handle, sizeof font, &font) != 0 && font.lfWeight >= FW_BOLD;
+}
+
 std::string StyleWordsOf(HWND control, const std::wstring& className)
 {
     std::string words;
@@ -173,6 +180,8 @@ std::string StyleWordsOf(HWND control, const std::wstring& className)
         if (::SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED)
             words += " checked";
     }
+    if (IsBold(control))
+        words += " bold";
     if (FocusedWindow(control) == control)
         words += " focus";
     return words;
