@@ -2,13 +2,12 @@
 
 #include <commctrl.h>
 
-#include <memory>
-#include <optional>
+#include <utility>
 
 #include "../dialogs/ExceptionGuard.h"
 #include "KZQuorvelantaSetup.h"
-#include "PictureFiles.h"
 #include "PictureStore.h"
+#include "PngFile.h"
 
 namespace {
 
@@ -57,10 +56,9 @@ Pixel WindowColour() noexcept
 
 bool LoadMaskedBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* transparentColour)
 {
-    const std::shared_ptr<const PixelImage> source = PictureFiles::Shared().Get(WithImageFolder(path)).image;
-    if (!source)
+    PixelImage image = ReadPicture(WithImageFolder(path));
+    if (image.IsEmpty())
         return false;
-    PixelImage image = *source;
     const Pixel key = UnusedColour(image);
     Flatten(image, WindowColour(), key);
     const HBITMAP handle = MakeBitmap(image, 24);
@@ -74,61 +72,20 @@ bool LoadMaskedBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* tran
 
 }  // namespace
 
-class CImageButton::State {
-public:
-    // Whether the last call asked for the same and nothing has changed since: not the text, and not the file as far as
-    // that is looked at. One click sets the same picture on a dozen buttons that have it already.
-    [[nodiscard]] bool IsAnswered(const PictureStore::Key& key, bool imageOnTop) const
-    {
-        return m_answered && m_answered->key == key && m_answered->imageOnTop == imageOnTop &&
-               PictureFiles::IsTrusted(m_answered->checkedAt);
-    }
-    [[nodiscard]] bool HasPicture() const noexcept { return m_shown != nullptr; }
-
-    // False when the button keeps what it shows.
-    bool Show(HWND button, PictureStore::Key key, bool imageOnTop)
-    {
-        m_answered.reset();
-        auto [picture, checkedAt] = m_store->Get(key);
-        const UINT alignment = Alignment(button, imageOnTop);
-        if (picture != m_shown || (picture && alignment != m_alignment)) {
-            if (!ShowPicture(button, picture ? picture->Handle() : nullptr, alignment))
-                return false;
-            m_shown = std::move(picture);
-            m_alignment = alignment;
-        }
-        m_answered = Answered{std::move(key), imageOnTop, checkedAt};
-        return true;
-    }
-    void ForgetAnswer() noexcept { m_answered.reset(); }
-    // For the next window, which shows nothing yet.
-    void ForgetWindow() noexcept
-    {
-        ForgetAnswer();
-        m_shown.reset();
-    }
-
-private:
-    struct Answered {
-        PictureStore::Key key;
-        bool imageOnTop;
-        ULONGLONG checkedAt;
-    };
-
-    std::shared_ptr<PictureStore> m_store = PictureStore::Acquire();
-    std::shared_ptr<const ButtonPicture> m_shown;
-    UINT m_alignment = BUTTON_IMAGELIST_ALIGN_LEFT;
-    std::optional<Answered> m_answered;
+// What the button was asked to show last.
+struct CImageButton::State {
+    PictureKey key;
+    UINT alignment;
+    std::shared_ptr<const ButtonPicture> picture;  // null: there was none to be had
 };
 
-CImageButton::CImageButton() : m_state(nullptr) {}
+CImageButton::CImageButton() = default;
 
 CImageButton::~CImageButton()
 {
     // The system's button does not own its image list: it must not be left with one that goes away.
-    if (m_state && ::IsWindow(m_hWnd))
+    if (m_shown && ::IsWindow(m_hWnd))
         ShowPicture(m_hWnd, nullptr, BUTTON_IMAGELIST_ALIGN_LEFT);
-    delete m_state;
 }
 
 bool CImageButton::SetImage(const KZBasicString& path, COLORREF transparent, bool imageOnTop)
@@ -137,27 +94,25 @@ bool CImageButton::SetImage(const KZBasicString& path, COLORREF transparent, boo
         return false;
     // Out of memory the button keeps what it shows.
     return Succeeds([&] {
-        if (!m_state)
-            m_state = new State;
-        PictureStore::Key key{WithImageFolder(path), transparent, WindowDpi(m_hWnd)};
-        if (m_state->IsAnswered(key, imageOnTop) || m_state->Show(m_hWnd, std::move(key), imageOnTop))
-            return m_state->HasPicture();
-        return false;
+        PictureKey key{WithImageFolder(path), transparent, WindowDpi(m_hWnd)};
+        const UINT alignment = Alignment(m_hWnd, imageOnTop);
+        // One click sets the pictures of a dozen buttons, which mostly show them already: these are not drawn anew, and
+        // their files are not asked after.
+        if (!m_shown || m_shown->key != key || m_shown->alignment != alignment) {
+            auto picture = SharedPicture(key);
+            auto wanted = std::make_unique<State>(State{std::move(key), alignment, std::move(picture)});
+            if (!ShowPicture(m_hWnd, wanted->picture ? wanted->picture->Handle() : nullptr, alignment))
+                return false;
+            m_shown = std::move(wanted);
+        }
+        return m_shown->picture != nullptr;
     });
 }
 
-// Where the picture goes depends on whether there is a text.
-LRESULT CImageButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (message == WM_SETTEXT && m_state)
-        m_state->ForgetAnswer();
-    return CButton::WindowProc(message, wParam, lParam);
-}
-
+// The next window shows nothing yet.
 void CImageButton::PostNcDestroy()
 {
-    if (m_state)
-        m_state->ForgetWindow();
+    m_shown.reset();
 }
 
 bool CImageButton::GetBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* transparentColour)

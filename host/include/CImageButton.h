@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <memory>
+
 #include "KZBasicString.h"
 
 class KZ_API CImageButton : public CButton {
@@ -15,9 +17,10 @@ public:
     //   imageOnTop    true: the picture above the text; false: to the left of it. A button without text at this moment
     //                 shows the picture alone, centred.
     // The picture is scaled to the button's DPI (the file's pixels are for 96). Buttons that show the same file share
-    // one picture, and setting what is shown already costs next to nothing; a file that changes is noticed within a
-    // second. A file that is missing or cannot be read leaves the button with its text alone and returns false, as does
-    // a button that has no window yet or a process without version 6 of the common controls.
+    // one picture. Asked for what it shows already, the button does nothing; a file that has changed meanwhile is seen
+    // by the next window. A file that is missing or cannot be read leaves the button with its text alone and returns
+    // false, as does a button that has no window yet, a process without version 6 of the common controls and one that
+    // has run out of memory.
     bool SetImage(const KZBasicString& path, COLORREF transparent, bool imageOnTop);
 
     // Loads a PNG file as a bitmap of 24 bits, in the file's own size, for image lists. A name without a folder is
@@ -26,10 +29,9 @@ public:
     static bool GetBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* transparentColour);
 
 protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void PostNcDestroy() override;
 
 private:
-    class State;
-    State* m_state;
+    struct State;
+    std::unique_ptr<State> m_shown;
 };
