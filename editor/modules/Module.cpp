@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::wstring_view filePrefix = L"KZUsr";
+constexpr std::wstring_view FilePrefix = L"KZUsr";
 
 bool EqualIgnoringCase(std::wstring_view first, std::wstring_view second) noexcept
 {
@@ -74,10 +74,10 @@ void Module::FreeLibrary::operator()(HMODULE library) const noexcept
 std::wstring Module::ModelOf(const std::filesystem::path& file)
 {
     const std::wstring stem = file.stem().wstring();
-    if (!EqualIgnoringCase(file.extension().wstring(), L".dll") || stem.size() <= filePrefix.size() ||
-        !EqualIgnoringCase(stem.substr(0, filePrefix.size()), filePrefix))
+    if (!EqualIgnoringCase(file.extension().wstring(), L".dll") || stem.size() <= FilePrefix.size() ||
+        !EqualIgnoringCase(stem.substr(0, FilePrefix.size()), FilePrefix))
         return {};
-    return stem.substr(filePrefix.size());
+    return stem.substr(FilePrefix.size());
 }
 
 Module::Module(const std::filesystem::path& file) : m_file(file), m_model(ModelOf(file)), m_status(Load())

@@ -2,49 +2,46 @@
 
 namespace {
 
-SIZE SizeOf(const RECT& rectangle) noexcept
+CSize ClientSize(const CWnd& window)
 {
-    return {rectangle.right - rectangle.left, rectangle.bottom - rectangle.top};
-}
-
-SIZE ClientSize(HWND window) noexcept
-{
-    RECT client{};
-    ::GetClientRect(window, &client);
-    return SizeOf(client);
+    CRect client;
+    window.GetClientRect(&client);
+    return client.Size();
 }
 
 }  // namespace
 
-void AnchoredControls::Capture(HWND dialog, std::span<const Anchor> anchors)
+void AnchoredControls::Capture(const CWnd& dialog, std::span<const Anchor> anchors)
 {
-    m_dialog = dialog;
-    m_clientSize = ClientSize(dialog);
-    RECT window{};
-    ::GetWindowRect(dialog, &window);
-    m_windowSize = SizeOf(window);
+    m_pDialog = &dialog;
+    m_sizeClient = ClientSize(dialog);
+    CRect window;
+    dialog.GetWindowRect(&window);
+    m_sizeWindow = window.Size();
     for (const Anchor& anchor : anchors) {
-        const HWND control = ::GetDlgItem(dialog, anchor.control);
-        RECT drawn{};
-        if (!control || !::GetWindowRect(control, &drawn))
+        const CWnd* control = dialog.GetDlgItem(anchor.control);
+        if (!control)
             continue;
-        ::MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&drawn), 2);
+        CRect drawn;
+        control->GetWindowRect(&drawn);
+        dialog.ScreenToClient(&drawn);
         m_controls.push_back({&anchor, drawn});
     }
 }
 
-void AnchoredControls::Apply() const noexcept
+void AnchoredControls::Apply() const
 {
-    const SIZE client = ClientSize(m_dialog);
-    const LONG x = client.cx - m_clientSize.cx;
-    const LONG y = client.cy - m_clientSize.cy;
+    if (!m_pDialog)
+        return;
+    const CSize client = ClientSize(*m_pDialog);
+    const int x = client.cx - m_sizeClient.cx;
+    const int y = client.cy - m_sizeClient.cy;
     HDWP moves = ::BeginDeferWindowPos(static_cast<int>(m_controls.size()));
     for (const auto& [anchor, drawn] : m_controls) {
-        const SIZE size = SizeOf(drawn);
         if (moves)
-            moves = ::DeferWindowPos(moves, ::GetDlgItem(m_dialog, anchor->control), nullptr,
+            moves = ::DeferWindowPos(moves, m_pDialog->GetDlgItem(anchor->control)->m_hWnd, nullptr,
                                      drawn.left + x * anchor->moveX / 100, drawn.top + y * anchor->moveY / 100,
-                                     size.cx + x * anchor->growX / 100, size.cy + y * anchor->growY / 100,
+                                     drawn.Width() + x * anchor->growX / 100, drawn.Height() + y * anchor->growY / 100,
                                      SWP_NOZORDER | SWP_NOACTIVATE);
     }
     if (moves)

@@ -2,7 +2,7 @@
 // window has grown since.
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include <span>
 #include <vector>
@@ -16,22 +16,22 @@ struct Anchor {
 
 class AnchoredControls {
 public:
-    // Remembers the drawing. The rows must live as long as this object; a row without its control is skipped.
-    void Capture(HWND dialog, std::span<const Anchor> anchors);
+    // Remembers the drawing. Dialog and rows must live as long as this object; a row without its control is skipped.
+    void Capture(const CWnd& dialog, std::span<const Anchor> anchors);
 
     // Moves the controls to where they belong at the dialog's present size.
-    void Apply() const noexcept;
+    void Apply() const;
 
     // The window's size when the drawing was captured: the size below which controls would overlap.
-    [[nodiscard]] SIZE MinimumWindowSize() const noexcept { return m_windowSize; }
+    [[nodiscard]] CSize MinimumWindowSize() const noexcept { return m_sizeWindow; }
 
 private:
     struct Placed {
         const Anchor* anchor;
-        RECT drawn;
+        CRect drawn;
     };
-    HWND m_dialog = nullptr;
-    SIZE m_clientSize{};
-    SIZE m_windowSize{};
+    const CWnd* m_pDialog = nullptr;
+    CSize m_sizeClient;
+    CSize m_sizeWindow;
     std::vector<Placed> m_controls;
 };

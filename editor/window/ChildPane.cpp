@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr UINT moveOnly = SWP_NOZORDER | SWP_NOACTIVATE;
+constexpr UINT MoveOnly = SWP_NOZORDER | SWP_NOACTIVATE;
 
 }  // namespace
 
@@ -24,16 +24,15 @@ void ChildPane::DestroyChild::operator()(CDialog* dialog) const
 
 bool ChildPane::CreateInPlaceOf(CWnd& parent, int control)
 {
-    const HWND place = ::GetDlgItem(parent.m_hWnd, control);
+    CWnd* place = parent.GetDlgItem(control);
     if (!CreateIn(parent))
         return false;
-    RECT rectangle{};
-    ::GetWindowRect(place, &rectangle);
-    ::MapWindowPoints(nullptr, parent.m_hWnd, reinterpret_cast<POINT*>(&rectangle), 2);
-    ::SetWindowPos(m_hWnd, place, rectangle.left, rectangle.top, rectangle.right - rectangle.left,
-                   rectangle.bottom - rectangle.top, SWP_NOACTIVATE);
-    ::DestroyWindow(place);
-    ::SetWindowLongPtrW(m_hWnd, GWLP_ID, control);
+    CRect rectangle;
+    place->GetWindowRect(&rectangle);
+    parent.ScreenToClient(&rectangle);
+    SetWindowPos(place, rectangle.left, rectangle.top, rectangle.Width(), rectangle.Height(), SWP_NOACTIVATE);
+    place->DestroyWindow();
+    SetDlgCtrlID(control);
     return true;
 }
 
@@ -41,41 +40,42 @@ bool ChildPane::CreateIn(CWnd& parent)
 {
     if (!Create(IDD_CHILD_PANE, &parent))
         return false;
-    ::ShowWindow(m_hWnd, SW_SHOW);
+    ShowWindow(SW_SHOW);
     return true;
 }
 
 bool ChildPane::Embed(KZDriver* driver, KZChildOptionsFactory factory)
 {
-    m_child.reset();
-    m_child.reset(factory ? factory(this, driver) : nullptr);
-    if (!m_child) {
+    m_pChild.reset();
+    m_pChild.reset(factory ? factory(this, driver) : nullptr);
+    if (!m_pChild) {
         ShowText(EditorText(IDS_PANE_NO_DIALOG));
         return false;
     }
-    ::ShowWindow(::GetDlgItem(m_hWnd, IDC_PANE_TEXT), SW_HIDE);
+    GetDlgItem(IDC_PANE_TEXT)->ShowWindow(SW_HIDE);
     Arrange();
-    ::ShowWindow(m_child->m_hWnd, SW_SHOWNA);
+    m_pChild->ShowWindow(SW_SHOWNA);
     return true;
 }
 
 void ChildPane::ShowText(const std::wstring& text)
 {
-    m_child.reset();
-    ::SetDlgItemTextW(m_hWnd, IDC_PANE_TEXT, text.c_str());
-    ::ShowWindow(::GetDlgItem(m_hWnd, IDC_PANE_TEXT), SW_SHOWNA);
+    m_pChild.reset();
+    SetDlgItemText(IDC_PANE_TEXT, text.c_str());
+    GetDlgItem(IDC_PANE_TEXT)->ShowWindow(SW_SHOWNA);
 }
 
 void ChildPane::Arrange()
 {
-    RECT client{};
-    ::GetClientRect(m_hWnd, &client);
-    if (m_child)
-        ::SetWindowPos(m_child->m_hWnd, nullptr, 0, 0, client.right, client.bottom, moveOnly);
-    RECT margin{0, 0, 7, 7};
-    ::MapDialogRect(m_hWnd, &margin);
-    ::SetWindowPos(::GetDlgItem(m_hWnd, IDC_PANE_TEXT), nullptr, margin.right, margin.bottom,
-                   client.right - 2 * margin.right, client.bottom - 2 * margin.bottom, moveOnly);
+    CRect client;
+    GetClientRect(&client);
+    if (m_pChild)
+        m_pChild->SetWindowPos(nullptr, 0, 0, client.Width(), client.Height(), MoveOnly);
+    CRect margin(0, 0, 7, 7);
+    MapDialogRect(&margin);
+    client.DeflateRect(margin.Width(), margin.Height());
+    GetDlgItem(IDC_PANE_TEXT)
+        ->SetWindowPos(nullptr, client.left, client.top, client.Width(), client.Height(), MoveOnly);
 }
 
 void ChildPane::OnSize(UINT type, int cx, int cy)
@@ -86,7 +86,7 @@ void ChildPane::OnSize(UINT type, int cx, int cy)
 
 void ChildPane::OnDestroy()
 {
-    m_child.reset();
+    m_pChild.reset();
     CDialog::OnDestroy();
 }
 

@@ -24,7 +24,7 @@ public:
     // Replaces what the pane shows by a text.
     void ShowText(const std::wstring& text);
 
-    [[nodiscard]] bool HasChild() const noexcept { return m_child != nullptr; }
+    [[nodiscard]] bool HasChild() const noexcept { return m_pChild != nullptr; }
 
 protected:
     // A pane has no OK and Cancel; Return and Escape in it belong to the window around it.
@@ -45,5 +45,5 @@ private:
 
     void Arrange();
 
-    std::unique_ptr<CDialog, DestroyChild> m_child;
+    std::unique_ptr<CDialog, DestroyChild> m_pChild;
 };

@@ -16,7 +16,6 @@ protected:
     void OnOK() override {}
     void OnCancel() override { DestroyWindow(); }
 
-    afx_msg void OnDestroy();
     afx_msg void OnSize(UINT type, int cx, int cy);
 
     DECLARE_MESSAGE_MAP()
@@ -28,7 +27,6 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(ChildWindow, CDialog)
-    ON_WM_DESTROY()
     ON_WM_SIZE()
 END_MESSAGE_MAP()
 
@@ -38,27 +36,22 @@ bool ChildWindow::Run(KZDriver* driver, KZChildOptionsFactory factory)
         return false;
     AfxGetApp()->m_pMainWnd = this;
     SetWindowText(FormatEditorText(IDS_CHILD_TITLE, driver->Name().c_str()).c_str());
-    SetProgramIcon(m_hWnd);
+    SetProgramIcon(*this);
     const bool created = m_pane.Embed(driver, factory);
     Arrange();
     ShowWindow(SW_SHOW);
-    ::SetFocus(::GetNextDlgTabItem(m_hWnd, nullptr, FALSE));
+    if (CWnd* first = GetNextDlgTabItem(nullptr))
+        first->SetFocus();
     AfxGetApp()->Run();
     return created;
 }
 
 void ChildWindow::Arrange()
 {
-    RECT client{};
-    ::GetClientRect(m_hWnd, &client);
+    CRect client;
+    GetClientRect(&client);
     if (m_pane.m_hWnd)
-        ::MoveWindow(m_pane.m_hWnd, 0, 0, client.right, client.bottom, TRUE);
-}
-
-void ChildWindow::OnDestroy()
-{
-    CDialog::OnDestroy();
-    ::PostQuitMessage(0);
+        m_pane.MoveWindow(&client);
 }
 
 void ChildWindow::OnSize(UINT type, int cx, int cy)
@@ -69,7 +62,7 @@ void ChildWindow::OnSize(UINT type, int cx, int cy)
 
 BOOL ChildWindow::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    return RouteEmbeddedCommand(m_hWnd, wParam) || CDialog::OnCommand(wParam, lParam);
+    return RouteEmbeddedCommand(*this, wParam, lParam) || CDialog::OnCommand(wParam, lParam);
 }
 
 }  // namespace

@@ -5,19 +5,15 @@
 #include "modules/ModuleLoader.h"
 #include "project/Project.h"
 
-class DeviceListView {
+class DeviceListView : public ReportList {
 public:
-    // Takes the list control of a dialog, gives it its columns and fills it. The rows follow the project's order.
-    void Fill(HWND list, const Project& project, const ModuleLoader& modules);
+    // Gives the list its columns and fills it. The rows follow the project's order.
+    void Fill(const Project& project, const ModuleLoader& modules);
 
     // The selected row, -1 when none is.
-    [[nodiscard]] int Selected() const noexcept;
-    void Select(int row) noexcept;
-
-    void FitColumns() noexcept { m_list.FitColumns(); }
+    [[nodiscard]] int Selected() const { return GetNextItem(-1, LVNI_SELECTED); }
+    void Select(int row);
 
 private:
     void ShowRow(int row, const Device& device, const ModuleStatus& status);
-
-    ReportList m_list;
 };

@@ -1,12 +1,12 @@
 #include "EmbeddedCommand.h"
 
-bool RouteEmbeddedCommand(HWND window, WPARAM wParam)
+bool RouteEmbeddedCommand(const CWnd& window, WPARAM wParam, LPARAM lParam)
 {
-    const HWND focus = ::GetFocus();
-    const HWND owner = focus ? ::GetParent(focus) : nullptr;
-    const bool embedded = owner && owner != window && ::IsChild(window, owner);
-    if (!embedded || ::GetDlgCtrlID(focus) != LOWORD(wParam))
+    // Null for a menu item or a shortcut, whose id may be that of some embedded control.
+    const auto control = reinterpret_cast<HWND>(lParam);
+    const HWND holder = control ? ::GetParent(control) : nullptr;
+    if (!holder || holder == window.m_hWnd || !::IsChild(window.m_hWnd, holder))
         return false;
-    ::SendMessageW(owner, WM_COMMAND, wParam, reinterpret_cast<LPARAM>(focus));
+    ::SendMessageW(holder, WM_COMMAND, wParam, lParam);
     return true;
 }

@@ -1,26 +1,20 @@
+// The main window: its controls and what they show. Its commands are in MainWindowCommands.cpp.
 #include "MainWindow.h"
 
-#include <commctrl.h>
-
-#include <algorithm>
+#include <climits>
 
 #include "EmbeddedCommand.h"
 #include "KZDlgOptions.h"
 #include "KZMainCfg.h"
-#include "ModuleSummary.h"
 #include "WindowIcon.h"
-#include "project/ChosenVariables.h"
+#include "modules/ModuleSummary.h"
 #include "summary/DeviceSummary.h"
 #include "text/EditorText.h"
-#include "text/Utf8.h"
 
 namespace {
 
-// The groups of measured quantities, bits 2, 4, 5 and 6. A device that has none of them says so when it is asked.
-constexpr KZVariableGroups measuredGroups{0x74};
-
 // The list gets a third of what the window grows in height, the panes below it the rest.
-constexpr Anchor anchors[] = {
+constexpr Anchor Anchors[] = {
     {IDC_DEVICES_LABEL, 0, 0, 0, 0},   {IDC_DEVICES, 0, 0, 100, 33},    {IDC_SELECT, 0, 33, 0, 0},
     {IDC_OPTIONS, 0, 33, 0, 0},        {IDC_SAVE, 100, 33, 0, 0},       {IDC_CHOSEN_LABEL, 0, 33, 0, 0},
     {IDC_CHOSEN, 0, 33, 20, 67},       {IDC_REMOVE, 0, 100, 0, 0},      {IDC_SUMMARY_LABEL, 20, 33, 40, 0},
@@ -31,7 +25,7 @@ constexpr Anchor anchors[] = {
 constexpr struct {
     int control;
     unsigned text;
-} captions[] = {
+} Captions[] = {
     {IDC_DEVICES_LABEL, IDS_DEVICES_LABEL}, {IDC_OPTIONS, IDS_BUTTON_OPTIONS},
     {IDC_SELECT, IDS_BUTTON_SELECT},        {IDC_SAVE, IDS_BUTTON_SAVE},
     {IDC_REMOVE, IDS_BUTTON_REMOVE},        {IDC_SUMMARY_LABEL, IDS_SUMMARY_LABEL},
@@ -40,17 +34,8 @@ constexpr struct {
 
 }  // namespace
 
-const MainWindow::CommandRow MainWindow::commands[] = {
-    {IDC_OPTIONS, &MainWindow::OpenOptions, &MainWindow::HasCallbacks},
-    {IDC_SELECT, &MainWindow::SelectVariables, &MainWindow::HasCallbacks},
-    {IDC_REMOVE, &MainWindow::RemoveVariables, &MainWindow::HasMarkedVariables},
-    {IDC_SAVE, &MainWindow::Save, &MainWindow::IsDirty},
-    {IDC_EXIT, &MainWindow::Close, &MainWindow::Always},
-};
-
 BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_WM_CLOSE()
-    ON_WM_DESTROY()
     ON_WM_GETMINMAXINFO()
     ON_WM_SIZE()
     ON_COMMAND_RANGE(IDC_OPTIONS, IDC_EXIT, &MainWindow::OnMenuCommand)
@@ -66,26 +51,37 @@ bool MainWindow::Create()
     if (!CDialog::Create(IDD_MAIN))
         return false;
     // Windows frees the table with the program.
-    m_accelerators = ::LoadAcceleratorsW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDA_MAIN));
+    m_hAccelerators = ::LoadAcceleratorsW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDA_MAIN));
     ShowWindow(SW_SHOW);
     return true;
 }
 
+void MainWindow::DoDataExchange(CDataExchange* pDX)
+{
+    CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_DEVICES, m_lstDevices);
+    DDX_Control(pDX, IDC_CHOSEN, m_lstChosen);
+    DDX_Control(pDX, IDC_SUMMARY, m_lstSummary);
+}
+
 BOOL MainWindow::OnInitDialog()
 {
-    CDialog::OnInitDialog();
+    if (!CDialog::OnInitDialog())
+        return FALSE;
     AddMenu();
-    SetProgramIcon(m_hWnd);
+    SetProgramIcon(*this);
     SetTexts();
-    m_pane.CreateInPlaceOf(*this, IDC_PANE);
-    m_layout.Capture(m_hWnd, anchors);
-    m_chosen.Attach(::GetDlgItem(m_hWnd, IDC_CHOSEN), ::GetDlgItem(m_hWnd, IDC_CHOSEN_LABEL));
-    m_summary.Attach(::GetDlgItem(m_hWnd, IDC_SUMMARY));
-    m_devices.Fill(::GetDlgItem(m_hWnd, IDC_DEVICES), m_project, m_modules);
-    m_devices.Select(0);
+    if (!m_pane.CreateInPlaceOf(*this, IDC_PANE)) {
+        EndDialog(-1);
+        return FALSE;
+    }
+    m_layout.Capture(*this, Anchors);
+    m_lstSummary.SetUp();
+    m_lstDevices.Fill(m_project, m_modules);
+    m_lstDevices.Select(0);
     ShowDevice();
     ShowModules();
-    GotoDlgCtrl(GetDlgItem(IDC_DEVICES));
+    GotoDlgCtrl(&m_lstDevices);
     return FALSE;  // the focus is where it should be
 }
 
@@ -96,7 +92,10 @@ void MainWindow::AddMenu()
     CRect after;
     CRect window;
     GetClientRect(&before);
-    ::SetMenu(m_hWnd, LoadEditorMenu(IDM_MAIN));
+    CMenu menu;
+    menu.Attach(LoadEditorMenu(IDM_MAIN));
+    SetMenu(&menu);
+    menu.Detach();  // the window destroys it
     GetClientRect(&after);
     GetWindowRect(&window);
     SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + before.Height() - after.Height(),
@@ -105,13 +104,13 @@ void MainWindow::AddMenu()
 
 void MainWindow::SetTexts()
 {
-    for (const auto& caption : captions)
+    for (const auto& caption : Captions)
         SetDlgItemText(caption.control, EditorText(caption.text).c_str());
 }
 
 const Device* MainWindow::SelectedDevice() const
 {
-    const int row = m_devices.Selected();
+    const int row = m_lstDevices.Selected();
     return row < 0 ? nullptr : &m_project.Devices()[static_cast<std::size_t>(row)];
 }
 
@@ -124,7 +123,7 @@ const KZDriverCallbacks* MainWindow::SelectedCallbacks() const
 void MainWindow::ShowDevice()
 {
     const Device* device = SelectedDevice();
-    m_shownRow = m_devices.Selected();
+    m_nShownRow = m_lstDevices.Selected();
     ShowChosenVariables();
     ShowSummary();
     SetDlgItemText(IDC_PANE_LABEL, device ? FormatEditorText(IDS_PANE_LABEL, device->driver->Name().c_str()).c_str()
@@ -142,157 +141,46 @@ void MainWindow::ShowDevice()
 
 void MainWindow::ShowModules()
 {
-    constexpr std::size_t visibleLines = 2;
+    constexpr std::size_t VisibleLines = 2;
     SetDlgItemText(IDC_MODULES, ModuleSummary(m_modules).c_str());
-    ::ShowScrollBar(::GetDlgItem(m_hWnd, IDC_MODULES), SB_VERT, m_modules.Modules().size() > visibleLines);
+    GetDlgItem(IDC_MODULES)->ShowScrollBar(SB_VERT, m_modules.Modules().size() > VisibleLines);
 }
 
 void MainWindow::ShowChosenVariables()
 {
     const Device* device = SelectedDevice();
-    m_chosen.Show(device ? ChosenVariables(*KZMainCfg::Get(), *device->driver) : VariableList{});
+    const VariableList chosen = device ? ChosenVariables(*KZMainCfg::Get(), *device->driver) : VariableList{};
+    m_lstChosen.Show(chosen);
+    SetDlgItemText(IDC_CHOSEN_LABEL, FormatEditorText(IDS_CHOSEN_LABEL, static_cast<int>(chosen.size())).c_str());
 }
 
 void MainWindow::ShowSummary()
 {
     const Device* device = SelectedDevice();
-    m_summary.Show(device ? DeviceSummary(*KZMainCfg::Get(), *device->driver) : SummaryRows{});
+    m_lstSummary.Show(device ? DeviceSummary(*KZMainCfg::Get(), *device->driver) : SummaryRows{});
 }
 
 void MainWindow::ShowState()
 {
     const unsigned title = IsDirty() ? IDS_TITLE_DIRTY : IDS_TITLE;
     SetWindowText(FormatEditorText(title, m_project.Name().c_str()).c_str());
-    const HMENU menu = ::GetMenu(m_hWnd);
-    for (const CommandRow& command : commands) {
-        const bool enabled = (this->*command.enabled)();
-        ::EnableMenuItem(menu, static_cast<UINT>(command.id), enabled ? MF_ENABLED : MF_GRAYED);
-        const HWND button = ::GetDlgItem(m_hWnd, command.id);
-        if (!button)
-            continue;
-        // A window that is disabled while it has the focus would swallow the keyboard.
-        if (!enabled && ::GetFocus() == button)
-            ::SetFocus(::GetDlgItem(m_hWnd, IDC_DEVICES));
-        ::EnableWindow(button, enabled);
-    }
-}
-
-bool MainWindow::HasCallbacks() const
-{
-    return SelectedCallbacks() != nullptr;
-}
-
-bool MainWindow::HasMarkedVariables() const
-{
-    return m_chosen.HasMarked();
-}
-
-bool MainWindow::IsDirty() const
-{
-    return m_project.IsDirty();
-}
-
-bool MainWindow::Always() const
-{
-    return true;
-}
-
-void MainWindow::OpenOptions()
-{
-    const KZDriverCallbacks* callbacks = SelectedCallbacks();
-    callbacks->options(this, SelectedDevice()->driver.get());
-    ShowSummary();
-    ShowState();
-}
-
-void MainWindow::SelectVariables()
-{
-    KZDriver* driver = SelectedDevice()->driver.get();
-    const VariableList earlier = ChosenVariables(*KZMainCfg::Get(), *driver);
-    VariableList variables = earlier;
-    if (SelectedCallbacks()->selectVariables(this, driver, variables, measuredGroups, 0, nullptr))
-        StoreChosenVariables(*KZMainCfg::Get(), *driver, MergeChoices(earlier, variables));
-    ShowChosenVariables();
-    ShowState();
-}
-
-void MainWindow::RemoveVariables()
-{
-    const KZDriver& driver = *SelectedDevice()->driver;
-    const VariableList chosen = ChosenVariables(*KZMainCfg::Get(), driver);
-    StoreChosenVariables(*KZMainCfg::Get(), driver, m_chosen.Unmarked(chosen));
-    ShowChosenVariables();
-    ShowState();
-}
-
-bool MainWindow::SaveOrSayWhy()
-{
-    const KZDocumentResult saved = m_project.Save();
-    if (!saved)
-        AfxMessageBox(FormatEditorText(IDS_SAVE_FAILED, saved.message.c_str()).c_str(), MB_OK | MB_ICONERROR);
-    ShowState();
-    return saved.ok;
-}
-
-void MainWindow::Save()
-{
-    SaveOrSayWhy();
-}
-
-bool MainWindow::MayClose()
-{
-    if (!IsDirty())
-        return true;
-    const std::wstring question = FormatEditorText(IDS_ASK_SAVE, m_project.Name().c_str());
-    switch (AfxMessageBox(question.c_str(), MB_YESNOCANCEL | MB_ICONQUESTION)) {
-    case IDYES:
-        return SaveOrSayWhy();
-    case IDNO:
-        return true;
-    default:
-        return false;
-    }
-}
-
-void MainWindow::Close()
-{
-    if (MayClose())
-        DestroyWindow();
-}
-
-void MainWindow::OnClose()
-{
-    Close();
-}
-
-void MainWindow::OnDestroy()
-{
-    CDialog::OnDestroy();
-    ::PostQuitMessage(0);
+    ShowCommands();
 }
 
 void MainWindow::OnSize(UINT type, int cx, int cy)
 {
     CDialog::OnSize(type, cx, cy);
     m_layout.Apply();
-    m_devices.FitColumns();
-    m_summary.FitColumns();
+    m_lstDevices.FitColumns();
+    m_lstSummary.FitColumns();
 }
 
 void MainWindow::OnGetMinMaxInfo(MINMAXINFO* information)
 {
-    const SIZE smallest = m_layout.MinimumWindowSize();
+    const CSize smallest = m_layout.MinimumWindowSize();
     information->ptMinTrackSize = {smallest.cx, smallest.cy};
     // Windows cuts a new window to the screen, and its controls with it; one that sticks out can at least be moved.
     information->ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
-}
-
-void MainWindow::OnMenuCommand(UINT id)
-{
-    for (const CommandRow& command : commands) {
-        if (static_cast<UINT>(command.id) == id && (this->*command.enabled)())
-            (this->*command.run)();
-    }
 }
 
 void MainWindow::OnMarkVariable()
@@ -303,7 +191,7 @@ void MainWindow::OnMarkVariable()
 void MainWindow::OnSelectDevice(NMHDR*, LRESULT* result)
 {
     *result = 0;
-    if (m_devices.Selected() != m_shownRow)
+    if (m_lstDevices.Selected() != m_nShownRow)
         ShowDevice();
 }
 
@@ -315,12 +203,12 @@ void MainWindow::OnDoubleClickDevice(NMHDR*, LRESULT* result)
 
 LRESULT MainWindow::OnListKey(WPARAM wParam, LPARAM)
 {
-    constexpr LRESULT keyIsDone = -2;
-    constexpr LRESULT listHandlesKey = -1;
+    constexpr LRESULT KeyIsDone = -2;
+    constexpr LRESULT ListHandlesKey = -1;
     if (LOWORD(wParam) != VK_DELETE)
-        return listHandlesKey;
+        return ListHandlesKey;
     OnMenuCommand(IDC_REMOVE);
-    return keyIsDone;
+    return KeyIsDone;
 }
 
 LRESULT MainWindow::OnOptionsChanged(WPARAM, LPARAM)
@@ -330,24 +218,7 @@ LRESULT MainWindow::OnOptionsChanged(WPARAM, LPARAM)
     return 0;
 }
 
-bool MainWindow::TranslateShortcut(MSG* message)
-{
-    const bool isOurs = message->hwnd == m_hWnd || ::IsChild(m_hWnd, message->hwnd);
-    return isOurs && ::IsWindowEnabled(m_hWnd) && ::TranslateAcceleratorW(m_hWnd, m_accelerators, message) != 0;
-}
-
 BOOL MainWindow::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    return RouteEmbeddedCommand(m_hWnd, wParam) || CDialog::OnCommand(wParam, lParam);
-}
-
-LRESULT MainWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    // Nothing may be thrown through the system's code that called.
-    try {
-        return CDialog::WindowProc(message, wParam, lParam);
-    } catch (const std::exception& error) {
-        MessageBox(FromUtf8(error.what()).c_str(), EditorText(IDS_PROGRAM_NAME).c_str(), MB_OK | MB_ICONERROR);
-        return 0;
-    }
+    return RouteEmbeddedCommand(*this, wParam, lParam) || CDialog::OnCommand(wParam, lParam);
 }

@@ -15,7 +15,7 @@ public:
     // Both must outlive the window.
     MainWindow(Project& project, const ModuleLoader& modules) noexcept : m_project(project), m_modules(modules) {}
 
-    // Creates and shows the window, whose end ends the program's message loop. Returns false when it cannot be created.
+    // Creates and shows the window. Returns false when it cannot be created.
     bool Create();
 
     // Runs the command of a shortcut that was pressed in this window or in what it embeds. Returns false for any other
@@ -24,13 +24,12 @@ public:
 
 protected:
     BOOL OnInitDialog() override;
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnOK() override {}
     void OnCancel() override {}  // Escape closes dialogs, not the program
 
     afx_msg void OnClose();
-    afx_msg void OnDestroy();
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* information);
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnMenuCommand(UINT id);
@@ -49,8 +48,9 @@ private:
         void (MainWindow::*run)();
         bool (MainWindow::*enabled)() const;
     };
-    static const CommandRow commands[];
+    static const CommandRow Commands[];
 
+    // MainWindowCommands.cpp
     void OpenOptions();
     void SelectVariables();
     void RemoveVariables();
@@ -63,6 +63,7 @@ private:
 
     bool SaveOrSayWhy();
     bool MayClose();
+    void ShowCommands();
 
     void AddMenu();
     void SetTexts();
@@ -77,10 +78,10 @@ private:
     Project& m_project;
     const ModuleLoader& m_modules;
     AnchoredControls m_layout;
-    DeviceListView m_devices;
-    ChosenListBox m_chosen;
-    SummaryView m_summary;
+    DeviceListView m_lstDevices;
+    ChosenListBox m_lstChosen;
+    SummaryView m_lstSummary;
     ChildPane m_pane;
-    HACCEL m_accelerators = nullptr;
-    int m_shownRow = -1;
+    HACCEL m_hAccelerators = nullptr;
+    int m_nShownRow = -1;
 };

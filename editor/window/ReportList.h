@@ -1,9 +1,8 @@
 // A list control in report view, filled by rows and columns.
 #pragma once
 
-#include <windows.h>
+#include <afxcmn.h>
 
-#include <cstddef>
 #include <span>
 
 // Width in dialog units of the list's parent.
@@ -12,29 +11,26 @@ struct ReportColumn {
     int width;
 };
 
-class ReportList {
+class ReportList : public CListCtrl {
 public:
-    // Takes the list control of a dialog and gives it its columns, which must live as long as this object. The column
-    // at the stretching index takes what the others leave of the list's width.
-    void Attach(HWND list, std::span<const ReportColumn> columns, int stretching);
-
-    // Makes the list have that many rows; new ones are empty. The others keep their texts and the list its place.
-    void SetRowCount(int count) noexcept;
-    void SetCell(int row, int column, const wchar_t* text) noexcept;
-
-    // Makes a column as wide as its texts, but no narrower than its own width.
-    void FitToTexts(int column) noexcept;
+    // Gives the list its columns, which must live as long as this object. The column at the stretching index takes what
+    // the others leave of the list's width.
+    void SetColumns(std::span<const ReportColumn> columns, int stretching);
 
     // Fits the stretching column to the list's present width. It never gets narrower than its own width and, when it is
     // the last one, than its texts.
-    void FitColumns() noexcept;
+    void FitColumns();
 
-    [[nodiscard]] HWND Window() const noexcept { return m_list; }
+protected:
+    // Makes the list have that many rows; new ones are empty. The others keep their texts and the list its place.
+    void SetRowCount(int count);
+
+    // Makes a column as wide as its texts, but no narrower than its own width.
+    void FitToTexts(int column);
 
 private:
-    [[nodiscard]] int PixelsOf(int dialogUnits) const noexcept;
+    [[nodiscard]] int OwnWidth(int column) const;
 
-    HWND m_list = nullptr;
     std::span<const ReportColumn> m_columns;
-    int m_stretching = 0;
+    int m_nStretching = 0;
 };

@@ -4,16 +4,11 @@
 #include "ReportList.h"
 #include "summary/SummaryRow.h"
 
-class SummaryView {
+class SummaryView : public ReportList {
 public:
-    // Takes the list control of a dialog and gives it its columns.
-    void Attach(HWND list);
+    // Gives the list its columns.
+    void SetUp();
 
     // Shows the rows. A section is named at its first row only.
     void Show(const SummaryRows& rows);
-
-    void FitColumns() noexcept { m_list.FitColumns(); }
-
-private:
-    ReportList m_list;
 };

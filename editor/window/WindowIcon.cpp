@@ -2,14 +2,13 @@
 
 #include "resources/EditorIds.h"
 
-void SetProgramIcon(HWND window) noexcept
+void SetProgramIcon(CWnd& window)
 {
     const auto load = [](int width, int height) {
         // Shared: Windows frees it with the program.
-        return reinterpret_cast<LPARAM>(::LoadImageW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_PROGRAM),
-                                                     IMAGE_ICON, ::GetSystemMetrics(width), ::GetSystemMetrics(height),
-                                                     LR_SHARED));
+        return static_cast<HICON>(::LoadImageW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_PROGRAM), IMAGE_ICON,
+                                               ::GetSystemMetrics(width), ::GetSystemMetrics(height), LR_SHARED));
     };
-    ::SendMessageW(window, WM_SETICON, ICON_BIG, load(SM_CXICON, SM_CYICON));
-    ::SendMessageW(window, WM_SETICON, ICON_SMALL, load(SM_CXSMICON, SM_CYSMICON));
+    window.SetIcon(load(SM_CXICON, SM_CYICON), TRUE);
+    window.SetIcon(load(SM_CXSMICON, SM_CYSMICON), FALSE);
 }

@@ -1,6 +1,6 @@
 // The program's icon on a window, in the sizes that Windows wants for the caption and the task switcher.
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
 
-void SetProgramIcon(HWND window) noexcept;
+void SetProgramIcon(CWnd& window);

@@ -78,6 +78,7 @@ public:
     [[nodiscard]] BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     [[nodiscard]] BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
+    void ShowScrollBar(UINT nBar, BOOL bShow = TRUE) { ::ShowScrollBar(m_hWnd, static_cast<int>(nBar), bShow); }
     [[nodiscard]] BOOL IsIconic() const { return ::IsIconic(m_hWnd); }
     [[nodiscard]] BOOL IsZoomed() const { return ::IsZoomed(m_hWnd); }
 

@@ -37,8 +37,9 @@ public:
             Release(slot);
             temporary = new Wanted;
             slot.reset(temporary);
-            temporary->*Handle = handle;
         }
+        // Again: one that has destroyed what it stood for has let go of the number.
+        temporary->*Handle = handle;
         return temporary;
     }
 

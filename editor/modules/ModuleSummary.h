@@ -1,9 +1,9 @@
-// The states of all modules as the main window shows them.
+// The states of all modules in words.
 #pragma once
 
 #include <string>
 
-#include "modules/ModuleLoader.h"
+#include "ModuleLoader.h"
 
 // One line for each module, with reason and remedy for those that are not ready; one line when there is no module.
 [[nodiscard]] std::wstring ModuleSummary(const ModuleLoader& modules);
