@@ -2,7 +2,7 @@
 //
 // Differences from MFC: one CWinThread exists, the application's; no documents, command line parsing, profiles or help.
 // Should a program make a second CWinApp, it takes the first one's place until it is destroyed.
-// A program calls AfxWinMain, or AfxWinInit and what it needs of the object. m_pMainWnd is set by the program.
+// A program calls AfxWinInit, sets m_pMainWnd and calls Run.
 #pragma once
 
 #include "afxwnd_.h"
@@ -14,9 +14,7 @@ public:
     CWnd* m_pMainWnd = nullptr;
     DWORD m_nThreadID = ::GetCurrentThreadId();
 
-    virtual BOOL InitInstance();  // FALSE ends the program
-    virtual int Run();            // the main message loop
-    virtual int ExitInstance();
+    virtual int Run();  // the main message loop; returns what the program was asked to end with
     virtual BOOL PreTranslateMessage(MSG* pMsg);
     virtual BOOL PumpMessage();
     // Called while the queue is empty, with a count from 0; returns TRUE to be called again. Deletes temporary objects.
@@ -40,14 +38,7 @@ public:
     explicit CWinApp(LPCWSTR lpszAppName = nullptr) noexcept;
     ~CWinApp() override;
 
-    HINSTANCE m_hInstance = nullptr;
-    LPWSTR m_lpCmdLine = nullptr;
-    int m_nCmdShow = SW_SHOWDEFAULT;
     LPCWSTR m_pszAppName;
-
-    virtual int DoMessageBox(LPCWSTR lpszPrompt, UINT nType, UINT nIDPrompt);
-    [[nodiscard]] HICON LoadIcon(UINT nIDResource) const;
-    [[nodiscard]] HCURSOR LoadCursor(UINT nIDResource) const;
 
 private:
     CWinApp* m_pEarlier;
@@ -60,11 +51,8 @@ private:
 [[nodiscard]] KZMFC_API LPCWSTR AFXAPI AfxGetAppName() noexcept;
 
 KZMFC_API BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPWSTR lpCmdLine, int nCmdShow);
-KZMFC_API int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPWSTR lpCmdLine, int nCmdShow);
 KZMFC_API BOOL AFXAPI AfxPumpMessage();
-KZMFC_API void AFXAPI AfxPostQuitMessage(int nExitCode) noexcept;
 
 // A message box owned by the last active popup of the application, whose top-level window is disabled meanwhile. A box
 // without an icon in nType gets the exclamation mark, unless it offers to retry. Returns the button.
 KZMFC_API int AFXAPI AfxMessageBox(LPCWSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
-KZMFC_API int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = static_cast<UINT>(-1));

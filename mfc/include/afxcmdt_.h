@@ -57,27 +57,11 @@ public:
     // Returns TRUE when a handler was found and did not ask to go on.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
-    void BeginWaitCursor();
-    void EndWaitCursor();
-    void RestoreWaitCursor();
-
 protected:
     CCmdTarget() noexcept = default;
 
     virtual const AFX_MSGMAP* GetMessageMap() const;
     static const AFX_MSGMAP* PASCAL GetThisMessageMap();
-};
-
-// Shows the hour-glass for the length of a scope.
-class KZMFC_API CWaitCursor {
-public:
-    CWaitCursor() noexcept : m_old(::SetCursor(::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT)))) {}
-    ~CWaitCursor() { ::SetCursor(m_old); }
-    CWaitCursor(const CWaitCursor&) = delete;
-    CWaitCursor& operator=(const CWaitCursor&) = delete;
-
-private:
-    HCURSOR m_old;
 };
 
 #define DECLARE_MESSAGE_MAP()                                                                                          \

@@ -15,7 +15,6 @@ public:
     HIMAGELIST m_hImageList = nullptr;
 
     static CImageList* PASCAL FromHandle(HIMAGELIST hImageList);
-    static void PASCAL DeleteTempMap();
 
     operator HIMAGELIST() const noexcept { return m_hImageList; }
     [[nodiscard]] HIMAGELIST GetSafeHandle() const noexcept { return m_hImageList; }
@@ -25,35 +24,23 @@ public:
 
     BOOL Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow);
     [[nodiscard]] int GetImageCount() const { return ::ImageList_GetImageCount(m_hImageList); }
-    // Each returns the index of the (first) new image, or -1. The bitmap is copied.
-    int Add(CBitmap* pbmImage, CBitmap* pbmMask);
-    int Add(CBitmap* pbmImage, COLORREF crMask);
-    int Add(HICON hIcon) { return ::ImageList_ReplaceIcon(m_hImageList, -1, hIcon); }
-    BOOL Remove(int nImage) { return ::ImageList_Remove(m_hImageList, nImage); }
+    // Returns the index of the (first) new image, or -1. The bitmap is copied; its pixels of that colour are left out.
+    int Add(CBitmap* pbmImage, COLORREF crMask) { return ::ImageList_AddMasked(m_hImageList, *pbmImage, crMask); }
 };
 
 class KZMFC_API CTabCtrl : public CWnd {
     DECLARE_DYNAMIC(CTabCtrl)
 
 public:
-    using CWnd::Create;
-    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
-
-    [[nodiscard]] CImageList* GetImageList() const;
     // The tab control does not own the list. Returns the one it had before.
     CImageList* SetImageList(CImageList* pImageList);
     [[nodiscard]] int GetItemCount() const { return static_cast<int>(SendMessage(TCM_GETITEMCOUNT)); }
-    BOOL GetItem(int nItem, TCITEMW* pTabCtrlItem) const;
-    BOOL SetItem(int nItem, TCITEMW* pTabCtrlItem);
     BOOL GetItemRect(int nItem, LPRECT lpRect) const;
     [[nodiscard]] int GetCurSel() const { return static_cast<int>(SendMessage(TCM_GETCURSEL)); }
     // Sends no TCN_SELCHANGE.
     int SetCurSel(int nItem) { return static_cast<int>(SendMessage(TCM_SETCURSEL, static_cast<WPARAM>(nItem))); }
-    LONG InsertItem(int nItem, TCITEMW* pTabCtrlItem);
-    LONG InsertItem(int nItem, LPCWSTR lpszItem);
     LONG InsertItem(int nItem, LPCWSTR lpszItem, int nImage);
     BOOL DeleteItem(int nItem) { return static_cast<BOOL>(SendMessage(TCM_DELETEITEM, static_cast<WPARAM>(nItem))); }
-    BOOL DeleteAllItems() { return static_cast<BOOL>(SendMessage(TCM_DELETEALLITEMS)); }
     // TRUE: the window rectangle for a display area; FALSE: the display area of a window rectangle.
     void AdjustRect(BOOL bLarger, LPRECT lpRect) const
     {
@@ -65,9 +52,6 @@ class KZMFC_API CListCtrl : public CWnd {
     DECLARE_DYNAMIC(CListCtrl)
 
 public:
-    using CWnd::Create;
-    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
-
     DWORD SetExtendedStyle(DWORD dwNewStyle)
     {
         return static_cast<DWORD>(SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, static_cast<LPARAM>(dwNewStyle)));
@@ -86,16 +70,8 @@ public:
     [[nodiscard]] int GetItemCount() const { return static_cast<int>(SendMessage(LVM_GETITEMCOUNT)); }
     int InsertItem(int nItem, LPCWSTR lpszItem);
     BOOL DeleteItem(int nItem) { return static_cast<BOOL>(SendMessage(LVM_DELETEITEM, static_cast<WPARAM>(nItem))); }
-    BOOL DeleteAllItems() { return static_cast<BOOL>(SendMessage(LVM_DELETEALLITEMS)); }
     BOOL SetItemText(int nItem, int nSubItem, LPCWSTR lpszText);
-    [[nodiscard]] CString GetItemText(int nItem, int nSubItem) const;
     BOOL SetItemState(int nItem, UINT nState, UINT nMask);
-    [[nodiscard]] UINT GetItemState(int nItem, UINT nMask) const
-    {
-        return static_cast<UINT>(SendMessage(LVM_GETITEMSTATE, static_cast<WPARAM>(nItem), nMask));
-    }
-    BOOL SetItemData(int nItem, DWORD_PTR dwData);
-    [[nodiscard]] DWORD_PTR GetItemData(int nItem) const;
     // The next item after nItem (-1: from the start) that has the LVNI_ flags, or -1.
     [[nodiscard]] int GetNextItem(int nItem, int nFlags) const
     {

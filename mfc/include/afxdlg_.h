@@ -26,17 +26,12 @@ public:
     virtual BOOL CreateIndirect(LPCDLGTEMPLATEW lpDialogTemplate, CWnd* pParentWnd = nullptr,
                                 void* lpDialogInit = nullptr, HINSTANCE hInst = nullptr);
 
-    // A template in memory for DoModal; it must live until that returns.
-    BOOL InitModalIndirect(LPCDLGTEMPLATEW lpDialogTemplate, CWnd* pParentWnd = nullptr, void* lpDialogInit = nullptr);
     // Runs the dialog. Returns what EndDialog was given, or -1 when the dialog could not be made.
     virtual INT_PTR DoModal();
     void EndDialog(int nResult);
 
     void NextDlgCtrl() const { ::SendMessageW(m_hWnd, WM_NEXTDLGCTL, 0, 0); }
-    void PrevDlgCtrl() const { ::SendMessageW(m_hWnd, WM_NEXTDLGCTL, 1, 0); }
     void GotoDlgCtrl(CWnd* pWndCtrl);
-    void SetDefID(UINT nID) { ::SendMessageW(m_hWnd, DM_SETDEFID, nID, 0); }
-    [[nodiscard]] DWORD GetDefID() const { return static_cast<DWORD>(::SendMessageW(m_hWnd, DM_GETDEFID, 0, 0)); }
     void MapDialogRect(LPRECT lpRect) const { ::MapDialogRect(m_hWnd, lpRect); }
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -64,6 +59,4 @@ private:
     HWND PreModal();
     void PostModal();
     void RunDialog(LPCDLGTEMPLATEW lpDialogTemplate, HWND hWndParent, HINSTANCE hInst);
-
-    friend struct AfxDialogAccess;  // the dialog procedure
 };

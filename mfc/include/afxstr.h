@@ -9,7 +9,6 @@ class KZMFC_API CString {
 public:
     CString() noexcept = default;
     CString(LPCWSTR psz) : m_text(psz ? psz : L"") {}
-    CString(LPCWSTR pch, int nLength) : m_text(pch, static_cast<std::size_t>(nLength)) {}
 
     CString& operator=(LPCWSTR psz)
     {
@@ -22,14 +21,10 @@ public:
     [[nodiscard]] int GetLength() const noexcept { return static_cast<int>(m_text.size()); }
     [[nodiscard]] BOOL IsEmpty() const noexcept { return m_text.empty(); }
     void Empty() noexcept { m_text.clear(); }
-    [[nodiscard]] wchar_t GetAt(int iChar) const { return m_text.at(static_cast<std::size_t>(iChar)); }
 
     [[nodiscard]] int Compare(LPCWSTR psz) const noexcept { return m_text.compare(psz); }
     // The first position of the text at or after iStart, or -1.
     [[nodiscard]] int Find(LPCWSTR pszSub, int iStart = 0) const noexcept;
-    [[nodiscard]] CString Left(int nCount) const { return Mid(0, nCount); }
-    [[nodiscard]] CString Right(int nCount) const;
-    [[nodiscard]] CString Mid(int iFirst, int nCount) const;
 
     // Gives write access to at least nMinBufferLength characters, until ReleaseBuffer.
     LPWSTR GetBuffer(int nMinBufferLength);
@@ -38,8 +33,6 @@ public:
 
     // Formats as swprintf does; %s is const wchar_t*.
     void AFX_CDECL Format(LPCWSTR pszFormat, ...);
-    // Loads a string resource along the resource chain. Returns FALSE, leaving the text as it was, when there is none.
-    BOOL LoadString(UINT nID);
 
     CString& operator+=(LPCWSTR psz)
     {

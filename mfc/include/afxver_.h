@@ -3,7 +3,6 @@
 
 #define AFX_CDECL __cdecl
 #define AFXAPI __stdcall
-#define AFX_MSG_CALL
 #define afx_msg
 
 // An extension library marks what it exports with these; its users, which do not define _AFXEXT, import it.
@@ -11,15 +10,9 @@
 #define AFX_CLASS_IMPORT __declspec(dllimport)
 #ifdef _AFXEXT
 #define AFX_EXT_CLASS AFX_CLASS_EXPORT
-#define AFX_EXT_API AFX_CLASS_EXPORT
-#define AFX_EXT_DATA AFX_CLASS_EXPORT
 #else
 #define AFX_EXT_CLASS AFX_CLASS_IMPORT
-#define AFX_EXT_API AFX_CLASS_IMPORT
-#define AFX_EXT_DATA AFX_CLASS_IMPORT
 #endif
-#define AFX_DATA
-#define AFX_API
 
 // The subset's own library; users of MFC never write this one.
 #ifdef KZMFC_EXPORTS

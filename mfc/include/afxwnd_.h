@@ -19,18 +19,13 @@ class CWnd;
 #define MLF_SHOWONIDLE 0x0004  // show the window when the message queue is empty for the first time
 
 class KZMFC_API CWnd : public CCmdTarget {
-    DECLARE_DYNCREATE(CWnd)
+    DECLARE_DYNAMIC(CWnd)
 
 public:
     CWnd() noexcept = default;
     ~CWnd() override;  // destroys the window it still has
 
     HWND m_hWnd = nullptr;
-
-    static const CWnd wndTop;
-    static const CWnd wndBottom;
-    static const CWnd wndTopMost;
-    static const CWnd wndNoTopMost;
 
     // -- Handles and objects
 
@@ -39,7 +34,6 @@ public:
     static CWnd* PASCAL FromHandle(HWND hWnd);
     // The attached object, or null.
     static CWnd* PASCAL FromHandlePermanent(HWND hWnd) noexcept;
-    static void PASCAL DeleteTempMap();
 
     operator HWND() const noexcept { return m_hWnd; }
     BOOL operator==(const CWnd& wnd) const noexcept { return m_hWnd == wnd.m_hWnd; }
@@ -51,8 +45,6 @@ public:
     // Attaches a window that exists and routes its messages through this object.
     BOOL SubclassWindow(HWND hWnd);
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
-    // Undoes SubclassWindow. Returns the window.
-    HWND UnsubclassWindow();
     // Called by SubclassWindow and creation, before the first message is routed.
     virtual void PreSubclassWindow();
 
@@ -70,17 +62,13 @@ public:
     // -- State
 
     [[nodiscard]] DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongPtrW(m_hWnd, GWL_STYLE)); }
-    [[nodiscard]] DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongPtrW(m_hWnd, GWL_EXSTYLE)); }
     BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
-    BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
 
     BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
     [[nodiscard]] BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     [[nodiscard]] BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
     void ShowScrollBar(UINT nBar, BOOL bShow = TRUE) { ::ShowScrollBar(m_hWnd, static_cast<int>(nBar), bShow); }
-    [[nodiscard]] BOOL IsIconic() const { return ::IsIconic(m_hWnd); }
-    [[nodiscard]] BOOL IsZoomed() const { return ::IsZoomed(m_hWnd); }
 
     void SetWindowText(LPCWSTR lpszString) { ::SetWindowTextW(m_hWnd, lpszString); }
     int GetWindowText(LPWSTR lpszStringBuf, int nMaxCount) const
@@ -93,27 +81,14 @@ public:
     void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
     [[nodiscard]] CFont* GetFont() const;
     HICON SetIcon(HICON hIcon, BOOL bBigIcon);
-    [[nodiscard]] HICON GetIcon(BOOL bBigIcon) const;
     [[nodiscard]] CMenu* GetMenu() const { return CMenu::FromHandle(::GetMenu(m_hWnd)); }
     BOOL SetMenu(CMenu* pMenu) { return ::SetMenu(m_hWnd, pMenu ? pMenu->m_hMenu : nullptr); }
-    void DrawMenuBar() { ::DrawMenuBar(m_hWnd); }
 
-    // -- Focus, activation, mouse, timers
+    // -- Focus and activation
 
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
     static CWnd* PASCAL GetFocus() { return FromHandle(::GetFocus()); }
-    CWnd* SetActiveWindow() { return FromHandle(::SetActiveWindow(m_hWnd)); }
     static CWnd* PASCAL GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
-    BOOL SetForegroundWindow() { return ::SetForegroundWindow(m_hWnd); }
-    static CWnd* PASCAL GetForegroundWindow() { return FromHandle(::GetForegroundWindow()); }
-    static CWnd* PASCAL GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
-    CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
-    static CWnd* PASCAL GetCapture() { return FromHandle(::GetCapture()); }
-    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, TIMERPROC lpfnTimer)
-    {
-        return ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer);
-    }
-    BOOL KillTimer(UINT_PTR nIDEvent) { return ::KillTimer(m_hWnd, nIDEvent); }
 
     // -- Place and size
 
@@ -132,45 +107,28 @@ public:
     void ClientToScreen(LPRECT lpRect) const { ::MapWindowPoints(m_hWnd, nullptr, Corners(lpRect), 2); }
     void ScreenToClient(LPPOINT lpPoint) const { ::ScreenToClient(m_hWnd, lpPoint); }
     void ScreenToClient(LPRECT lpRect) const { ::MapWindowPoints(nullptr, m_hWnd, Corners(lpRect), 2); }
-    void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const
-    {
-        ::MapWindowPoints(m_hWnd, pwndTo ? pwndTo->m_hWnd : nullptr, lpPoint, nCount);
-    }
-    void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const { MapWindowPoints(pwndTo, Corners(lpRect), 2); }
     void BringWindowToTop() { ::BringWindowToTop(m_hWnd); }
     // Centres the window over its owner or parent (or the one given), inside the work area of the owner's monitor.
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
 
     // -- Painting
 
-    CDC* BeginPaint(LPPAINTSTRUCT lpPaint) { return CDC::FromHandle(::BeginPaint(m_hWnd, lpPaint)); }
-    void EndPaint(LPPAINTSTRUCT lpPaint) { ::EndPaint(m_hWnd, lpPaint); }
-    CDC* GetDC() { return CDC::FromHandle(::GetDC(m_hWnd)); }
-    int ReleaseDC(CDC* pDC) { return ::ReleaseDC(m_hWnd, pDC->m_hDC); }
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
     void SetRedraw(BOOL bRedraw = TRUE) { ::SendMessageW(m_hWnd, WM_SETREDRAW, static_cast<WPARAM>(bRedraw), 0); }
     void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
-    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, lpRect, bErase); }
-    void ValidateRect(LPCRECT lpRect) { ::ValidateRect(m_hWnd, lpRect); }
     BOOL RedrawWindow(LPCRECT lpRectUpdate = nullptr, HRGN prgnUpdate = nullptr,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
 
     // -- Relations
 
     [[nodiscard]] CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    CWnd* SetParent(CWnd* pWndNewParent);
     [[nodiscard]] CWnd* GetOwner() const { return GetWindow(GW_OWNER); }
-    [[nodiscard]] CWnd* GetTopLevelParent() const;
     [[nodiscard]] CWnd* GetWindow(UINT nCmd) const { return FromHandle(::GetWindow(m_hWnd, nCmd)); }
-    [[nodiscard]] CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
-    [[nodiscard]] CWnd* GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }
-    [[nodiscard]] BOOL IsChild(const CWnd* pWnd) const { return ::IsChild(m_hWnd, pWnd->m_hWnd); }
     [[nodiscard]] CWnd* GetDlgItem(int nID) const { return FromHandle(::GetDlgItem(m_hWnd, nID)); }
     void GetDlgItem(int nID, HWND* phWnd) const { *phWnd = ::GetDlgItem(m_hWnd, nID); }
     [[nodiscard]] int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     int SetDlgCtrlID(int nID) { return static_cast<int>(::SetWindowLongPtrW(m_hWnd, GWLP_ID, nID)); }
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
-    CWnd* GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
 
     // -- Messages
 
@@ -182,13 +140,6 @@ public:
     {
         return ::PostMessageW(m_hWnd, message, wParam, lParam);
     }
-    LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
-    {
-        return ::SendDlgItemMessageW(m_hWnd, nID, message, wParam, lParam);
-    }
-    // The message being handled in this thread.
-    static const MSG* PASCAL GetCurrentMessage();
-    int MessageBox(LPCWSTR lpszText, LPCWSTR lpszCaption = nullptr, UINT nType = MB_OK);
 
     // -- Controls of a dialog
 
@@ -198,22 +149,10 @@ public:
         return static_cast<int>(::GetDlgItemTextW(m_hWnd, nID, lpStr, nMaxCount));
     }
     int GetDlgItemText(int nID, CString& rString) const;
-    void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE) { ::SetDlgItemInt(m_hWnd, nID, nValue, bSigned); }
-    [[nodiscard]] UINT GetDlgItemInt(int nID, BOOL* lpTrans = nullptr, BOOL bSigned = TRUE) const
-    {
-        return ::GetDlgItemInt(m_hWnd, nID, lpTrans, bSigned);
-    }
-    void CheckDlgButton(int nIDButton, UINT nCheck) { ::CheckDlgButton(m_hWnd, nIDButton, nCheck); }
-    [[nodiscard]] UINT IsDlgButtonChecked(int nIDButton) const { return ::IsDlgButtonChecked(m_hWnd, nIDButton); }
-    void CheckRadioButton(int nIDFirstButton, int nIDLastButton, int nIDCheckButton)
-    {
-        ::CheckRadioButton(m_hWnd, nIDFirstButton, nIDLastButton, nIDCheckButton);
-    }
-    [[nodiscard]] int GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const;
 
     // Moves values between the controls and the members by DoDataExchange: FALSE to the controls, TRUE from them.
-    // Returns FALSE when a validation failed (the user has been told) or an MFC exception was thrown (it is shown).
-    // Notifications of the controls are held back meanwhile. Exceptions of the C++ library pass through.
+    // Returns FALSE when a validation failed (the user has been told), or when an MFC exception was thrown or memory
+    // ran out, which is shown. Notifications of the controls are held back meanwhile.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
 
     // -- Modal state
@@ -247,34 +186,12 @@ protected:
     // Whether a dialog is centred over its owner before it is shown.
     virtual BOOL CheckAutoCenter();
 
-    afx_msg int OnCreate(LPCREATESTRUCTW lpCreateStruct);
     afx_msg void OnDestroy();
     afx_msg void OnNcDestroy();
     afx_msg void OnClose();
-    afx_msg BOOL OnQueryEndSession();
-    afx_msg void OnMove(int x, int y);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
-    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
-    afx_msg void OnSetFocus(CWnd* pOldWnd);
-    afx_msg void OnKillFocus(CWnd* pNewWnd);
-    afx_msg void OnEnable(BOOL bEnable);
-    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
-    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
-    afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos);
-    afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
-    afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
-    afx_msg void OnTimer(UINT_PTR nIDEvent);
-    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
-    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
 
     DECLARE_MESSAGE_MAP()
 
@@ -287,7 +204,6 @@ protected:
     UINT m_nFlags = 0;
 
 private:
-    explicit CWnd(HWND hWnd) noexcept : m_hWnd(hWnd) {}
     static LPPOINT Corners(LPRECT rectangle) noexcept { return reinterpret_cast<LPPOINT>(rectangle); }
     void AttachCreated(HWND hWnd);
 

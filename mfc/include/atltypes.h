@@ -11,7 +11,6 @@ public:
 
     constexpr BOOL operator==(SIZE size) const noexcept { return cx == size.cx && cy == size.cy; }
     constexpr BOOL operator!=(SIZE size) const noexcept { return !(*this == size); }
-    constexpr void SetSize(int newCX, int newCY) noexcept { *this = CSize(newCX, newCY); }
 };
 
 class CPoint : public POINT {
@@ -26,11 +25,6 @@ public:
 
     constexpr BOOL operator==(POINT point) const noexcept { return x == point.x && y == point.y; }
     constexpr BOOL operator!=(POINT point) const noexcept { return !(*this == point); }
-    constexpr void Offset(int xOffset, int yOffset) noexcept
-    {
-        x += xOffset;
-        y += yOffset;
-    }
 };
 
 class CRect : public RECT {
@@ -45,23 +39,12 @@ public:
     [[nodiscard]] constexpr int Height() const noexcept { return bottom - top; }
     [[nodiscard]] constexpr CSize Size() const noexcept { return {Width(), Height()}; }
     [[nodiscard]] constexpr CPoint TopLeft() const noexcept { return {left, top}; }
-    [[nodiscard]] constexpr CPoint BottomRight() const noexcept { return {right, bottom}; }
     [[nodiscard]] constexpr CPoint CenterPoint() const noexcept { return {(left + right) / 2, (top + bottom) / 2}; }
 
     operator LPRECT() noexcept { return this; }
     operator LPCRECT() const noexcept { return this; }
 
     [[nodiscard]] constexpr BOOL IsRectEmpty() const noexcept { return left >= right || top >= bottom; }
-    [[nodiscard]] constexpr BOOL IsRectNull() const noexcept
-    {
-        return left == 0 && top == 0 && right == 0 && bottom == 0;
-    }
-    [[nodiscard]] constexpr BOOL PtInRect(POINT point) const noexcept
-    {
-        return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
-    }
-    constexpr void SetRect(int x1, int y1, int x2, int y2) noexcept { *this = CRect(x1, y1, x2, y2); }
-    constexpr void SetRectEmpty() noexcept { *this = CRect(); }
     constexpr void InflateRect(int x, int y) noexcept { InflateRect(x, y, x, y); }
     constexpr void InflateRect(int l, int t, int r, int b) noexcept
     {

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "ThreadState.h"
+#include "WindowAccess.h"
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
@@ -10,11 +11,18 @@ namespace {
 
 CWinApp* theApplication = nullptr;
 
-bool PreTranslate(MSG& message)
+// Fetches one message and dispatches it, unless the filter swallows it. Returns FALSE for WM_QUIT.
+template <class Filter>
+BOOL Pump(Filter swallows)
 {
-    if (CWinThread* thread = AfxGetThread())
-        return thread->PreTranslateMessage(&message) != FALSE;
-    return CWnd::WalkPreTranslateTree(nullptr, &message) != FALSE;
+    MSG& message = CurrentThread().pumpedMessage;
+    if (::GetMessageW(&message, nullptr, 0, 0) <= 0)
+        return FALSE;
+    if (!swallows(&message)) {
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+    }
+    return TRUE;
 }
 
 }  // namespace
@@ -50,60 +58,18 @@ LPCWSTR AFXAPI AfxGetAppName() noexcept
     return name;
 }
 
-BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPWSTR lpCmdLine, int nCmdShow)
+BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPWSTR, int)
 {
-    AFX_MODULE_STATE* state = AfxGetModuleState();
-    state->m_hCurrentInstanceHandle = hInstance;
-    state->m_hCurrentResourceHandle = hInstance;
-    if (theApplication) {
-        theApplication->m_hInstance = hInstance;
-        theApplication->m_lpCmdLine = lpCmdLine;
-        theApplication->m_nCmdShow = nCmdShow;
+    if (theApplication)
         theApplication->m_nThreadID = ::GetCurrentThreadId();
-    }
     return TRUE;
-}
-
-int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPWSTR lpCmdLine, int nCmdShow)
-{
-    CWinApp* application = AfxGetApp();
-    if (!application || !AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow))
-        return -1;
-    if (!application->InitInstance()) {
-        if (application->m_pMainWnd)
-            application->m_pMainWnd->DestroyWindow();
-        return application->ExitInstance();
-    }
-    return application->Run();
-}
-
-void AFXAPI AfxPostQuitMessage(int nExitCode) noexcept
-{
-    ::PostQuitMessage(nExitCode);
 }
 
 BOOL AFXAPI AfxPumpMessage()
 {
     if (CWinThread* thread = AfxGetThread())
         return thread->PumpMessage();
-    MSG& message = CurrentThread().pumpedMessage;
-    if (::GetMessageW(&message, nullptr, 0, 0) <= 0)
-        return FALSE;
-    if (!PreTranslate(message)) {
-        ::TranslateMessage(&message);
-        ::DispatchMessageW(&message);
-    }
-    return TRUE;
-}
-
-BOOL CWinThread::InitInstance()
-{
-    return FALSE;
-}
-
-int CWinThread::ExitInstance()
-{
-    return static_cast<int>(CurrentThread().pumpedMessage.wParam);
+    return Pump([](MSG* message) { return CWnd::WalkPreTranslateTree(nullptr, message); });
 }
 
 int CWinThread::Run()
@@ -115,7 +81,7 @@ int CWinThread::Run()
         while (idle && !::PeekMessageW(&peeked, nullptr, 0, 0, PM_NOREMOVE))
             idle = OnIdle(idleCount++) != FALSE;
         if (!PumpMessage())
-            return ExitInstance();
+            return static_cast<int>(CurrentThread().pumpedMessage.wParam);
         if (IsIdleMessage(&CurrentThread().pumpedMessage)) {
             idle = true;
             idleCount = 0;
@@ -125,14 +91,7 @@ int CWinThread::Run()
 
 BOOL CWinThread::PumpMessage()
 {
-    MSG& message = CurrentThread().pumpedMessage;
-    if (::GetMessageW(&message, nullptr, 0, 0) <= 0)
-        return FALSE;
-    if (!PreTranslateMessage(&message)) {
-        ::TranslateMessage(&message);
-        ::DispatchMessageW(&message);
-    }
-    return TRUE;
+    return Pump([this](MSG* message) { return PreTranslateMessage(message); });
 }
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
@@ -143,24 +102,19 @@ BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
     if (CWnd::WalkPreTranslateTree(main ? main->m_hWnd : nullptr, pMsg))
         return TRUE;
     // Windows that the main window does not own: its accelerators work there too.
-    const bool elsewhere = main && CWnd::FromHandle(pMsg->hwnd)->GetTopLevelParent() != main;
+    const bool elsewhere = main && TopLevelParent(pMsg->hwnd) != main->m_hWnd;
     return elsewhere && main->PreTranslateMessage(pMsg);
 }
 
 BOOL CWinThread::OnIdle(LONG)
 {
-    CWnd::DeleteTempMap();
-    CMenu::DeleteTempMap();
-    CDC::DeleteTempMap();
-    CGdiObject::DeleteTempMap();
-    CImageList::DeleteTempMap();
+    CurrentThread().DeleteTemporaries();
     return FALSE;
 }
 
 BOOL CWinThread::IsIdleMessage(MSG* pMsg)
 {
-    constexpr UINT CaretTimer = 0x0118;
-    return pMsg->message != WM_PAINT && pMsg->message != CaretTimer && pMsg->message != WM_MOUSEMOVE &&
+    return pMsg->message != WM_PAINT && pMsg->message != WM_SYSTIMER && pMsg->message != WM_MOUSEMOVE &&
            pMsg->message != WM_NCMOUSEMOVE;
 }
 
@@ -196,16 +150,4 @@ CWinApp::~CWinApp()
 {
     if (theApplication == this)
         theApplication = m_pEarlier;
-}
-
-HICON CWinApp::LoadIcon(UINT nIDResource) const
-{
-    const LPCWSTR name = MAKEINTRESOURCEW(nIDResource);
-    return ::LoadIconW(AfxFindResourceHandle(name, reinterpret_cast<LPCWSTR>(RT_GROUP_ICON)), name);
-}
-
-HCURSOR CWinApp::LoadCursor(UINT nIDResource) const
-{
-    const LPCWSTR name = MAKEINTRESOURCEW(nIDResource);
-    return ::LoadCursorW(AfxFindResourceHandle(name, reinterpret_cast<LPCWSTR>(RT_GROUP_CURSOR)), name);
 }

@@ -1,4 +1,4 @@
-#include "ThreadState.h"
+#include "MessageCache.h"
 
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
 
@@ -31,25 +31,4 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
         return entry->pfn(this, args);
     }
     return FALSE;
-}
-
-void CCmdTarget::BeginWaitCursor()
-{
-    ThreadState& thread = CurrentThread();
-    const HCURSOR before = ::SetCursor(::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT)));
-    if (thread.waitCursors++ == 0)
-        thread.cursorBeforeWait = before;
-}
-
-void CCmdTarget::EndWaitCursor()
-{
-    ThreadState& thread = CurrentThread();
-    if (thread.waitCursors > 0 && --thread.waitCursors == 0)
-        ::SetCursor(thread.cursorBeforeWait);
-}
-
-void CCmdTarget::RestoreWaitCursor()
-{
-    if (CurrentThread().waitCursors > 0)
-        ::SetCursor(::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT)));
 }

@@ -1,4 +1,5 @@
 // UpdateData and CDataExchange.
+#include <new>
 #include <utility>
 
 #include "ThreadState.h"
@@ -35,6 +36,9 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
     } catch (CException* exception) {
         exception->ReportError(MB_ICONEXCLAMATION);
         exception->Delete();
+    } catch (const std::bad_alloc&) {
+        // What MFC's own operator new would have thrown.
+        CMemoryException(FALSE).ReportError(MB_ICONEXCLAMATION);
     }
     return FALSE;
 }
@@ -44,10 +48,8 @@ void CWnd::DoDataExchange(CDataExchange*) {}
 HWND CDataExchange::PrepareCtrl(int nIDC)
 {
     const HWND control = ::GetDlgItem(m_pDlgWnd->m_hWnd, nIDC);
-    if (!control) {
-        TRACE(L"The dialog has no control %d.\n", nIDC);
+    if (!control)
         AfxThrowNotSupportedException();
-    }
     m_hWndLastControl = control;
     m_bEditLastControl = FALSE;
     return control;

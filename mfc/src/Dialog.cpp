@@ -107,14 +107,6 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATEW lpDialogTemplate, CWnd* pParentW
     return TRUE;
 }
 
-BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATEW lpDialogTemplate, CWnd* pParentWnd, void*)
-{
-    m_lpDialogTemplate = lpDialogTemplate;
-    if (!m_pParentWnd)
-        m_pParentWnd = pParentWnd;
-    return lpDialogTemplate != nullptr;
-}
-
 HWND CDialog::PreModal()
 {
     return GetSafeOwner_(m_pParentWnd ? m_pParentWnd->m_hWnd : nullptr, &m_hWndTop);

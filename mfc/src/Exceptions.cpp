@@ -19,11 +19,10 @@ BOOL CException::GetErrorMessage(LPWSTR lpszError, UINT nMaxError, UINT* pnHelpC
     return FALSE;
 }
 
-int CException::ReportError(UINT nType, UINT nMessageID)
+int CException::ReportError(UINT nType, UINT)
 {
     wchar_t text[512];
-    if (!GetErrorMessage(text, static_cast<UINT>(std::size(text))) &&
-        AfxLoadString(nMessageID, text, std::size(text)) == 0)
+    if (!GetErrorMessage(text, static_cast<UINT>(std::size(text))))
         std::swprintf(text, std::size(text), L"The operation failed (%hs).", GetRuntimeClass()->m_lpszClassName);
     return AfxMessageBox(text, nType);
 }

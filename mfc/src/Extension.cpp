@@ -10,17 +10,9 @@ BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hMod)
 {
     if (state.bInitialized)
         return TRUE;
-    AFX_MODULE_STATE* lists = AfxGetModuleState();
     state.bInitialized = TRUE;
     state.hModule = hMod;
     state.hResource = hMod;
-    // What static construction has entered since the lists were moved aside is the library's own.
-    state.pFirstSharedClass = lists->m_classList;
-    state.pFirstSharedFactory = lists->m_factoryList;
-    lists->m_classList = lists->m_pClassInit;
-    lists->m_factoryList = lists->m_pFactoryInit;
-    lists->m_pClassInit = nullptr;
-    lists->m_pFactoryInit = nullptr;
     return TRUE;
 }
 
@@ -34,8 +26,7 @@ void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll)
 }
 
 CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
-    : m_hModule(state.hModule), m_hResource(state.hResource), m_classList(state.pFirstSharedClass),
-      m_factoryList(state.pFirstSharedFactory), m_bSystem(bSystem)
+    : m_hModule(state.hModule), m_hResource(state.hResource), m_bSystem(bSystem)
 {
     Libraries::Instance().Add(*this);
 }

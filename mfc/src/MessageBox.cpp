@@ -34,28 +34,10 @@ private:
     HWND m_owner;
 };
 
-int ShowBox(LPCWSTR text, UINT type)
-{
-    const BoxOwner owner;
-    return ::MessageBoxW(owner.Handle(), text, AfxGetAppName(), WithIcon(type));
-}
-
 }  // namespace
 
-int CWinApp::DoMessageBox(LPCWSTR lpszPrompt, UINT nType, UINT)
+int AFXAPI AfxMessageBox(LPCWSTR lpszText, UINT nType, UINT)
 {
-    return ShowBox(lpszPrompt, nType);
-}
-
-int AFXAPI AfxMessageBox(LPCWSTR lpszText, UINT nType, UINT nIDHelp)
-{
-    CWinApp* application = AfxGetApp();
-    return application ? application->DoMessageBox(lpszText, nType, nIDHelp) : ShowBox(lpszText, nType);
-}
-
-int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp)
-{
-    CString text;
-    text.LoadString(nIDPrompt);
-    return AfxMessageBox(text, nType, nIDHelp == static_cast<UINT>(-1) ? nIDPrompt : nIDHelp);
+    const BoxOwner owner;
+    return ::MessageBoxW(owner.Handle(), lpszText, AfxGetAppName(), WithIcon(nType));
 }

@@ -11,19 +11,6 @@ int CString::Find(LPCWSTR pszSub, int iStart) const noexcept
     return found == std::wstring::npos ? -1 : static_cast<int>(found);
 }
 
-CString CString::Right(int nCount) const
-{
-    const int count = std::clamp(nCount, 0, GetLength());
-    return Mid(GetLength() - count, count);
-}
-
-CString CString::Mid(int iFirst, int nCount) const
-{
-    const int first = std::clamp(iFirst, 0, GetLength());
-    const int count = std::clamp(nCount, 0, GetLength() - first);
-    return CString(m_text.data() + first, count);
-}
-
 LPWSTR CString::GetBuffer(int nMinBufferLength)
 {
     m_text.resize(std::max(m_text.size(), static_cast<std::size_t>(nMinBufferLength)));

@@ -1,24 +1,18 @@
 // CWnd: handles, subclassing, destruction, and the members that are more than one call of Windows.
 #include "ThreadState.h"
 
-IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
-
-const CWnd CWnd::wndTop(HWND_TOP);
-const CWnd CWnd::wndBottom(HWND_BOTTOM);
-const CWnd CWnd::wndTopMost(HWND_TOPMOST);
-const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
+IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
 CWnd::~CWnd()
 {
-    const bool isPlace = this == &wndTop || this == &wndBottom || this == &wndTopMost || this == &wndNoTopMost;
     // Not virtual: what derived classes add to it is destroyed already.
-    if (m_hWnd && !isPlace)
+    if (m_hWnd)
         CWnd::DestroyWindow();
 }
 
 CWnd* PASCAL CWnd::FromHandle(HWND hWnd)
 {
-    return CurrentThread().windows.FromHandle(hWnd);
+    return Windows::FromHandle(hWnd);
 }
 
 CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd) noexcept
@@ -27,25 +21,15 @@ CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd) noexcept
     return thread ? thread->windows.LookupPermanent(hWnd) : nullptr;
 }
 
-void PASCAL CWnd::DeleteTempMap()
-{
-    CurrentThread().windows.DeleteTemporaries();
-}
-
 BOOL CWnd::Attach(HWND hWndNew)
 {
-    if (!hWndNew || m_hWnd || FromHandlePermanent(hWndNew))
-        return FALSE;
-    CurrentThread().windows.SetPermanent(hWndNew, this);
-    m_hWnd = hWndNew;
-    return TRUE;
+    // A window has one object: the other one would no longer hear of the window's end.
+    return !FromHandlePermanent(hWndNew) && Windows::Attach(*this, hWndNew);
 }
 
 HWND CWnd::Detach()
 {
-    if (ThreadState* thread = CurrentThreadIfAny(); thread && m_hWnd)
-        thread->windows.Remove(m_hWnd);
-    return std::exchange(m_hWnd, nullptr);
+    return Windows::Detach(*this);
 }
 
 void CWnd::AttachCreated(HWND hWnd)
@@ -72,13 +56,6 @@ BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent)
     return control && SubclassWindow(control);
 }
 
-HWND CWnd::UnsubclassWindow()
-{
-    if (m_pfnSuper)
-        ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(std::exchange(m_pfnSuper, nullptr)));
-    return Detach();
-}
-
 void CWnd::PreSubclassWindow() {}
 
 BOOL CWnd::DestroyWindow()
@@ -99,7 +76,7 @@ void CWnd::OnNcDestroy()
     CWinThread* thread = AfxGetThread();
     if (thread && thread->m_pMainWnd == this) {
         thread->m_pMainWnd = nullptr;
-        AfxPostQuitMessage(0);
+        ::PostQuitMessage(0);
     }
     Default();
     Detach();
@@ -109,31 +86,16 @@ void CWnd::OnNcDestroy()
 
 void CWnd::PostNcDestroy() {}
 
-namespace {
-
-BOOL ModifyStyleLong(HWND window, int index, DWORD remove, DWORD add, UINT positionFlags)
-{
-    const auto before = static_cast<DWORD>(::GetWindowLongPtrW(window, index));
-    const DWORD after = (before & ~remove) | add;
-    if (before == after)
-        return FALSE;
-    ::SetWindowLongPtrW(window, index, static_cast<LONG_PTR>(after));
-    if (positionFlags != 0)
-        ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
-                       positionFlags | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    return TRUE;
-}
-
-}  // namespace
-
 BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags)
 {
-    return ModifyStyleLong(m_hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
-}
-
-BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags)
-{
-    return ModifyStyleLong(m_hWnd, GWL_EXSTYLE, dwRemove, dwAdd, nFlags);
+    const DWORD before = GetStyle();
+    const DWORD after = (before & ~dwRemove) | dwAdd;
+    if (before == after)
+        return FALSE;
+    ::SetWindowLongPtrW(m_hWnd, GWL_STYLE, static_cast<LONG_PTR>(after));
+    if (nFlags != 0)
+        SetWindowPos(nullptr, 0, 0, 0, 0, nFlags | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return TRUE;
 }
 
 void CWnd::GetWindowText(CString& rString) const
@@ -160,11 +122,6 @@ HICON CWnd::SetIcon(HICON hIcon, BOOL bBigIcon)
         SendMessage(WM_SETICON, static_cast<WPARAM>(bBigIcon), reinterpret_cast<LPARAM>(hIcon)));
 }
 
-HICON CWnd::GetIcon(BOOL bBigIcon) const
-{
-    return reinterpret_cast<HICON>(SendMessage(WM_GETICON, static_cast<WPARAM>(bBigIcon)));
-}
-
 void CWnd::MoveWindow(LPCRECT lpRect, BOOL bRepaint)
 {
     MoveWindow(lpRect->left, lpRect->top, lpRect->right - lpRect->left, lpRect->bottom - lpRect->top, bRepaint);
@@ -175,32 +132,9 @@ BOOL CWnd::RedrawWindow(LPCRECT lpRectUpdate, HRGN prgnUpdate, UINT flags)
     return ::RedrawWindow(m_hWnd, lpRectUpdate, prgnUpdate, flags);
 }
 
-CWnd* CWnd::SetParent(CWnd* pWndNewParent)
-{
-    return FromHandle(::SetParent(m_hWnd, pWndNewParent ? pWndNewParent->m_hWnd : nullptr));
-}
-
-CWnd* CWnd::GetTopLevelParent() const
-{
-    HWND window = m_hWnd;
-    while (const HWND parent = window ? ::GetParent(window) : nullptr)
-        window = parent;
-    return FromHandle(window);
-}
-
 CWnd* CWnd::GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious) const
 {
     return FromHandle(::GetNextDlgTabItem(m_hWnd, pWndCtl ? pWndCtl->m_hWnd : nullptr, bPrevious));
-}
-
-CWnd* CWnd::GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious) const
-{
-    return FromHandle(::GetNextDlgGroupItem(m_hWnd, pWndCtl ? pWndCtl->m_hWnd : nullptr, bPrevious));
-}
-
-int CWnd::MessageBox(LPCWSTR lpszText, LPCWSTR lpszCaption, UINT nType)
-{
-    return ::MessageBoxW(m_hWnd, lpszText, lpszCaption ? lpszCaption : AfxGetAppName(), nType);
 }
 
 int CWnd::GetDlgItemText(int nID, CString& rString) const
@@ -210,15 +144,6 @@ int CWnd::GetDlgItemText(int nID, CString& rString) const
     const int copied = GetDlgItemText(nID, rString.GetBuffer(length), length + 1);
     rString.ReleaseBuffer(copied);
     return copied;
-}
-
-int CWnd::GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const
-{
-    for (int id = nIDFirstButton; id <= nIDLastButton; ++id) {
-        if (IsDlgButtonChecked(id) != BST_UNCHECKED)
-            return id;
-    }
-    return 0;
 }
 
 void CWnd::CenterWindow(CWnd* pAlternateOwner)

@@ -97,23 +97,11 @@ BOOL CWnd::CheckAutoCenter()
 }
 
 // Each does what the window would have done without a handler.
-int CWnd::OnCreate(LPCREATESTRUCTW)
-{
-    return static_cast<int>(Default());
-}
 void CWnd::OnDestroy()
 {
     Default();
 }
 void CWnd::OnClose()
-{
-    Default();
-}
-BOOL CWnd::OnQueryEndSession()
-{
-    return static_cast<BOOL>(Default());
-}
-void CWnd::OnMove(int, int)
 {
     Default();
 }
@@ -125,83 +113,7 @@ void CWnd::OnGetMinMaxInfo(MINMAXINFO*)
 {
     Default();
 }
-void CWnd::OnActivate(UINT, CWnd*, BOOL)
-{
-    Default();
-}
-void CWnd::OnSetFocus(CWnd*)
-{
-    Default();
-}
-void CWnd::OnKillFocus(CWnd*)
-{
-    Default();
-}
-void CWnd::OnEnable(BOOL)
-{
-    Default();
-}
-void CWnd::OnShowWindow(BOOL, UINT)
-{
-    Default();
-}
-void CWnd::OnPaint()
-{
-    Default();
-}
-BOOL CWnd::OnEraseBkgnd(CDC*)
-{
-    return static_cast<BOOL>(Default());
-}
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd*, UINT)
 {
     return reinterpret_cast<HBRUSH>(Default());
-}
-BOOL CWnd::OnSetCursor(CWnd*, UINT, UINT)
-{
-    return static_cast<BOOL>(Default());
-}
-void CWnd::OnContextMenu(CWnd*, CPoint)
-{
-    Default();
-}
-void CWnd::OnInitMenuPopup(CMenu*, UINT, BOOL)
-{
-    Default();
-}
-void CWnd::OnSysCommand(UINT, LPARAM)
-{
-    Default();
-}
-void CWnd::OnTimer(UINT_PTR)
-{
-    Default();
-}
-void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT)
-{
-    Default();
-}
-void CWnd::OnKeyDown(UINT, UINT, UINT)
-{
-    Default();
-}
-void CWnd::OnKeyUp(UINT, UINT, UINT)
-{
-    Default();
-}
-void CWnd::OnChar(UINT, UINT, UINT)
-{
-    Default();
-}
-void CWnd::OnMouseMove(UINT, CPoint)
-{
-    Default();
-}
-void CWnd::OnLButtonDown(UINT, CPoint)
-{
-    Default();
-}
-void CWnd::OnLButtonUp(UINT, CPoint)
-{
-    Default();
 }

@@ -4,9 +4,6 @@
 
 namespace {
 
-// Sent by Windows when a menu or dialog is about to be worked with by keyboard; undocumented, and as old as Windows.
-constexpr UINT WM_SYSTIMER = 0x0118;
-
 bool IsUrgent(const MSG& message) noexcept
 {
     return message.message == WM_SYSTIMER || message.message == WM_SYSKEYDOWN;
@@ -43,7 +40,7 @@ int CWnd::RunModalLoop(DWORD dwFlags)
             continue;
         }
         if (!AfxPumpMessage()) {
-            AfxPostQuitMessage(0);
+            ::PostQuitMessage(0);
             m_nFlags &= ~(WF_MODALLOOP | WF_CONTINUEMODAL);
             return -1;
         }
@@ -82,9 +79,7 @@ HWND PASCAL CWnd::GetSafeOwner_(HWND hParent, HWND* pWndTop)
     while (owner && (::GetWindowLongPtrW(owner, GWL_STYLE) & WS_CHILD) != 0)
         owner = ::GetParent(owner);
 
-    HWND top = owner;
-    while (const HWND above = top ? ::GetParent(top) : nullptr)
-        top = above;
+    const HWND top = TopLevelParent(owner);
 
     if (!hParent && owner)
         owner = ::GetLastActivePopup(owner);

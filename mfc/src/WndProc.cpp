@@ -5,7 +5,7 @@
 
 namespace {
 
-// Makes a message the one that Default and GetCurrentMessage mean, for as long as it is handled.
+// Makes a message the one that Default means, for as long as it is handled.
 class MessageInHand {
 public:
     MessageInHand(ThreadState& thread, const MSG& message) noexcept : m_thread(thread), m_outer(thread.sentMessage)
@@ -76,11 +76,6 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
 WNDPROC AFXAPI AfxGetAfxWndProc() noexcept
 {
     return &AfxWndProc;
-}
-
-const MSG* PASCAL CWnd::GetCurrentMessage()
-{
-    return &CurrentThread().sentMessage;
 }
 
 LRESULT CWnd::Default()

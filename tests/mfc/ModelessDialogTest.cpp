@@ -34,7 +34,6 @@ TEST(ModelessDialog, BecomesAChildOfItsParent)
     CDialog child;
     ASSERT_TRUE(child.Create(IDD_CHILD, &parent));
     EXPECT_EQ(child.GetParent(), &parent);
-    EXPECT_EQ(child.GetTopLevelParent(), &parent);
     parent.DestroyWindow();
     EXPECT_EQ(child.m_hWnd, nullptr);
 }

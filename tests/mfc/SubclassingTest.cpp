@@ -41,20 +41,6 @@ TEST(Subclassing, RoutesMessagesThroughTheObjectAndOnToTheControl)
     EXPECT_EQ(kztest::TextOf(dialog.m_hWnd, IDC_EDIT), L"routed");
 }
 
-TEST(Subclassing, EndsWithUnsubclassWindowAndLeavesTheWindow)
-{
-    TestDialog dialog;
-    dialog.Open();
-    const LONG_PTR before = ::GetWindowLongPtrW(dialog.Item(IDC_EDIT), GWLP_WNDPROC);
-    ListeningEdit edit;
-    ASSERT_TRUE(edit.SubclassDlgItem(IDC_EDIT, &dialog));
-    EXPECT_EQ(edit.UnsubclassWindow(), dialog.Item(IDC_EDIT));
-    EXPECT_EQ(::GetWindowLongPtrW(dialog.Item(IDC_EDIT), GWLP_WNDPROC), before);
-    edit.heard.clear();
-    ::SetWindowTextW(dialog.Item(IDC_EDIT), L"direct");
-    EXPECT_TRUE(edit.heard.empty());
-}
-
 TEST(Subclassing, ForgetsTheWindowWhenItIsDestroyed)
 {
     TestDialog dialog;
@@ -80,7 +66,7 @@ TEST(Creation, RoutesTheFirstMessageAlready)
     TestDialog dialog;
     dialog.Open();
     ListeningEdit edit;
-    ASSERT_TRUE(edit.Create(WS_VISIBLE, CRect(0, 0, 50, 20), &dialog, 777));
+    ASSERT_TRUE(edit.Create(L"EDIT", L"", WS_VISIBLE, CRect(0, 0, 50, 20), &dialog, 777));
     EXPECT_EQ(edit.heard.front(), static_cast<UINT>(WM_NCCREATE));
     EXPECT_EQ(edit.GetDlgCtrlID(), 777);
 }

@@ -1,4 +1,4 @@
-// A small extension library: one dialog template, one text, one class that can be created by name, one dialog class.
+// A small extension library: dialog templates and one dialog class.
 #include <afxdllx.h>
 #include <afxwin.h>
 
@@ -8,10 +8,6 @@ namespace {
 
 AFX_EXTENSION_MODULE module = {};
 
-class ExtensionObject : public CObject {
-    DECLARE_DYNCREATE(ExtensionObject)
-};
-
 class ExtensionDialog : public CDialog {
 public:
     ExtensionDialog() : CDialog(IDD_EXTENSION) {}
@@ -20,8 +16,6 @@ protected:
     afx_msg LRESULT OnAnswer(WPARAM value, LPARAM) { return static_cast<LRESULT>(value) + 1; }
     DECLARE_MESSAGE_MAP()
 };
-
-IMPLEMENT_DYNCREATE(ExtensionObject, CObject)
 
 BEGIN_MESSAGE_MAP(ExtensionDialog, CDialog)
     ON_MESSAGE(WM_APP, &ExtensionDialog::OnAnswer)

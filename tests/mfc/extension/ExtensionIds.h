@@ -3,4 +3,3 @@
 
 #define IDD_EXTENSION 4100
 #define IDD_SHADOWED 4001  // the test program has one too
-#define IDS_EXTENSION 4300
