@@ -41,11 +41,11 @@ struct Collector {
 
 BOOL CALLBACK Collect(HWND window, LPARAM into)
 {
-    auto& [dialog, controls] = *reinterpret_cast<Collector*>(into);
+    auto& collector = *reinterpret_cast<Collector*>(into);
     // No exception may pass through the system; Find asks for those that are missing.
     return Succeeds([&] {
-        if (::GetAncestor(window, GA_PARENT) == dialog)
-            controls.emplace(::GetDlgCtrlID(window), window);
+        if (::GetAncestor(window, GA_PARENT) == collector.dialog)
+            collector.controls.emplace(::GetDlgCtrlID(window), window);
         return true;
     });
 }
