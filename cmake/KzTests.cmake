@@ -30,6 +30,7 @@ function(kz_test name)
   endif()
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
   kz_common(${name})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support)
   target_compile_options(${name} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:${KZ_TEST_OPTIMIZATION}>)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   # gtest_main stands last: the linker takes its main only when nothing before it has one.

@@ -87,7 +87,7 @@ std::size_t ReadInformation(pugi::xml_node root)
     std::size_t sum = 0;
     const pugi::xml_node information = root.child(L"information");
     for (const zep::InformationFieldInfo& info : zep::InformationFields) {
-        const wchar_t* text = information.child_value(std::wcschr(info.path, L'/') + 1);
+        const wchar_t* text = information.child_value(info.name);
         sum += std::wcslen(text);
         if (info.setting)
             sum += static_cast<std::size_t>(Integer(text) & info.mask);
@@ -100,7 +100,7 @@ void WriteInformation(pugi::xml_node root, const zep::InformationSettings& setti
     const pugi::xml_node information = root.child(L"information");
     for (const zep::InformationFieldInfo& info : zep::InformationFields)
         if (info.written)
-            SetInteger(information, std::wcschr(info.path, L'/') + 1, settings.*info.setting);
+            SetInteger(information, info.name, settings.*info.setting);
 }
 
 }  // namespace kzbench

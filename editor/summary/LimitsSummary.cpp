@@ -32,7 +32,7 @@ constexpr struct {
 std::wstring Number(const XmlDocument::XmlNode& check, const wchar_t* field, const wchar_t* defaultText)
 {
     KZBasicString text;
-    FormatNumber(text, std::wcstod(check.Value(field, defaultText), nullptr), -3, true);
+    FormatNumber(text, std::wcstod(check.Value(field, defaultText), nullptr), -6, false);
     return text.IsEmpty() ? NoValue : text.c_str();
 }
 

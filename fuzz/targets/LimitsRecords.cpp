@@ -1,6 +1,7 @@
 // The input is a main configuration document. Every page reads and writes its first "viewSetup", or a new one.
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <string_view>
 
 #include "DocumentTree.h"
@@ -71,8 +72,7 @@ void CheckExchange(LimitsStore store)
     Exchange(store);
     const Values after = ValuesOf(store);
     for (std::size_t i = 0; i < before.size(); ++i)
-        Require(!std::isfinite(before[i]) || Stored(before[i]) == Stored(after[i]),
-                "opening and closing a page changes no number");
+        Require(!std::isfinite(before[i]) || before[i] == after[i], "opening and closing a page changes no number");
 }
 
 void CheckRules(LimitsStore store)
@@ -84,7 +84,8 @@ void CheckRules(LimitsStore store)
     for (std::size_t v = isPower ? 1 : 0; v < store.Table().variables.size(); ++v) {
         const double inner = store.Value({v, LimitField::MaxW});
         const double outer = store.Value({v, LimitField::MaxD});
-        Require(inner > 0.0 && inner <= outer && outer <= 100.0, "accepted limits are in order and in range");
+        Require(inner <= outer && outer <= 100.0, "accepted limits are in order and in range");
+        Require(std::strtod(Stored(inner).c_str(), nullptr) > 0.0, "accepted limits are in range once they are stored");
     }
 }
 

@@ -7,7 +7,7 @@
 // Writes a number for display, without group separators.
 //   text      receives the text; its storage is reused. Infinities and NaN give the empty text.
 //   decimals  0 or more: exactly that many; below 0: at most -decimals, trailing zeros dropped. At most 99 count.
-//   exact     true: as many more decimals, up to six, as it takes to get back the value that "%f" stores
+//   exact     true: as many more decimals as it takes for the text to give the very value back
 KZ_API void FormatNumber(KZBasicString& text, double value, int decimals, bool exact);
 
 // Turns displayed text into one that wcstod understands in the C library's current numeric locale: group separators and

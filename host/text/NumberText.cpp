@@ -9,8 +9,11 @@
 
 namespace {
 
-constexpr int StoredDecimals = 6;  // what "%f" writes
 constexpr int MostDecimals = 99;
+
+// The largest double has 309 digits, the smallest 324 decimals.
+constexpr std::size_t LongestNumber = 512;
+static_assert(LongestNumber > std::numeric_limits<double>::max_exponent10 + MostDecimals + 8);
 
 bool IsBlank(wchar_t character) noexcept
 {
@@ -108,17 +111,20 @@ void WriteNumber(std::wstring& text, double value, int decimals, bool exact, con
         return;
     const int wanted = std::min(std::abs(std::max(decimals, -MostDecimals)), MostDecimals);
     const int least = decimals < 0 ? 0 : wanted;
-    const int printed = exact ? std::max(wanted, StoredDecimals) : wanted;
 
-    std::array<char, std::numeric_limits<double>::max_exponent10 + MostDecimals + 8> buffer;
-    const char* end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, printed).ptr;
-    std::string_view plain(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
-    for (int kept = printed; kept > least && plain.back() == '0'; --kept)
+    std::array<char, LongestNumber> buffer;
+    char* const start = buffer.data();
+    // Without a number of decimals it is the shortest text that gives the very value back.
+    const auto written = exact ? std::to_chars(start, start + buffer.size(), value, std::chars_format::fixed)
+                               : std::to_chars(start, start + buffer.size(), value, std::chars_format::fixed, wanted);
+    std::string_view plain(start, static_cast<std::size_t>(written.ptr - start));
+    const std::size_t point = std::min(plain.find('.'), plain.size() - 1);
+    int shown = static_cast<int>(plain.size() - 1 - point);
+    for (; shown > least && plain.back() == '0'; --shown)
         plain.remove_suffix(1);
     if (plain.back() == '.')
         plain.remove_suffix(1);
-    // What rounds to zero has no sign, unless the stored value has to come back, which has one.
+    // What rounds to zero has no sign, unless the very value has to come back, which has one.
     if (!exact && plain.front() == '-' && plain.find_first_not_of("-0.") == std::string_view::npos)
         plain.remove_prefix(1);
 
@@ -128,6 +134,9 @@ void WriteNumber(std::wstring& text, double value, int decimals, bool exact, con
         else
             text += static_cast<wchar_t>(character);
     }
+    if (shown == 0 && least > 0)
+        text += user.decimalSeparator;
+    text.append(static_cast<std::size_t>(std::max(least - shown, 0)), L'0');
 }
 
 std::wstring PlainNumber(std::wstring_view text, const NumberConventions& user, wchar_t plainSeparator)

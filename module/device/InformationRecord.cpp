@@ -1,7 +1,6 @@
 #include "InformationRecord.h"
 
-#include <string>
-
+#include "ChildOrNew.h"
 #include "KZStringIds.h"
 #include "KZWideChar.h"
 
@@ -24,25 +23,24 @@ constexpr bool TableFollowsTheFields() noexcept
 }
 static_assert(TableFollowsTheFields());
 
-// The element's own name: the path without "information/".
-constexpr const wchar_t* NameOf(const InformationFieldInfo& info) noexcept
-{
-    return info.path + std::char_traits<wchar_t>::length(RecordName) + 1;
-}
-
 // The bounds that an entry must keep. A lower bound that only the message names is not enforced.
 struct EntryRule {
     InformationField field;
     const KZBasicString InformationEntries::*text;
-    std::optional<InformationBounds> bounds;
-    bool lowestEnforced;
+    std::optional<InformationBounds> bounds = std::nullopt;
+    bool lowestEnforced = false;
 };
 
 // The ratio cannot be edited, so it has no range; it must still be there. A negative minimum current passes.
 constexpr std::array<EntryRule, 3> EntryRules{{
-    {InformationField::TransformerRatio, &InformationEntries::transformerRatio, std::nullopt, false},
-    {InformationField::MinimumCurrent, &InformationEntries::minimumCurrent, InformationBounds{0, 200}, false},
-    {InformationField::UnitCount, &InformationEntries::unitCount, InformationBounds{1, 8}, true},
+    {.field = InformationField::TransformerRatio, .text = &InformationEntries::transformerRatio},
+    {.field = InformationField::MinimumCurrent,
+     .text = &InformationEntries::minimumCurrent,
+     .bounds = InformationBounds{0, 200}},
+    {.field = InformationField::UnitCount,
+     .text = &InformationEntries::unitCount,
+     .bounds = InformationBounds{1, 8},
+     .lowestEnforced = true},
 }};
 
 bool IsWithin(int value, const EntryRule& rule) noexcept
@@ -56,8 +54,9 @@ bool IsWithin(int value, const EntryRule& rule) noexcept
 
 InformationRecord::InformationRecord(const XmlDocument::XmlNode& root)
 {
+    const XmlDocument::XmlNode* const information = root.Node(RecordName);
     for (const auto& info : InformationFields) {
-        m_texts[Index(info.field)] = root.Value(info.path, info.defaultText);
+        m_texts[Index(info.field)] = information ? information->Value(info.name, info.defaultText) : info.defaultText;
         if (info.setting)
             m_settings.*info.setting = Number(info.field) & info.mask;
     }
@@ -100,12 +99,10 @@ std::optional<InformationFailure> CheckInformation(const InformationEntries& ent
 
 void WriteInformation(XmlDocument::XmlNode& root, const InformationSettings& settings)
 {
-    XmlDocument::XmlNode* information = root.Node(RecordName);
-    if (!information)
-        information = root.NewChild(RecordName, nullptr);
+    XmlDocument::XmlNode& information = ChildOrNew(root, RecordName);
     for (const auto& info : InformationFields)
         if (info.written)
-            information->SetValue(NameOf(info), settings.*info.setting);
+            information.SetValue(info.name, settings.*info.setting);
 }
 
 }  // namespace zep

@@ -46,33 +46,46 @@ struct InformationSettings {
     friend bool operator==(const InformationSettings&, const InformationSettings&) noexcept = default;
 };
 
-struct InformationFieldInfo {
-    InformationField field;
-    const wchar_t* path;                // from the document's root
-    const wchar_t* defaultText;         // read when the child is missing
-    int InformationSettings::*setting;  // null for what is only shown
-    int mask;                           // the bits of the number that count
-    bool written;                       // the others keep whatever the document holds
-};
-
-inline constexpr int WholeNumber = -1;
 inline constexpr int ModeMask = (1 << ModeCount) - 1;
 inline constexpr int FilterMask = (1 << FilterCount) - 1;
 
+struct InformationFieldInfo {
+    InformationField field;
+    const wchar_t* name;                          // of the child
+    const wchar_t* defaultText = L"";             // read when the child is missing
+    int InformationSettings::*setting = nullptr;  // null for what is only shown
+    int mask = ~0;                                // the bits of the number that count
+    bool written = false;                         // the others keep whatever the document holds
+};
+
 inline constexpr std::size_t InformationFieldCount = 10;
 inline constexpr std::array<InformationFieldInfo, InformationFieldCount> InformationFields{{
-    {InformationField::Version, L"information/version", L"?", nullptr, 0, false},
-    {InformationField::SerialNumber, L"information/serialNum", L"?", nullptr, 0, false},
-    {InformationField::Gamma, L"information/gamma", L"?", nullptr, 0, false},
-    {InformationField::Mode, L"information/mode", L"", &InformationSettings::modes, ModeMask, true},
-    {InformationField::Filters, L"information/filters", L"", &InformationSettings::filters, FilterMask, true},
-    {InformationField::TransformerRatio, L"information/transRatio", L"", &InformationSettings::transformerRatio,
-     WholeNumber, false},
-    {InformationField::MinimumCurrent, L"information/minCurrent", L"", &InformationSettings::minimumCurrent,
-     WholeNumber, true},
-    {InformationField::Algorithm, L"information/algorithm", L"", nullptr, 0, false},
-    {InformationField::UnitCount, L"information/numZEP", L"", &InformationSettings::unitCount, WholeNumber, true},
-    {InformationField::Status, L"information/status", L"", nullptr, 0, false},
+    {.field = InformationField::Version, .name = L"version", .defaultText = L"?"},
+    {.field = InformationField::SerialNumber, .name = L"serialNum", .defaultText = L"?"},
+    {.field = InformationField::Gamma, .name = L"gamma", .defaultText = L"?"},
+    {.field = InformationField::Mode,
+     .name = L"mode",
+     .setting = &InformationSettings::modes,
+     .mask = ModeMask,
+     .written = true},
+    {.field = InformationField::Filters,
+     .name = L"filters",
+     .setting = &InformationSettings::filters,
+     .mask = FilterMask,
+     .written = true},
+    {.field = InformationField::TransformerRatio,
+     .name = L"transRatio",
+     .setting = &InformationSettings::transformerRatio},
+    {.field = InformationField::MinimumCurrent,
+     .name = L"minCurrent",
+     .setting = &InformationSettings::minimumCurrent,
+     .written = true},
+    {.field = InformationField::Algorithm, .name = L"algorithm"},
+    {.field = InformationField::UnitCount,
+     .name = L"numZEP",
+     .setting = &InformationSettings::unitCount,
+     .written = true},
+    {.field = InformationField::Status, .name = L"status"},
 }};
 
 // What the controls hold when the user presses OK.

@@ -2,6 +2,7 @@
 
 #include "KZNumber.h"
 #include "KZStringIds.h"
+#include "StoredNumber.h"
 
 namespace zep {
 namespace {
@@ -13,14 +14,39 @@ struct Fault {
 };
 using Verdict = std::optional<Fault>;
 
+// The numbers of one variable.
+class Numbers {
+public:
+    [[nodiscard]] double& operator[](LimitField field) noexcept { return m_values[static_cast<std::size_t>(field)]; }
+    [[nodiscard]] double operator[](LimitField field) const noexcept
+    {
+        return m_values[static_cast<std::size_t>(field)];
+    }
+    [[nodiscard]] double Folded(LimitField field) const noexcept { return FoldedPowerFactor((*this)[field]); }
+
+private:
+    std::array<double, LimitFieldCount> m_values{};
+};
+
 // One variable of a page as the rules see it.
 class Entries {
 public:
-    Entries(const LimitsStore& store, std::size_t variable) noexcept : m_store(store), m_variable(variable) {}
+    Entries(const LimitsStore& store, std::size_t variable) noexcept : m_store(store), m_variable(variable)
+    {
+        for (std::size_t f = 0; f < FieldCount(); ++f) {
+            const auto field = static_cast<LimitField>(f);
+            m_typed[field] = store.Value({variable, field});
+            m_stored[field] = StoredNumber(m_typed[field]).Value();
+        }
+    }
 
-    [[nodiscard]] double operator[](LimitField field) const noexcept { return m_store.Value({m_variable, field}); }
-    [[nodiscard]] double Folded(LimitField field) const noexcept { return FoldedPowerFactor((*this)[field]); }
     [[nodiscard]] bool IsNumber(LimitField field) const { return IsValidNumber(m_store.Text({m_variable, field}), -1); }
+    // Whether the numbers break a rule as typed or as stored: a limit of 0.0000001 is above 0, but not in the document.
+    template <class IsBroken>
+    [[nodiscard]] bool Break(IsBroken isBroken) const noexcept
+    {
+        return isBroken(m_typed) || isBroken(m_stored);
+    }
 
     [[nodiscard]] std::size_t Variable() const noexcept { return m_variable; }
     [[nodiscard]] std::size_t FieldCount() const noexcept { return m_store.Table().variables[m_variable].fieldCount; }
@@ -28,6 +54,8 @@ public:
 private:
     const LimitsStore& m_store;
     std::size_t m_variable;
+    Numbers m_typed;
+    Numbers m_stored;
 };
 
 // All texts of a variable, in the order of its fields.
@@ -42,12 +70,14 @@ Verdict CheckNumbers(const Entries& entries)
 // The fundamental's nominal is a current, every other one a percentage of it.
 Verdict CheckHarmonicNominal(const Entries& entries)
 {
-    if (!entries.IsNumber(LimitField::Nominal))
-        return Fault{LimitField::Nominal, KZS_NOT_A_NUMBER};
-    const double nominal = entries[LimitField::Nominal];
-    if (entries.Variable() == 0)
-        return nominal < 0.0 ? Verdict{{LimitField::Nominal, KZS_CURRENT_BELOW_ZERO}} : std::nullopt;
-    return nominal < 0.0 || nominal >= 100.0 ? Verdict{{LimitField::Nominal, KZS_PERCENTAGE_RANGE}} : std::nullopt;
+    constexpr auto nominal = LimitField::Nominal;
+    if (!entries.IsNumber(nominal))
+        return Fault{nominal, KZS_NOT_A_NUMBER};
+    const bool isCurrent = entries.Variable() == 0;
+    const unsigned reason = isCurrent ? KZS_CURRENT_BELOW_ZERO : KZS_PERCENTAGE_RANGE;
+    if (entries.Break([&](const Numbers& n) { return n[nominal] < 0.0 || (!isCurrent && n[nominal] >= 100.0); }))
+        return Fault{nominal, reason};
+    return std::nullopt;
 }
 
 // A harmonic limit may be exactly 100, which a nominal and a power limit may not.
@@ -55,7 +85,14 @@ Verdict CheckHarmonicLimit(const Entries& entries, LimitField field)
 {
     if (!entries.IsNumber(field))
         return Fault{field, KZS_NOT_A_NUMBER};
-    return entries[field] > 0.0 && entries[field] <= 100.0 ? std::nullopt : Verdict{{field, KZS_LIMIT_RANGE}};
+    if (entries.Break([&](const Numbers& n) { return n[field] <= 0.0 || n[field] > 100.0; }))
+        return Fault{field, KZS_LIMIT_RANGE};
+    return std::nullopt;
+}
+
+bool InnerIsAboveOuter(const Numbers& numbers) noexcept
+{
+    return numbers[LimitField::MaxW] > numbers[LimitField::MaxD];
 }
 
 Verdict CheckHarmonic(const Entries& entries)
@@ -65,7 +102,7 @@ Verdict CheckHarmonic(const Entries& entries)
     for (const auto field : {LimitField::MaxD, LimitField::MaxW})
         if (const auto fault = CheckHarmonicLimit(entries, field))
             return fault;
-    if (entries[LimitField::MaxW] > entries[LimitField::MaxD])
+    if (entries.Break(InnerIsAboveOuter))
         return Fault{LimitField::MaxW, KZS_LIMITS_ORDER};
     return std::nullopt;
 }
@@ -73,21 +110,25 @@ Verdict CheckHarmonic(const Entries& entries)
 // The range is kept by the outer upper and the inner lower limit alone.
 Verdict CheckPowerFactorRanges(const Entries& entries)
 {
-    if (const double nominal = entries[LimitField::Nominal]; nominal != 0.0 && nominal != 1.0)
-        return Fault{LimitField::Nominal, KZS_POWER_FACTOR_NOMINAL};
+    constexpr auto nominal = LimitField::Nominal;
+    if (entries.Break([](const Numbers& n) { return n[nominal] != 0.0 && n[nominal] != 1.0; }))
+        return Fault{nominal, KZS_POWER_FACTOR_NOMINAL};
     for (const auto field : {LimitField::MaxD, LimitField::MinW})
-        if (entries[field] < -1.0 || entries[field] > 1.0)
+        if (entries.Break([&](const Numbers& n) { return n[field] < -1.0 || n[field] > 1.0; }))
             return Fault{field, KZS_POWER_FACTOR_RANGE};
     return std::nullopt;
 }
 
 Verdict CheckPowerFactorOrder(const Entries& entries)
 {
-    if (entries.Folded(LimitField::MaxW) > entries.Folded(LimitField::MaxD))
+    const auto isAbove = [&](LimitField field, LimitField other) {
+        return entries.Break([&](const Numbers& n) { return n.Folded(field) > n.Folded(other); });
+    };
+    if (isAbove(LimitField::MaxW, LimitField::MaxD))
         return Fault{LimitField::MaxW, KZS_LIMITS_ORDER};
-    if (entries.Folded(LimitField::MinD) > entries.Folded(LimitField::MinW))
+    if (isAbove(LimitField::MinD, LimitField::MinW))
         return Fault{LimitField::MinW, KZS_LIMITS_ORDER};
-    if (entries.Folded(LimitField::MinW) > entries.Folded(LimitField::MaxW))
+    if (isAbove(LimitField::MinW, LimitField::MaxW))
         return Fault{LimitField::MinW, KZS_POWER_FACTOR_BANDS};
     return std::nullopt;
 }
@@ -106,9 +147,9 @@ Verdict CheckPower(const Entries& entries)
     if (const auto fault = CheckNumbers(entries))
         return fault;
     for (const auto field : {LimitField::MaxW, LimitField::MaxD})
-        if (!(entries[field] > 0.0 && entries[field] < 100.0))
+        if (entries.Break([&](const Numbers& n) { return n[field] <= 0.0 || n[field] >= 100.0; }))
             return Fault{field, KZS_LIMIT_RANGE};
-    if (entries[LimitField::MaxW] > entries[LimitField::MaxD])
+    if (entries.Break(InnerIsAboveOuter))
         return Fault{std::nullopt, KZS_LIMITS_ORDER};
     return std::nullopt;
 }

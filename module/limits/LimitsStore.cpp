@@ -1,8 +1,10 @@
 #include "LimitsStore.h"
 
-#include <cstdlib>
-
+#include "ChildOrNew.h"
 #include "KZNumber.h"
+#include "NumericLocale.h"
+#include "ParseNumber.h"
+#include "StoredNumber.h"
 
 namespace zep {
 namespace {
@@ -18,37 +20,13 @@ constexpr LimitField FieldAt(std::size_t index) noexcept
     return static_cast<LimitField>(index);
 }
 
-// Not wcstod: MinGW's makes a copy of the text on the heap without looking whether there was memory for it. For a
-// number of a usual length strtod takes none.
-double Parse(const wchar_t* text) noexcept
-{
-    std::array<char, 512> copy{};  // of more digits than any double has
-    for (std::size_t i = 0; i + 1 < copy.size() && text[i] > L'\0' && text[i] <= L'\x7F'; ++i)
-        copy[i] = static_cast<char>(text[i]);
-    return std::strtod(copy.data(), nullptr);
-}
-
-XmlDocument::XmlNode* FindCheck(const XmlDocument::XmlNode& viewSetup, const LimitVariable& variable)
-{
-    return viewSetup.NodeV(L"check?var=%s?", variable.name.data());
-}
-
-XmlDocument::XmlNode& FindOrMakeCheck(XmlDocument::XmlNode& viewSetup, const LimitVariable& variable)
-{
-    if (XmlDocument::XmlNode* check = FindCheck(viewSetup, variable))
-        return *check;
-    XmlDocument::XmlNode* check = viewSetup.NewChild(L"check", nullptr);
-    check->SetValue(L"var", variable.name.data());
-    return *check;
-}
-
 }  // namespace
 
 LimitsStore::LimitsStore(const LimitsTable& table) : m_table(table), m_variables(table.variables.size())
 {
     std::array<double, LimitFieldCount> defaults;
-    defaults.fill(Parse(table.limitDefault));
-    defaults[Index(LimitField::Nominal)] = Parse(table.nominalDefault);
+    defaults.fill(ParseNumber(table.limitDefault));
+    defaults[Index(LimitField::Nominal)] = ParseNumber(table.nominalDefault);
     for (auto& variable : m_variables)
         variable.edited = variable.loaded = defaults;
 }
@@ -81,21 +59,22 @@ void LimitsStore::TextsToValues()
     for (std::size_t v = 0; v < m_variables.size(); ++v)
         for (std::size_t f = 0; f < m_table.variables[v].fieldCount; ++f) {
             UnformatNumber(m_variables[v].texts[f], plain);
-            m_variables[v].edited[f] = Parse(plain.c_str());
+            m_variables[v].edited[f] = ParseNumber(plain.c_str());
         }
 }
 
 void LimitsStore::Load(const XmlDocument::XmlNode& viewSetup)
 {
+    const DocumentLocale locale;
     for (std::size_t v = 0; v < m_variables.size(); ++v)
-        if (const XmlDocument::XmlNode* check = FindCheck(viewSetup, m_table.variables[v]))
+        if (const XmlDocument::XmlNode* check = viewSetup.NodeV(L"check?var=%s?", m_table.variables[v].name.data()))
             LoadVariable(v, *check);
 }
 
 void LimitsStore::LoadVariable(std::size_t variable, const XmlDocument::XmlNode& check)
 {
     for (std::size_t f = 0; f < m_table.variables[variable].fieldCount; ++f) {
-        const double value = Parse(check.Value(LimitFieldNames[f], m_table.DefaultOf(FieldAt(f))));
+        const double value = ParseNumber(check.Value(LimitFieldNames[f], m_table.DefaultOf(FieldAt(f))));
         m_variables[variable].edited[f] = value;
         m_variables[variable].loaded[f] = value;
     }
@@ -130,19 +109,15 @@ void LimitsStore::Save(XmlDocument::XmlNode& viewSetup) const
 
 void LimitsStore::SaveVariable(std::size_t variable, XmlDocument::XmlNode& viewSetup) const
 {
-    XmlDocument::XmlNode& check = FindOrMakeCheck(viewSetup, m_table.variables[variable]);
+    XmlDocument::XmlNode& check = ChildOrNew(viewSetup, L"check", L"var", m_table.variables[variable].name.data());
     for (std::size_t f = 0; f < m_table.variables[variable].fieldCount; ++f)
-        check.SetValue(LimitFieldNames[f], KZBasicString::Format(L"%f", m_variables[variable].edited[f]).c_str());
+        check.SetValue(LimitFieldNames[f], StoredNumber(m_variables[variable].edited[f]).Text());
 }
 
 XmlDocument::XmlNode& AppendViewSetup(XmlDocument& configuration, const KZBasicString& driverId)
 {
-    XmlDocument::XmlNode* viewSetups = configuration.Node(L"viewSetups");
-    if (!viewSetups)
-        viewSetups = configuration.Root()->NewChild(L"viewSetups", nullptr);
-    XmlDocument::XmlNode* viewSetup = viewSetups->NewChild(L"viewSetup", nullptr);
-    viewSetup->SetValue(L"driverId", driverId.c_str());
-    return *viewSetup;
+    XmlDocument::XmlNode& viewSetups = ChildOrNew(*configuration.Root(), L"viewSetups");
+    return NewChildWith(viewSetups, L"viewSetup", L"driverId", driverId.c_str());
 }
 
 }  // namespace zep

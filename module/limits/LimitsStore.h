@@ -33,18 +33,19 @@ public:
     [[nodiscard]] const KZBasicString& Text(LimitCell cell) const noexcept;
 
     // Edited values to texts and back, in the user's conventions: to be called inside a NumericLocale. A text that is
-    // not a number counts for as much of it as can be understood.
+    // not a number counts for its leading number, 0 without one.
     void ValuesToTexts();
     void TextsToValues();
 
-    // Reads the page's variables from a "viewSetup", in the "C" locale; one without a "check" keeps its values.
+    // Reads the page's variables from a "viewSetup", whatever the numeric locale is; one without a "check" keeps its
+    // values.
     void Load(const XmlDocument::XmlNode& viewSetup);
 
     // Whether an edited value differs from the loaded one. NaN differs from everything. The answer is remembered for
     // Save.
     [[nodiscard]] bool IsModified() noexcept;
 
-    // Writes the page's variables into a "viewSetup", in the "C" locale. Nothing is ever removed from it.
+    // Writes the page's variables into a "viewSetup", whatever the numeric locale is. Nothing is ever removed from it.
     void Save(XmlDocument::XmlNode& viewSetup) const;
 
 private:

@@ -1,5 +1,6 @@
 #include "UnitsRecord.h"
 
+#include "ChildOrNew.h"
 #include "KZWideChar.h"
 
 namespace zep {
@@ -20,18 +21,6 @@ UnitChoice ReadUnit(const XmlDocument::XmlNode& unit)
     return {KZWideChar::ToInteger(unit.Value(L"decimals", L"1")), ScaleOf(unit.Value(L"factor", L"1"))};
 }
 
-// Where a set-up has the units of PowerUnitNames. Formatting these paths takes longer than following them.
-constexpr std::array<const wchar_t*, PowerUnitCount> UnitPaths{L"unit?name=AP-VA?", L"unit?name=RP?"};
-
-XmlDocument::XmlNode& FindOrMakeUnit(XmlDocument::XmlNode& setup, std::size_t index)
-{
-    if (XmlDocument::XmlNode* unit = setup.Node(UnitPaths[index]))
-        return *unit;
-    XmlDocument::XmlNode* unit = setup.NewChild(L"unit", nullptr);
-    unit->SetValue(L"name", PowerUnitNames[index]);
-    return *unit;
-}
-
 }  // namespace
 
 UnitsRecord::UnitsRecord(XmlDocument& configuration, const KZBasicString& driverId)
@@ -46,32 +35,28 @@ UnitChoices UnitsRecord::Read() const
     if (!m_setup)
         return choices;
     for (std::size_t i = 0; i < PowerUnitCount; ++i)
-        if (const XmlDocument::XmlNode* unit = m_setup->Node(UnitPaths[i]))
+        if (const XmlDocument::XmlNode* unit = m_setup->NodeV(L"unit?name=%s?", PowerUnitNames[i]))
             choices[i] = ReadUnit(*unit);
     return choices;
 }
 
 void UnitsRecord::Write(const UnitChoices& choices)
 {
-    XmlDocument::XmlNode& setup = MakeSetup();
+    XmlDocument::XmlNode& setup = m_setup ? *m_setup : NewSetup();
     for (std::size_t i = 0; i < PowerUnitCount; ++i) {
-        XmlDocument::XmlNode& unit = FindOrMakeUnit(setup, i);
+        XmlDocument::XmlNode& unit = ChildOrNew(setup, L"unit", L"name", PowerUnitNames[i]);
         unit.SetValue(L"decimals", choices[i].decimals);
         unit.SetValue(L"factor", choices[i].scale == UnitChoice::Kilo ? KiloFactor : PlainFactor);
     }
+    // Not before it is whole: what a write that fails leaves behind is not the driver's record.
+    m_setup = &setup;
     m_configuration.SetDirty(true);
 }
 
-XmlDocument::XmlNode& UnitsRecord::MakeSetup()
+XmlDocument::XmlNode& UnitsRecord::NewSetup() const
 {
-    if (m_setup)
-        return *m_setup;
-    XmlDocument::XmlNode* setups = m_configuration.Node(L"unitSetups");
-    if (!setups)
-        setups = m_configuration.Root()->NewChild(L"unitSetups", nullptr);
-    m_setup = setups->NewChild(L"unitSetup", nullptr);
-    m_setup->SetValue(L"driverId", m_driverId.c_str());
-    return *m_setup;
+    XmlDocument::XmlNode& setups = ChildOrNew(*m_configuration.Root(), L"unitSetups");
+    return NewChildWith(setups, L"unitSetup", L"driverId", m_driverId.c_str());
 }
 
 }  // namespace zep

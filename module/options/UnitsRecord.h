@@ -48,7 +48,7 @@ public:
     void Write(const UnitChoices& choices);
 
 private:
-    XmlDocument::XmlNode& MakeSetup();
+    [[nodiscard]] XmlDocument::XmlNode& NewSetup() const;
 
     XmlDocument& m_configuration;
     KZBasicString m_driverId;

@@ -109,7 +109,7 @@ TEST_F(NumberLocale, ReadsAPointWhileTheCLibraryWantsAComma)
 TEST_F(NumberLocale, TakesBackWhatItShowsInTheUsersOwnLocale)
 {
     std::setlocale(LC_NUMERIC, "");
-    for (const double value : {0.0, 1.5, -0.125, 1234567.891, 0.000001, 1e15}) {
+    for (const double value : {0.0, 1.5, -0.125, 1234567.891, 0.1234567, 0.000001, 1e15}) {
         EXPECT_TRUE(IsValidNumber(Shown(value).c_str(), -1)) << value;
         EXPECT_EQ(Read(Shown(value).c_str()), value);
     }

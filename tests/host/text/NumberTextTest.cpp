@@ -2,11 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
+#include <cwchar>
 #include <limits>
 #include <random>
 
+#include "OtherLocale.h"
 #include "ParameterNames.h"
 
 namespace {
@@ -51,15 +57,19 @@ TEST(WriteNumber, DropsTrailingZerosForNegativeDecimals)
     EXPECT_EQ(Shown(0.0004, -3, false), L"0");
 }
 
-TEST(WriteNumber, AddsTheDecimalsThatTheStoredValueNeeds)
+TEST(WriteNumber, AddsTheDecimalsThatBringTheValueBack)
 {
     EXPECT_EQ(Shown(0.1234, -3, true), L"0.1234");
     EXPECT_EQ(Shown(0.123456, -3, true), L"0.123456");
     EXPECT_EQ(Shown(0.000001, -3, true), L"0.000001");
-    EXPECT_EQ(Shown(0.1234567, -3, true), L"0.123457");
+    EXPECT_EQ(Shown(0.1234567, -3, true), L"0.1234567");
+    EXPECT_EQ(Shown(0.1 + 0.2, -3, true), L"0.30000000000000004");
+    EXPECT_EQ(Shown(1e-7, -3, true), L"0.0000001");
     EXPECT_EQ(Shown(1.5, 2, true), L"1.50");
     EXPECT_EQ(Shown(1.53125, 2, true), L"1.53125");
     EXPECT_EQ(Shown(5.0, -3, true), L"5");
+    EXPECT_EQ(Shown(100.0, 2, true, Spanish), L"100,00");
+    EXPECT_EQ(Shown(0.125, 2, true, Spanish), L"0,125");
 }
 
 TEST(WriteNumber, WritesTheUsersDecimalSeparator)
@@ -69,7 +79,7 @@ TEST(WriteNumber, WritesTheUsersDecimalSeparator)
     EXPECT_EQ(Shown(1.5, -3, true, {L"::", L"", L""}), L"1::5");
 }
 
-TEST(WriteNumber, GivesZeroNoSignUnlessItsStoredTextHasOne)
+TEST(WriteNumber, GivesZeroNoSignUnlessTheVeryValueHasOne)
 {
     EXPECT_EQ(Shown(-0.0001, -3, false), L"0");
     EXPECT_EQ(Shown(-0.001, 2, false), L"0.00");
@@ -91,19 +101,63 @@ TEST(WriteNumber, HoldsTheLargestNumbersAndTheMostDecimals)
     EXPECT_EQ(Shown(1.0, std::numeric_limits<int>::min(), false), L"1");
 }
 
+// Shown and read again, the number is the same and its text is the shortest that does it.
+void ExpectBroughtBack(double value)
+{
+    const std::wstring shown = Shown(value, -3, true, Spanish);
+    ASSERT_TRUE(IsNumber(shown, -1, Spanish)) << value;
+    const std::wstring wide = PlainNumber(shown, Spanish, L'.');
+    // Not wcstod: that of msvcrt may be off by the last bit.
+    const std::string plain(wide.begin(), wide.end());
+    ASSERT_EQ(std::strtod(plain.c_str(), nullptr), value) << plain;
+    const std::size_t decimals = plain.size() - std::min(plain.find('.'), plain.size() - 1) - 1;
+    if (decimals > 3) {
+        std::array<char, 512> shorter;
+        std::snprintf(shorter.data(), shorter.size(), "%.*f", static_cast<int>(decimals) - 1, value);
+        ASSERT_NE(std::strtod(shorter.data(), nullptr), value) << shorter.data();
+    }
+}
+
 TEST(WriteNumber, BringsEveryStoredValueBack)
 {
     std::mt19937_64 random(20240229);
     std::uniform_real_distribution<double> mantissa(-1.0, 1.0);
     std::uniform_int_distribution<int> exponent(-7, 14);
-    for (int run = 0; run < 20000; ++run) {
-        const std::string stored = Stored(mantissa(random) * std::pow(10.0, exponent(random)));
-        const double value = std::wcstod(std::wstring(stored.begin(), stored.end()).c_str(), nullptr);
-        const std::wstring plain = PlainNumber(Shown(value, -3, true, Spanish), Spanish, L'.');
-        ASSERT_EQ(Stored(std::wcstod(plain.c_str(), nullptr)), stored);
-        ASSERT_EQ(std::wcstod(plain.c_str(), nullptr), value) << stored;
-        ASSERT_TRUE(IsNumber(Shown(value, -3, true, Spanish), -1, Spanish)) << stored;
+    for (int run = 0; run < 20000; ++run)
+        ExpectBroughtBack(std::strtod(Stored(mantissa(random) * std::pow(10.0, exponent(random))).c_str(), nullptr));
+}
+
+TEST(WriteNumber, BringsEveryNumberBack)
+{
+    for (const double value : {std::numeric_limits<double>::max(), std::numeric_limits<double>::min(),
+                               std::numeric_limits<double>::denorm_min(), std::numeric_limits<double>::epsilon()}) {
+        ExpectBroughtBack(value);
+        ExpectBroughtBack(-value);
     }
+    std::mt19937_64 random(20261121);
+    for (int run = 0; run < 5000; ++run) {
+        const auto value = std::bit_cast<double>(random());
+        if (std::isfinite(value))
+            ExpectBroughtBack(value);
+    }
+}
+
+TEST(CLibraryDecimalSeparator, IsTheNumericLocales)
+{
+    EXPECT_EQ(CLibraryDecimalSeparator(), L'.');
+    const OtherLocale spain(OtherLocale::Spain);
+    if (!spain.IsSet())
+        GTEST_SKIP() << "the machine cannot make the locale";
+    EXPECT_EQ(CLibraryDecimalSeparator(), L',');
+}
+
+// In its bytes it can be read in its own character set alone, which LC_CTYPE does not name here.
+TEST(CLibraryDecimalSeparator, MayLieOutsideAscii)
+{
+    const OtherLocale afghanistan(OtherLocale::Afghanistan);
+    if (!afghanistan.IsSet() || std::wcstod(L"1\u066B5", nullptr) != 1.5)
+        GTEST_SKIP() << "the C library has no separator outside ASCII here";
+    EXPECT_EQ(CLibraryDecimalSeparator(), L'\u066B');
 }
 
 TEST(PlainNumber, TakesGroupsAndBlanksOut)

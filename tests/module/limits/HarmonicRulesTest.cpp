@@ -81,7 +81,8 @@ TEST_P(EveryHarmonicRow, HoldsBothLimitsAbove0AndUpTo100)
     for (const auto field : {LimitField::MaxW, LimitField::MaxD}) {
         for (const auto* text : {L"0.000001", L"1", L"99.999999", L"100"})
             EXPECT_EQ(Check(field, text), Accepted) << text;
-        for (const auto* text : {L"0", L"-0.000001", L"-1", L"100.000001", L"1000000"})
+        // 0.0000004 is above 0 as typed, 0.000000 as stored; 100.0000004 the other way about.
+        for (const auto* text : {L"0", L"-0.000001", L"-1", L"100.000001", L"1000000", L"0.0000004", L"100.0000004"})
             EXPECT_EQ(Check(field, text), RefusedHere(field, KZS_LIMIT_RANGE)) << text;
     }
 }
@@ -97,7 +98,7 @@ TEST_P(EveryHarmonicRow, HoldsTheNominalAtOrAbove0)
 
 TEST_P(EveryHarmonicRow, HoldsAPercentageNominalBelow100)
 {
-    for (const auto* text : {L"100", L"100.000001", L"250"})
+    for (const auto* text : {L"100", L"100.000001", L"250", L"99.9999999"})
         EXPECT_EQ(Check(LimitField::Nominal, text),
                   GetParam() == 0 ? Accepted : RefusedHere(LimitField::Nominal, KZS_PERCENTAGE_RANGE))
             << text;

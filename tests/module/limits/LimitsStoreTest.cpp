@@ -321,6 +321,25 @@ TEST(LimitsStoreExchange, AStoredNumberSurvivesBeingShown)
     }
 }
 
+TEST(LimitsStoreExchange, ANumberOfAnotherToolSurvivesBeingShown)
+{
+    const Configuration configuration("<check><var>AP</var><nominal>0.1234567</nominal><maxW>1e-9</maxW>"
+                                      "<maxD>33.333333333333336</maxD></check>");
+    LimitsStore store(PowerLimitsTable);
+    store.Load(configuration.ViewSetup());
+    Show(store);
+    Pull(store);
+    EXPECT_FALSE(store.IsModified());
+}
+
+TEST(LimitsStoreExchange, ReadsATextOfAnyLength)
+{
+    LimitsStore store(PowerLimitsTable);
+    store.Text({1, LimitField::Nominal}) = std::wstring(600, L'0') + L"7";
+    Pull(store);
+    EXPECT_EQ(store.Value({1, LimitField::Nominal}), 7.0);
+}
+
 TEST(LimitsStoreExchange, TextThatIsNoNumberCountsForItsLeadingPart)
 {
     LimitsStore store(PowerLimitsTable);

@@ -110,7 +110,7 @@ TEST(PowerFactorRules, HoldTheNominalTo0Or1)
 {
     for (const auto* text : {L"0", L"1", L"-0", L"1.000000"})
         EXPECT_EQ(PowerPage().Type(0, Field::Nominal, text).Check(), Accepted) << text;
-    for (const auto* text : {L"0.5", L"0.000001", L"0.999999", L"1.000001", L"-1", L"2"})
+    for (const auto* text : {L"0.5", L"0.000001", L"0.999999", L"1.000001", L"-1", L"2", L"0.0000001", L"0.9999999"})
         EXPECT_EQ(PowerPage().Type(0, Field::Nominal, text).Check(),
                   FactorRefused(Field::Nominal, KZS_POWER_FACTOR_NOMINAL))
             << text;
@@ -134,6 +134,14 @@ TEST(PowerFactorRules, HoldTheInnerLowerLimitBetweenMinus1And1)
         EXPECT_EQ(check(text), Accepted) << text;
     for (const auto* text : {L"-1.000001", L"1.000001", L"95"})
         EXPECT_EQ(check(text), FactorRefused(Field::MinW, KZS_POWER_FACTOR_RANGE)) << text;
+}
+
+// -0.0000004 lies just below 2 on the power factor's scale, and at 0 once it is stored.
+TEST(PowerFactorRules, HoldTheOrderOfTheLimitsAsTheyAreStored)
+{
+    EXPECT_EQ(PowerPage().Factor(L"0.5", L"-0.0000004", L"-0.0000004", L"-0.0000004").Check(),
+              FactorRefused(Field::MinW, KZS_LIMITS_ORDER));
+    EXPECT_EQ(PowerPage().Factor(L"0.5", L"-0.0000006", L"-0.0000006", L"-0.0000006").Check(), Accepted);
 }
 
 TEST(PowerFactorRules, HoldTheOtherTwoLimitsToNoRange)
@@ -225,7 +233,7 @@ TEST_P(EveryPower, HoldsBothLimitsStrictlyBetween0And100)
         EXPECT_EQ(Check(L"0", text, L"99.999999"), Accepted) << text;
         EXPECT_EQ(Check(L"0", L"0.000001", text), Accepted) << text;
     }
-    for (const auto* text : {L"-1", L"0", L"100", L"100.000001"}) {
+    for (const auto* text : {L"-1", L"0", L"100", L"100.000001", L"0.0000004", L"99.9999999"}) {
         EXPECT_EQ(Check(L"0", text, L"1"), Refused(GetParam(), Field::MaxW, KZS_LIMIT_RANGE)) << text;
         EXPECT_EQ(Check(L"0", L"1", text), Refused(GetParam(), Field::MaxD, KZS_LIMIT_RANGE)) << text;
     }
