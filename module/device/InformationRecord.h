@@ -92,9 +92,9 @@ inline constexpr std::array<InformationFieldInfo, InformationFieldCount> Informa
 struct InformationEntries {
     int modes = 0;    // bits 0 to 3
     int filters = 0;  // bits 0 to 11
-    KZBasicString transformerRatio;
-    KZBasicString minimumCurrent;
-    KZBasicString unitCount;
+    KZBasicString transformerRatio = {};
+    KZBasicString minimumCurrent = {};
+    KZBasicString unitCount = {};
 };
 
 struct InformationBounds {

@@ -1,5 +1,7 @@
 #include "KZDeviceCfgZEP.h"
 
+#include <algorithm>
+
 #include "ControlText.h"
 #include "DeviceControls.h"
 #include "DialogSetup.h"
@@ -73,6 +75,13 @@ KZBasicString MessageOf(const zep::InformationFailure& failure)
                           : HostText(failure.textId);
 }
 
+// Hands a member of the dialog on as the window that it is.
+template <auto Member>
+CWnd& MemberOf(KZDeviceCfgZEP& dialog) noexcept
+{
+    return dialog.*Member;
+}
+
 // The wait cursor while a device is written, the arrow afterwards.
 class WaitCursor {
 public:
@@ -83,6 +92,32 @@ public:
 };
 
 }  // namespace
+
+// A control that shows a value, in the order in which they are bound.
+struct KZDeviceCfgZEP::Field {
+    int control;
+    CWnd& (*window)(KZDeviceCfgZEP& dialog) noexcept;
+    std::optional<InformationField> shown = std::nullopt;  // the child whose text it shows
+    UINT length = 0;                                       // of what may be typed
+    KZBasicString zep::InformationEntries::*entry = nullptr;
+
+    static const std::array<Field, 9> All;
+};
+
+const std::array<KZDeviceCfgZEP::Field, 9> KZDeviceCfgZEP::Field::All{{
+    {IDC_VERSION, MemberOf<&KZDeviceCfgZEP::m_stcVersion>, InformationField::Version},
+    {IDC_MODEL, MemberOf<&KZDeviceCfgZEP::m_stcModel>},
+    {IDC_SERIAL_NUMBER, MemberOf<&KZDeviceCfgZEP::m_stcSerialNumber>, InformationField::SerialNumber},
+    {IDC_GAMMA, MemberOf<&KZDeviceCfgZEP::m_stcGamma>, InformationField::Gamma},
+    {IDC_RATIO, MemberOf<&KZDeviceCfgZEP::m_edtRatio>, InformationField::TransformerRatio, 4,
+     &zep::InformationEntries::transformerRatio},
+    {IDC_CURRENT, MemberOf<&KZDeviceCfgZEP::m_edtCurrent>, InformationField::MinimumCurrent, 3,
+     &zep::InformationEntries::minimumCurrent},
+    {IDC_ALGORITHM, MemberOf<&KZDeviceCfgZEP::m_cmbAlgorithm>},
+    {IDC_UNITS, MemberOf<&KZDeviceCfgZEP::m_edtUnits>, InformationField::UnitCount, 1,
+     &zep::InformationEntries::unitCount},
+    {IDC_STATUS, MemberOf<&KZDeviceCfgZEP::m_cmbStatus>},
+}};
 
 BEGIN_MESSAGE_MAP(KZDeviceCfgZEP, KZBaseDeviceCfg)
 END_MESSAGE_MAP()
@@ -103,15 +138,8 @@ void KZDeviceCfgZEP::DoDataExchange(CDataExchange* pDX)
         DDX_Control(pDX, IDC_MODE + i, m_btnModes[static_cast<std::size_t>(i)]);
     for (int i = 0; i < zep::FilterCount; ++i)
         DDX_Control(pDX, IDC_FILTER + i, m_btnFilters[static_cast<std::size_t>(i)]);
-    DDX_Control(pDX, IDC_VERSION, m_stcVersion);
-    DDX_Control(pDX, IDC_MODEL, m_stcModel);
-    DDX_Control(pDX, IDC_SERIAL_NUMBER, m_stcSerialNumber);
-    DDX_Control(pDX, IDC_GAMMA, m_stcGamma);
-    DDX_Control(pDX, IDC_RATIO, m_edtRatio);
-    DDX_Control(pDX, IDC_CURRENT, m_edtCurrent);
-    DDX_Control(pDX, IDC_ALGORITHM, m_cmbAlgorithm);
-    DDX_Control(pDX, IDC_UNITS, m_edtUnits);
-    DDX_Control(pDX, IDC_STATUS, m_cmbStatus);
+    for (const Field& field : Field::All)
+        DDX_Control(pDX, field.control, field.window(*this));
 }
 
 BOOL KZDeviceCfgZEP::OnInitDialog()
@@ -120,13 +148,10 @@ BOOL KZDeviceCfgZEP::OnInitDialog()
     SetIcon(LoadProgramIcon(), TRUE);
     SetTexts();
     SetUpOkCancel(m_btnOK, m_btnCancel);
-    m_edtRatio.LimitText(4);
-    m_edtCurrent.LimitText(3);
-    m_edtUnits.LimitText(1);
     const zep::InformationRecord record(*Document()->Root());
     m_initial = record.Settings();
-    ShowIdentity(record);
-    ShowSettings(record);
+    ShowIdentity();
+    ShowRecord(record);
     LayoutControls();
     UpdateData(FALSE);
     return TRUE;
@@ -143,26 +168,26 @@ void KZDeviceCfgZEP::SetTexts()
     SetDlgItemText(IDC_CURRENT_GROUP, HostText(KZS_MINIMUM_CURRENT).c_str());
 }
 
-void KZDeviceCfgZEP::ShowIdentity(const zep::InformationRecord& record)
+void KZDeviceCfgZEP::ShowIdentity()
 {
     const KZDriver& driver = *Driver();
     SetDlgItemText(IDC_NUMBER, KZBasicString::Format(L"%d", driver.Number()).c_str());
     SetDlgItemText(IDC_IDENTIFIER, driver.Name().c_str());
     m_stcModel.SetWindowText(KZQuorvelantaSetup::Get()->DriverName(driver.TypeName().c_str()).c_str());
     SetDlgItemText(IDC_DESCRIPTION, driver.Description().c_str());
-    m_stcVersion.SetWindowText(record.Text(InformationField::Version).c_str());
-    m_stcSerialNumber.SetWindowText(record.Text(InformationField::SerialNumber).c_str());
-    m_stcGamma.SetWindowText(record.Text(InformationField::Gamma).c_str());
 }
 
-void KZDeviceCfgZEP::ShowSettings(const zep::InformationRecord& record)
+void KZDeviceCfgZEP::ShowRecord(const zep::InformationRecord& record)
 {
+    for (const Field& field : Field::All) {
+        if (field.length > 0)
+            field.window(*this).SendMessage(EM_LIMITTEXT, field.length);
+        if (field.shown)
+            field.window(*this).SetWindowText(record.Text(*field.shown).c_str());
+    }
     CheckBits(m_btnModes, m_initial.modes);
     CheckBits(m_btnFilters, m_initial.filters);
-    m_edtRatio.SetWindowText(record.Text(InformationField::TransformerRatio).c_str());
-    m_edtCurrent.SetWindowText(record.Text(InformationField::MinimumCurrent).c_str());
     FillList(m_cmbAlgorithm, AlgorithmItems, record.AlgorithmChoice());
-    m_edtUnits.SetWindowText(record.Text(InformationField::UnitCount).c_str());
     FillList(m_cmbStatus, StatusItems, record.StatusChoice());
     // The device decides these three; here they are only shown.
     m_edtRatio.EnableWindow(FALSE);
@@ -172,8 +197,7 @@ void KZDeviceCfgZEP::ShowSettings(const zep::InformationRecord& record)
 
 void KZDeviceCfgZEP::OnOK()
 {
-    UpdateData(TRUE);
-    if (!Validate())
+    if (!UpdateData(TRUE) || !Validate())
         return;
     // The caller must not record a change when there is none.
     if (m_settings == m_initial) {
@@ -184,30 +208,24 @@ void KZDeviceCfgZEP::OnOK()
         CDialog::OnOK();
 }
 
-zep::InformationEntries KZDeviceCfgZEP::Entries() const
+zep::InformationEntries KZDeviceCfgZEP::Entries()
 {
-    return {CheckedBits(m_btnModes), CheckedBits(m_btnFilters), ControlText(m_edtRatio), ControlText(m_edtCurrent),
-            ControlText(m_edtUnits)};
+    zep::InformationEntries entries{.modes = CheckedBits(m_btnModes), .filters = CheckedBits(m_btnFilters)};
+    for (const Field& field : Field::All)
+        if (field.entry)
+            entries.*field.entry = ControlText(field.window(*this));
+    return entries;
 }
 
 bool KZDeviceCfgZEP::Validate()
 {
     const auto failure = zep::CheckInformation(Entries(), m_settings);
-    if (failure)
-        ShowMessageAndFocus(MessageOf(*failure), EditOf(failure->field));
-    return !failure;
-}
-
-CEdit& KZDeviceCfgZEP::EditOf(InformationField field) noexcept
-{
-    switch (field) {
-    case InformationField::MinimumCurrent:
-        return m_edtCurrent;
-    case InformationField::UnitCount:
-        return m_edtUnits;
-    default:
-        return m_edtRatio;
-    }
+    if (!failure)
+        return true;
+    const auto field = std::find_if(Field::All.begin(), Field::All.end(),
+                                    [&](const Field& candidate) { return candidate.shown == failure->field; });
+    ShowMessageAndFocus(MessageOf(*failure), static_cast<CEdit&>(field->window(*this)));
+    return false;
 }
 
 bool KZDeviceCfgZEP::IsConfirmed() const

@@ -25,17 +25,18 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    struct Field;
+
     void SetTexts();
-    void ShowIdentity(const zep::InformationRecord& record);
-    void ShowSettings(const zep::InformationRecord& record);
+    void ShowIdentity();
+    void ShowRecord(const zep::InformationRecord& record);
     void LayoutControls();
 
-    [[nodiscard]] zep::InformationEntries Entries() const;
+    [[nodiscard]] zep::InformationEntries Entries();
     // Checks the entries; the first that is refused is shown in a message and focused.
     [[nodiscard]] bool Validate();
     [[nodiscard]] bool IsConfirmed() const;
     [[nodiscard]] bool WriteRecord();
-    [[nodiscard]] CEdit& EditOf(zep::InformationField field) noexcept;
 
     CImageButton m_btnCancel;
     CImageButton m_btnOK;

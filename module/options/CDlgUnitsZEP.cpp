@@ -146,7 +146,8 @@ void CDlgUnitsZEP::LayoutControls()
 
 void CDlgUnitsZEP::OnOK()
 {
-    UpdateData(TRUE);
+    if (!UpdateData(TRUE))
+        return;
     if (m_choices == m_initial) {
         CDialog::OnCancel();
         return;

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "DeviceDialogFixture.h"
+#include "RefusingExchange.h"
 
 namespace {
 
@@ -205,6 +206,19 @@ TEST_F(DeviceDialogRefusal, ReportsTheFirstFieldOnly)
               }),
               StillOpen);
     EXPECT_EQ(boxes.Take(), (std::vector{kztest::SeenMessage{Range(0, 200), false}}));
+}
+
+TEST_F(DeviceDialog, StaysOpenAndAsksNothingWhenItsControlsCannotBeRead)
+{
+    kztest::MessageBoxes boxes(IDYES);
+    RefusingExchange<KZDeviceCfgZEP> dialog(nullptr, m_plant.Device(), nullptr);
+    RunDialog(dialog, [&] {
+        Type(IDC_CURRENT, L"8");
+        Press(IDOK);
+        EXPECT_EQ(Written(L"minCurrent"), L"007");
+        Press(IDCANCEL);
+    });
+    EXPECT_TRUE(boxes.Take().empty());
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "MessageBoxes.h"
 #include "ModalDialogTest.h"
 #include "ParameterNames.h"
+#include "RefusingExchange.h"
 #include "UnitsControls.h"
 
 namespace {
@@ -232,6 +233,18 @@ TEST_F(UnitsDialog, LeavesNoWindowMenuOrGdiObjectBehind)
     const auto before = kztest::CountGuiResources();
     Run([] {});
     EXPECT_EQ(kztest::CountGuiResources(), before);
+}
+
+TEST_F(UnitsDialog, StaysOpenAndWritesNothingWhenItsControlsCannotBeRead)
+{
+    RefusingExchange<CDlgUnitsZEP> dialog(nullptr, m_plant.Device());
+    RunDialog(dialog, [&] {
+        Click(ApparentDecimals[3]);
+        Press(IDOK);
+        EXPECT_EQ(Stored(L"AP-VA", L"decimals"), Stored(L"no such unit", L"decimals"));
+        EXPECT_FALSE(Plant::IsDirty());
+        Press(IDCANCEL);
+    });
 }
 
 }  // namespace
