@@ -10,12 +10,31 @@
 
 struct XmlDocument::State {
     DocumentSource source;
-    ReplacedTexts replaced;
-    bool changed = false;  // the tree differs from the text
+    TreeEdit edit{source.tree};
+    bool changed = false;     // the tree differs from the text
+    bool wasChanged = false;  // before the edit
     bool dirty = false;
     XmlNode* root = nullptr;
     // The elements that somebody has asked for. Their addresses stay as long as the document's content.
     std::unordered_map<const void*, std::unique_ptr<XmlNode>> nodes;
+
+    // Runs a part of an edit. When it throws, the whole edit is taken back.
+    template <class Part>
+    auto Edit(Part part)
+    {
+        try {
+            return part();
+        } catch (...) {
+            edit.Undo([this](const void* element) { nodes.erase(element); });
+            changed = wasChanged;
+            throw;
+        }
+    }
+    void Keep() noexcept
+    {
+        edit.Keep();
+        wasChanged = changed;
+    }
 
     // The one object that stands for an element; null for the empty handle.
     [[nodiscard]] XmlNode* NodeOf(XmlDocument& document, pugi::xml_node element);

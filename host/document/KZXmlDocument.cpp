@@ -91,7 +91,7 @@ std::string XmlDocument::Serialize() const
     const std::string mark = source.byteOrderMark ? "\xEF\xBB\xBF" : "";
     if (!m_state->changed)
         return mark + EncodeUtf8(source.text);
-    return mark + EncodeUtf8(SourceWriter(source, m_state->replaced).Write());
+    return mark + EncodeUtf8(SourceWriter(source, m_state->edit.Replaced()).Write());
 }
 
 XmlDocument::XmlNode* XmlDocument::Root() const noexcept
@@ -107,6 +107,7 @@ XmlDocument::XmlNode* XmlDocument::Node(const wchar_t* path) const
 void XmlDocument::SetDirty(bool dirty) noexcept
 {
     m_state->dirty = dirty;
+    m_state->Keep();
 }
 
 bool XmlDocument::IsDirty() const noexcept

@@ -21,7 +21,8 @@ XmlDocument::XmlNode::~XmlNode() = default;
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::Wrap(void* element) const
 {
-    return m_document->m_state->NodeOf(*m_document, Element(element));
+    State& state = *m_document->m_state;
+    return state.Edit([&] { return state.NodeOf(*m_document, Element(element)); });
 }
 
 const wchar_t* XmlDocument::XmlNode::Name() const noexcept
@@ -44,7 +45,7 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::NodeV(const wchar_t* format, ...) co
 {
     std::va_list arguments;
     va_start(arguments, format);
-    const std::wstring path = FormatWide(format, arguments);
+    const std::wstring path = m_document->m_state->Edit([&] { return FormatWide(format, arguments); });
     va_end(arguments);
     return Node(path.c_str());
 }
@@ -55,11 +56,12 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::NewChild(const wchar_t* name, XmlNod
     const pugi::xml_node successor = before ? Element(before->m_element) : pugi::xml_node();
     if (!name || !IsElementName(name) || (before && successor.parent() != parent))
         return nullptr;
-    NewElement element(parent, name, successor);
-    XmlNode* node = Wrap(element.Get().internal_object());
-    element.Keep();
-    m_document->m_state->changed = true;
-    return node;
+    State& state = *m_document->m_state;
+    return state.Edit([&] {
+        XmlNode* const node = state.NodeOf(*m_document, state.edit.AddElement(parent, name, successor));
+        state.changed = true;
+        return node;
+    });
 }
 
 bool XmlDocument::XmlNode::SetValue(const wchar_t* name, const wchar_t* text)
@@ -67,22 +69,20 @@ bool XmlDocument::XmlNode::SetValue(const wchar_t* name, const wchar_t* text)
     if (!name || !IsElementName(name))
         return false;
     State& state = *m_document->m_state;
-    const std::wstring_view newText = text ? text : L"";
-    if (const pugi::xml_node value = ChildElement(Element(m_element), name)) {
-        if (SetText(value, newText, state.replaced))
+    state.Edit([&] {
+        pugi::xml_node value = ChildElement(Element(m_element), name);
+        const bool isNew = !value;
+        if (isNew)
+            value = state.edit.AddElement(Element(m_element), name, {});
+        if (state.edit.SetText(value, text ? text : L"") || isNew)
             state.changed = true;
-        return true;
-    }
-    NewElement value(Element(m_element), name, {});
-    SetText(value.Get(), newText, state.replaced);
-    value.Keep();
-    state.changed = true;
+    });
     return true;
 }
 
 bool XmlDocument::XmlNode::SetValue(const wchar_t* name, int value)
 {
-    return SetValue(name, std::to_wstring(value).c_str());
+    return m_document->m_state->Edit([&] { return SetValue(name, std::to_wstring(value).c_str()); });
 }
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::FirstChild(const wchar_t* name) const

@@ -9,11 +9,6 @@
 
 namespace {
 
-pugi::xml_node InsertNode(pugi::xml_node parent, pugi::xml_node_type type, pugi::xml_node before) noexcept
-{
-    return before ? parent.insert_child_before(type, before) : parent.append_child(type);
-}
-
 void MustSucceed(bool done)
 {
     if (!done)
@@ -81,36 +76,6 @@ ReplacedText PlaceOf(pugi::xml_node first, pugi::xml_node last) noexcept
     return {first.offset_debug(), first.type(), last.offset_debug(), last.type()};
 }
 
-// Makes every text of an element empty: where comments divide its text, the piece behind an empty one would be read.
-void ClearTexts(pugi::xml_node element, ReplacedTexts& replaced)
-{
-    std::vector<NewNode> nodes;
-    ReplacedTexts added;
-    for (pugi::xml_node child = element.first_child(); child; child = child.next_sibling()) {
-        if (!WasRead(child))
-            continue;
-        const pugi::xml_node last = LastAdjoining(child);
-        NewNode node(element.insert_child_before(pugi::node_pcdata, child));
-        added.emplace(node.Get().internal_object(), PlaceOf(child, last));
-        nodes.push_back(std::move(node));
-        child = last;
-    }
-    replaced.reserve(replaced.size() + added.size());
-
-    // From here on nothing fails.
-    replaced.merge(added);
-    for (pugi::xml_node child = element.first_child(); child;) {
-        const pugi::xml_node next = child.next_sibling();
-        if (WasRead(child))
-            element.remove_child(child);
-        else if (IsText(child))
-            child.set_value(L"");
-        child = next;
-    }
-    for (NewNode& node : nodes)
-        node.Keep();
-}
-
 }  // namespace
 
 bool IsElementName(std::wstring_view name) noexcept
@@ -127,73 +92,103 @@ bool IsElementName(std::wstring_view name) noexcept
     return true;
 }
 
-NewNode::NewNode(pugi::xml_node node) : m_node(node)
+pugi::xml_node TreeEdit::Add(pugi::xml_node parent, pugi::xml_node_type type, pugi::xml_node before)
 {
+    m_steps.emplace_back();
+    const pugi::xml_node node = before ? parent.insert_child_before(type, before) : parent.append_child(type);
+    m_steps.back().node = node;
     MustSucceed(!node.empty());
+    return node;
 }
 
-NewNode::~NewNode()
+pugi::xml_node TreeEdit::AddText(pugi::xml_node parent, pugi::xml_node before, std::wstring_view text)
 {
-    if (m_node)
-        m_node.parent().remove_child(m_node);
+    pugi::xml_node node = Add(parent, pugi::node_pcdata, before);
+    MustSucceed(node.set_value(text.data(), text.size()));
+    return node;
 }
 
-NewNode& NewNode::operator=(NewNode&& other) noexcept
-{
-    std::swap(m_node, other.m_node);
-    return *this;
-}
-
-NewElement::NewElement(pugi::xml_node parent, const wchar_t* name, pugi::xml_node before)
+pugi::xml_node TreeEdit::AddElement(pugi::xml_node parent, const wchar_t* name, pugi::xml_node before)
 {
     const Indentation blanks = before ? IndentationBefore(before) : IndentationAtEnd(parent);
     if (!before && IsBlankText(parent.last_child()))
         before = parent.last_child();
-
-    m_element = NewNode(InsertNode(parent, pugi::node_element, before));
-    MustSucceed(Get().set_name(name));
-    if (!blanks.before.empty()) {
-        m_blanksBefore = NewNode(parent.insert_child_before(pugi::node_pcdata, Get()));
-        MustSucceed(m_blanksBefore.Get().set_value(blanks.before.c_str()));
-    }
-    if (!blanks.after.empty()) {
-        m_blanksAfter = NewNode(parent.insert_child_after(pugi::node_pcdata, Get()));
-        MustSucceed(m_blanksAfter.Get().set_value(blanks.after.c_str()));
-    }
+    if (!blanks.before.empty())
+        AddText(parent, before, blanks.before);
+    pugi::xml_node element = Add(parent, pugi::node_element, before);
+    MustSucceed(element.set_name(name));
+    if (!blanks.after.empty())
+        AddText(parent, before, blanks.after);
+    return element;
 }
 
-void NewElement::Keep() noexcept
+bool TreeEdit::SetText(pugi::xml_node element, std::wstring_view text)
 {
-    m_element.Keep();
-    m_blanksBefore.Keep();
-    m_blanksAfter.Keep();
-}
-
-bool SetText(pugi::xml_node element, std::wstring_view text, ReplacedTexts& replaced)
-{
-    pugi::xml_node old = TextNodeOf(element);
+    const pugi::xml_node old = TextNodeOf(element);
     std::wstring buffer;
     const std::wstring_view storable = Storable(text, old.value(), buffer);
     if (storable == old.value())
         return false;
-    if (storable.empty()) {
-        ClearTexts(element, replaced);
-        return true;
-    }
-    if (old && !WasRead(old)) {
-        MustSucceed(old.set_value(storable.data(), storable.size()));
-        return true;
-    }
-
-    // A text that was read is not changed but replaced: pugixml would write into the place whose offset says where the
-    // text stands in the source. Texts next to it go with it; they would run into the new one.
-    NewNode node(old ? element.insert_child_before(pugi::node_pcdata, old) : element.append_child(pugi::node_pcdata));
-    MustSucceed(node.Get().set_value(storable.data(), storable.size()));
-    if (old) {
-        replaced.emplace(node.Get().internal_object(), PlaceOf(old, LastAdjoining(old)));
-        while (WasRead(node.Get().next_sibling()))
-            element.remove_child(node.Get().next_sibling());
-    }
-    node.Keep();
+    if (!old)
+        AddText(element, {}, storable);
+    else if (!storable.empty())
+        Replace(old, storable);
+    else
+        // All of them: where comments divide the text, the piece behind an empty one would be read.
+        for (pugi::xml_node child = old; child; child = child.next_sibling())
+            if (IsText(child))
+                child = Replace(child, {});
     return true;
+}
+
+// A text is not changed but replaced, so that it can come back, and because pugixml would write into the place whose
+// offset says where the text stands in the source. Texts that were read next to it go with it: they would run into the
+// new one.
+pugi::xml_node TreeEdit::Replace(pugi::xml_node text, std::wstring_view newText)
+{
+    const auto known = m_replaced.find(text.internal_object());
+    const bool stands = WasRead(text);
+    const pugi::xml_node last = stands ? LastAdjoining(text) : text;
+    const pugi::xml_node node = AddText(text.parent(), text, newText);
+    if (stands)
+        m_replaced.emplace(node.internal_object(), PlaceOf(text, last));
+    else if (known != m_replaced.end())
+        m_replaced.emplace(node.internal_object(), ReplacedText(known->second));
+    for (bool isLast = false; !isLast;) {
+        const pugi::xml_node old = node.next_sibling();
+        isLast = old == last;
+        TakeAway(old, node);
+    }
+    return node;
+}
+
+void TreeEdit::TakeAway(pugi::xml_node node, pugi::xml_node replacedBy)
+{
+    if (!m_attic)
+        m_attic = m_tree.append_child(pugi::node_element);
+    MustSucceed(!m_attic.empty());
+    m_steps.push_back({node, replacedBy});
+    m_attic.append_move(node);
+}
+
+void TreeEdit::Keep() noexcept
+{
+    for (const pugi::xml_node old : m_attic)
+        m_replaced.erase(old.internal_object());
+    m_attic.remove_children();
+    m_steps.clear();
+}
+
+// Returns the node that is no longer in the tree, or null when one has come back.
+const void* TreeEdit::TakeBack(const Step& step) noexcept
+{
+    if (step.replacedBy) {
+        pugi::xml_node(step.replacedBy).parent().insert_move_after(step.node, step.replacedBy);
+        return nullptr;
+    }
+    const void* const gone = step.node.internal_object();
+    m_replaced.erase(gone);
+    if (step.node)
+        step.node.parent().remove_child(step.node);
+    return gone;
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <utility>
+#include <vector>
 
 // Texts that took the place of others, each with the places in the tree of the first and the last node that it
 // replaced.
@@ -20,40 +20,46 @@ using ReplacedTexts = std::unordered_map<const void*, ReplacedText>;
 // Whether a text can be the name of an element.
 [[nodiscard]] bool IsElementName(std::wstring_view name) noexcept;
 
-// A node that leaves the tree again unless it is kept.
-class NewNode {
+// The changes to a tree since the last Keep, which can be taken back as long as nothing else changes the tree.
+class TreeEdit {
 public:
-    NewNode() noexcept = default;
-    // Throws std::bad_alloc for the empty handle that pugixml gives when memory is short.
-    explicit NewNode(pugi::xml_node node);
-    ~NewNode();
-    NewNode(NewNode&& other) noexcept : m_node(std::exchange(other.m_node, {})) {}
-    NewNode& operator=(NewNode&& other) noexcept;
+    explicit TreeEdit(pugi::xml_document& tree) noexcept : m_tree(tree) {}
 
-    [[nodiscard]] pugi::xml_node Get() const noexcept { return m_node; }
-    void Keep() noexcept { m_node = {}; }
+    // Adds a node before a child of the parent or, when before is empty, as the last one.
+    pugi::xml_node Add(pugi::xml_node parent, pugi::xml_node_type type, pugi::xml_node before);
+    // Adds an element on a line of its own, indented as its siblings are.
+    pugi::xml_node AddElement(pugi::xml_node parent, const wchar_t* name, pugi::xml_node before);
+    // Sets an element's text. Line ends become "\n"; what XML has no way to hold becomes U+FFFD. Returns false when the
+    // element has that text already.
+    bool SetText(pugi::xml_node element, std::wstring_view text);
+    // Those three throw std::bad_alloc, after which Undo must follow.
 
-private:
-    pugi::xml_node m_node;
-};
-
-// An element on a line of its own, indented as its siblings are. It leaves the tree again, with its blanks, unless it
-// is kept.
-class NewElement {
-public:
-    // Adds it before a child of the parent or, when before is empty, as the last child. Throws std::bad_alloc, having
-    // changed nothing.
-    NewElement(pugi::xml_node parent, const wchar_t* name, pugi::xml_node before);
-
-    [[nodiscard]] pugi::xml_node Get() const noexcept { return m_element.Get(); }
+    // The changes are for good.
     void Keep() noexcept;
+    // Takes the changes back, which needs no memory, and tells of each element that goes.
+    template <class Forget>
+    void Undo(Forget forget) noexcept
+    {
+        for (; !m_steps.empty(); m_steps.pop_back())
+            forget(TakeBack(m_steps.back()));
+    }
+
+    [[nodiscard]] const ReplacedTexts& Replaced() const noexcept { return m_replaced; }
 
 private:
-    NewNode m_element;
-    NewNode m_blanksBefore;
-    NewNode m_blanksAfter;
-};
+    // A node that was added or, with one that stands in its place, was taken away.
+    struct Step {
+        pugi::xml_node node;
+        pugi::xml_node replacedBy;
+    };
 
-// Sets an element's text. Line ends become "\n"; what XML has no way to hold becomes U+FFFD.
-// Returns false when the element has that text already. Throws std::bad_alloc, having changed nothing.
-bool SetText(pugi::xml_node element, std::wstring_view text, ReplacedTexts& replaced);
+    pugi::xml_node AddText(pugi::xml_node parent, pugi::xml_node before, std::wstring_view text);
+    pugi::xml_node Replace(pugi::xml_node text, std::wstring_view newText);
+    void TakeAway(pugi::xml_node node, pugi::xml_node replacedBy);
+    const void* TakeBack(const Step& step) noexcept;
+
+    pugi::xml_document& m_tree;
+    pugi::xml_node m_attic;  // behind the root element: what was taken away
+    std::vector<Step> m_steps;
+    ReplacedTexts m_replaced;
+};

@@ -66,7 +66,11 @@ public:
     };
 
     // An empty document with one root element of the given name. Throws std::invalid_argument when it is no element
-    // name. Every operation that needs memory throws std::bad_alloc when there is none, leaving the document as it was.
+    // name.
+    // Every operation that needs memory throws std::bad_alloc when there is none. All that was changed since SetDirty
+    // was last called, or since the document was read or saved, is then taken back, so that what a caller writes
+    // between two such moments is in the document whole or not at all. Elements that were new in it are gone, their
+    // XmlNodes too.
     explicit XmlDocument(const wchar_t* rootName);
     virtual ~XmlDocument();
     XmlDocument(const XmlDocument&) = delete;

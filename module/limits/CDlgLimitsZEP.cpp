@@ -116,11 +116,13 @@ bool CDlgLimitsZEP::ArePagesModified()
 void CDlgLimitsZEP::SavePages()
 {
     XmlDocument& configuration = *KZMainCfg::Get();
-    if (!m_pViewSetup)
-        m_pViewSetup = &zep::AppendViewSetup(configuration, m_pDriver->DriverId());
+    XmlDocument::XmlNode* const viewSetup =
+        m_pViewSetup ? m_pViewSetup : &zep::AppendViewSetup(configuration, m_pDriver->DriverId());
     for (const auto& page : m_pages)
-        page->Save(*m_pViewSetup);
+        page->Save(*viewSetup);
     configuration.SetDirty(true);
+    // Not before it is whole: a save that fails leaves none.
+    m_pViewSetup = viewSetup;
 }
 
 void CDlgLimitsZEP::OnSize(UINT type, int cx, int cy)

@@ -48,9 +48,9 @@ void UnitsRecord::Write(const UnitChoices& choices)
         unit.SetValue(L"decimals", choices[i].decimals);
         unit.SetValue(L"factor", choices[i].scale == UnitChoice::Kilo ? KiloFactor : PlainFactor);
     }
-    // Not before it is whole: what a write that fails leaves behind is not the driver's record.
-    m_setup = &setup;
     m_configuration.SetDirty(true);
+    // Not before it is whole: a write that fails leaves none.
+    m_setup = &setup;
 }
 
 XmlDocument::XmlNode& UnitsRecord::NewSetup() const

@@ -44,7 +44,8 @@ public:
     // has no radio is returned as it stands.
     [[nodiscard]] UnitChoices Read() const;
 
-    // Writes both units, creating what is missing, and marks the document dirty.
+    // Writes both units, creating what is missing, and marks the document dirty. Throws std::bad_alloc when memory runs
+    // out, the document being as it was then.
     void Write(const UnitChoices& choices);
 
 private:

@@ -70,6 +70,41 @@ TEST_F(ScarceMemory, LeavesEveryPieceOfATextThatCannotBeEmptied)
     EXPECT_EQ(document.Serialize(), "<r><v><!-- c --><w/></v></r>");
 }
 
+// All kinds of changes, with one before them that is for good.
+TEST_F(ScarceMemory, TakesBackAWholeEditThatFails)
+{
+    constexpr char text[] = "<r>\n  <a>o&#110;e<!-- c -->two</a>\n  <b><![CDATA[three]]> four</b>\n  <c> </c>\n</r>\n";
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse(text));
+    document.Root()->SetValue(L"c", L"kept");
+    document.SetDirty(true);
+    const std::string before = document.Serialize();
+    const auto edit = [&] {
+        XmlDocument::XmlNode& root = *document.Root();
+        root.SetValue(L"a", L"");
+        root.SetValue(L"b", L"changed");
+        root.SetValue(L"b", L"changed once more");
+        root.SetValue(L"c", L"changed");
+        XmlDocument::XmlNode& child = *root.NewChild(L"d", root.FirstChild(L"b"));
+        child.SetValue(L"e", std::wstring(20000, L'e').c_str());
+        child.SetValue(L"e", std::wstring(30000, L'e').c_str());
+        child.SetValue(L"f", 1234567);
+    };
+    WithScarceMemory(edit, [&] {
+        EXPECT_EQ(document.Serialize(), before);
+        EXPECT_STREQ(document.Root()->Value(L"a", L""), L"one");
+        EXPECT_STREQ(document.Root()->Value(L"b", L""), L"three");
+        EXPECT_EQ(document.Node(L"d"), nullptr);
+    });
+    const std::string after = document.Serialize();
+    XmlDocument undisturbed(L"r");
+    ASSERT_TRUE(undisturbed.Parse(after));
+    EXPECT_STREQ(undisturbed.Root()->Value(L"b", L""), L"changed once more");
+    EXPECT_STREQ(undisturbed.Root()->Value(L"d/f", L""), L"1234567");
+    document.SetDirty(true);
+    EXPECT_EQ(document.Serialize(), after);
+}
+
 TEST_F(ScarceMemory, LeavesNoHalfMadeValue)
 {
     XmlDocument document(L"r");
