@@ -38,11 +38,12 @@ void AnchoredControls::Apply() const
     const int y = client.cy - m_sizeClient.cy;
     HDWP moves = ::BeginDeferWindowPos(static_cast<int>(m_controls.size()));
     for (const auto& [anchor, drawn] : m_controls) {
+        HWND control = nullptr;
+        m_pDialog->GetDlgItem(anchor->control, &control);
         if (moves)
-            moves = ::DeferWindowPos(moves, m_pDialog->GetDlgItem(anchor->control)->m_hWnd, nullptr,
-                                     drawn.left + x * anchor->moveX / 100, drawn.top + y * anchor->moveY / 100,
-                                     drawn.Width() + x * anchor->growX / 100, drawn.Height() + y * anchor->growY / 100,
-                                     SWP_NOZORDER | SWP_NOACTIVATE);
+            moves = ::DeferWindowPos(moves, control, nullptr, drawn.left + x * anchor->moveX / 100,
+                                     drawn.top + y * anchor->moveY / 100, drawn.Width() + x * anchor->growX / 100,
+                                     drawn.Height() + y * anchor->growY / 100, SWP_NOZORDER | SWP_NOACTIVATE);
     }
     if (moves)
         ::EndDeferWindowPos(moves);

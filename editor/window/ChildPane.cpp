@@ -74,8 +74,9 @@ void ChildPane::Arrange()
     CRect margin(0, 0, 7, 7);
     MapDialogRect(&margin);
     client.DeflateRect(margin.Width(), margin.Height());
-    GetDlgItem(IDC_PANE_TEXT)
-        ->SetWindowPos(nullptr, client.left, client.top, client.Width(), client.Height(), MoveOnly);
+    // Null when Windows tells the pane its size before it makes the controls.
+    if (CWnd* text = GetDlgItem(IDC_PANE_TEXT))
+        text->SetWindowPos(nullptr, client.left, client.top, client.Width(), client.Height(), MoveOnly);
 }
 
 void ChildPane::OnSize(UINT type, int cx, int cy)
