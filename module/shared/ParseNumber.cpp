@@ -6,8 +6,8 @@
 
 namespace zep {
 
-// std::wcstod itself is no use: MinGW's copies the text to the heap without looking whether there was memory for it, and
-// is off by the last bit for some numbers. std::strtod needs no memory for a number of a usual length.
+// std::wcstod itself is no use: MinGW's copies the text to the heap without looking whether there was memory for it,
+// and is off by the last bit for some numbers. std::strtod needs no memory for a number of a usual length.
 double ParseNumber(const wchar_t* text)
 {
     const std::string separator = std::localeconv()->decimal_point;
