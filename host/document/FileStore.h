@@ -1,4 +1,4 @@
-// Whole files, read and replaced; the one part of the documents that differs between platforms.
+// Whole files, read and replaced.
 #pragma once
 
 #include <filesystem>

@@ -11,10 +11,6 @@ bool FailWith(DWORD error) noexcept
     return true;
 }
 
-DWORD WINAPI Attributes(const wchar_t* file)
-{
-    return FailWith(ERROR_NETNAME_DELETED) ? INVALID_FILE_ATTRIBUTES : ::GetFileAttributesW(file);
-}
 HANDLE WINAPI Create(const wchar_t* file, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security, DWORD disposition,
                      DWORD flags, HANDLE like)
 {
@@ -52,13 +48,10 @@ struct Function {
     const char* symbol;
     void* replacement;
 };
-const Function Functions[FileCallCount] = {{"GetFileAttributesW", reinterpret_cast<void*>(&Attributes)},
-                                           {"CreateFileW", reinterpret_cast<void*>(&Create)},
-                                           {"ReadFile", reinterpret_cast<void*>(&Read)},
-                                           {"WriteFile", reinterpret_cast<void*>(&Write)},
-                                           {"FlushFileBuffers", reinterpret_cast<void*>(&Flush)},
-                                           {"CloseHandle", reinterpret_cast<void*>(&Close)},
-                                           {"MoveFileExW", reinterpret_cast<void*>(&Move)}};
+const Function Functions[FileCallCount] = {
+    {"CreateFileW", reinterpret_cast<void*>(&Create)}, {"ReadFile", reinterpret_cast<void*>(&Read)},
+    {"WriteFile", reinterpret_cast<void*>(&Write)},    {"FlushFileBuffers", reinterpret_cast<void*>(&Flush)},
+    {"CloseHandle", reinterpret_cast<void*>(&Close)},  {"MoveFileExW", reinterpret_cast<void*>(&Move)}};
 
 }  // namespace
 

@@ -6,8 +6,8 @@
 #include "ImportPatch.h"
 
 // The file functions that a document's load and save consist of, in the order of their first use there.
-enum class FileCall { Attributes, Create, Read, Write, Flush, Close, Move };
-inline constexpr int FileCallCount = 7;
+enum class FileCall { Create, Read, Write, Flush, Close, Move };
+inline constexpr int FileCallCount = 6;
 [[nodiscard]] const char* NameOf(FileCall call) noexcept;
 
 class FileFaults {
