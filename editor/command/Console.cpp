@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "text/Utf8.h"
+#include "KZUtf8.h"
 
 namespace {
 

@@ -2,10 +2,10 @@
 
 #include <cwctype>
 
+#include "KZUtf8.h"
 #include "PeFile.h"
 #include "project/DeviceType.h"
 #include "text/EditorText.h"
-#include "text/Utf8.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "Utf8.h"
+#include "KZUtf8.h"
 
 // what() is the line in UTF-8. Never leaves main or a window procedure.
 class EditorError : public std::runtime_error {

@@ -6,6 +6,7 @@
 #include "EmbeddedCommand.h"
 #include "KZDlgOptions.h"
 #include "KZMainCfg.h"
+#include "KZUtf8.h"
 #include "WindowIcon.h"
 #include "modules/ModuleSummary.h"
 #include "summary/DeviceSummary.h"

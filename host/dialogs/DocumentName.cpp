@@ -1,9 +1,9 @@
 #include "DocumentName.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
 #include <cwctype>
+
+#include "../text/Utf8.h"
 
 namespace {
 
@@ -13,39 +13,12 @@ constexpr bool IsPlain(wchar_t c) noexcept
            c == L'.' || c == L' ';
 }
 
-void AppendByte(std::wstring& text, std::uint32_t byte)
+void AppendEscaped(std::wstring& text, unsigned char byte)
 {
     constexpr wchar_t Digits[] = L"0123456789ABCDEF";
     text += L'%';
-    text += Digits[byte >> 4 & 0xF];
+    text += Digits[byte >> 4];
     text += Digits[byte & 0xF];
-}
-
-// The bytes of a character's UTF-8 form. Half a surrogate pair is encoded like any other number, so that it stays
-// distinct from everything else.
-void AppendEscaped(std::wstring& text, std::uint32_t c)
-{
-    if (c < 0x80) {
-        AppendByte(text, c);
-        return;
-    }
-    const int following = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-    constexpr std::array<std::uint32_t, 4> Lead = {0, 0xC0, 0xE0, 0xF0};
-    AppendByte(text, Lead[static_cast<std::size_t>(following)] | c >> (6 * following));
-    for (int i = following - 1; i >= 0; --i)
-        AppendByte(text, 0x80 | (c >> (6 * i) & 0x3F));
-}
-
-// The next character; a surrogate pair is one.
-std::uint32_t TakeCharacter(std::wstring_view& rest) noexcept
-{
-    std::uint32_t c = rest.front();
-    rest.remove_prefix(1);
-    if (c >= 0xD800 && c < 0xDC00 && !rest.empty() && rest.front() >= 0xDC00 && rest.front() < 0xE000) {
-        c = 0x10000 + ((c - 0xD800) << 10) + (static_cast<std::uint32_t>(rest.front()) - 0xDC00);
-        rest.remove_prefix(1);
-    }
-    return c;
 }
 
 // Windows reserves these names whatever extension follows.
@@ -69,12 +42,15 @@ std::wstring FileNameFor(std::wstring_view name)
     std::wstring file;
     bool escapeNext = IsReserved(name);
     while (!name.empty()) {
-        const bool plain = IsPlain(name.front());
-        const std::uint32_t c = TakeCharacter(name);
-        if (plain && !escapeNext)
-            file += static_cast<wchar_t>(c);
-        else
-            AppendEscaped(file, c);
+        const bool plain = IsPlain(name.front()) && !escapeNext;
+        std::string bytes;
+        AppendUtf8(bytes, TakeCharacter(name));
+        for (const char byte : bytes) {
+            if (plain)
+                file += static_cast<wchar_t>(byte);
+            else
+                AppendEscaped(file, static_cast<unsigned char>(byte));
+        }
         escapeNext = false;
     }
     return file;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <new>
 
-#include "Utf8.h"
+#include "../text/Utf8.h"
 
 namespace {
 

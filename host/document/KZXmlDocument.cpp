@@ -5,8 +5,8 @@
 
 #include "DocumentState.h"
 #include "FileStore.h"
+#include "KZUtf8.h"
 #include "SourceWriter.h"
-#include "Utf8.h"
 
 namespace {
 
@@ -14,9 +14,8 @@ KZDocumentResult Failure(const std::filesystem::path& file, const std::wstring& 
 {
     // Not path::wstring(), which throws where the C locale cannot hold the name.
     const std::u8string name = file.u8string();
-    std::wstring message;
-    static_cast<void>(DecodeUtf8({reinterpret_cast<const char*>(name.data()), name.size()}, message));
-    return {false, KZBasicString(message + L": " + reason)};
+    const std::wstring wideName = FromUtf8({reinterpret_cast<const char*>(name.data()), name.size()});
+    return {false, KZBasicString(wideName + L": " + reason)};
 }
 
 std::wstring Describe(const SourceFault& fault)
@@ -42,7 +41,7 @@ XmlDocument::XmlDocument(const wchar_t* rootName)
 {
     const std::wstring name = rootName ? rootName : L"";
     const std::wstring text = L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<" + name + L"/>\n";
-    if (!IsElementName(name) || !Replace(EncodeUtf8(text), name.c_str()).ok)
+    if (!IsElementName(name) || !Replace(ToUtf8(text), name.c_str()).ok)
         throw std::invalid_argument("the root of a document needs the name of an element");
 }
 
@@ -90,8 +89,8 @@ std::string XmlDocument::Serialize() const
     const DocumentSource& source = m_state->source;
     const std::string mark = source.byteOrderMark ? "\xEF\xBB\xBF" : "";
     if (!m_state->changed)
-        return mark + EncodeUtf8(source.text);
-    return mark + EncodeUtf8(SourceWriter(source, m_state->edit.Replaced()).Write());
+        return mark + ToUtf8(source.text);
+    return mark + ToUtf8(SourceWriter(source, m_state->edit.Replaced()).Write());
 }
 
 XmlDocument::XmlNode* XmlDocument::Root() const noexcept

@@ -6,8 +6,8 @@
 #include <unistd.h>
 
 #include "FileStore.h"
+#include "KZUtf8.h"
 #include "SystemFile.h"
-#include "Utf8.h"
 
 SystemFile SystemFile::OpenToRead(const std::filesystem::path& file) noexcept
 {
@@ -62,9 +62,7 @@ std::wstring SystemReason()
 {
     if (errno == ENOENT)
         return NoSuchFile;
-    const std::string message = std::generic_category().message(errno);
-    std::wstring reason;
-    return DecodeUtf8(message, reason) == message.size() ? reason : L"system error";
+    return FromUtf8(std::generic_category().message(errno));
 }
 
 unsigned long ProcessNumber() noexcept

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "EditorFixture.h"
-#include "text/Utf8.h"
+#include "KZUtf8.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "text/Utf8.h"
+#include "KZUtf8.h"
 
 namespace fs = std::filesystem;
 

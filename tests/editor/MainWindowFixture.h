@@ -10,8 +10,8 @@
 
 #include "EditorFixture.h"
 #include "KZDlgOptions.h"
+#include "KZUtf8.h"
 #include "resources/EditorIds.h"
-#include "text/Utf8.h"
 
 namespace editor_tests {
 

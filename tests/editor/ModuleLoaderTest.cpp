@@ -10,9 +10,9 @@
 #include "EditorProcess.h"
 #include "KZDriverDeviceZEP.h"
 #include "KZDriverServices.h"
+#include "KZUtf8.h"
 #include "TemporaryFolder.h"
 #include "modules/PeFile.h"
-#include "text/Utf8.h"
 
 namespace fs = std::filesystem;
 

@@ -5,9 +5,9 @@
 #include "KZDriverDeviceZEP.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
+#include "KZUtf8.h"
 #include "TemporaryFolder.h"
 #include "summary/DeviceSummary.h"
-#include "text/Utf8.h"
 
 namespace {
 

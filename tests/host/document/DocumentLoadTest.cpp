@@ -1,10 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "KZUtf8.h"
 #include "KZXmlDocument.h"
 #include "ParameterNames.h"
 #include "TemporaryFolder.h"
-#include "Utf8.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ TEST_P(Parse, SaysWhatIsWrongAndWhere)
     XmlDocument document(L"configuration");
     const KZDocumentResult result = document.Parse(GetParam().text);
     EXPECT_FALSE(result);
-    EXPECT_EQ(EncodeUtf8(result.message.View()), GetParam().message);
+    EXPECT_EQ(ToUtf8(result.message.View()), GetParam().message);
 }
 
 TEST_P(Parse, LeavesTheDocumentAsItWas)
@@ -72,7 +72,7 @@ TEST(ParseDepth, IsLimited)
     EXPECT_TRUE(document.Parse(nested(256)));
     EXPECT_EQ(document.Serialize(), nested(256));
     EXPECT_FALSE(document.Parse(nested(257)));
-    EXPECT_EQ(EncodeUtf8(document.Parse(nested(100000)).message.View()),
+    EXPECT_EQ(ToUtf8(document.Parse(nested(100000)).message.View()),
               "line 1, column 781: the elements are nested more than 256 deep");
 }
 
@@ -105,7 +105,7 @@ TEST(Load, LooksAtTheSizeBeforeItReads)
     folder.Write("main.xml", "<configuration/>");
     std::filesystem::resize_file(folder.Path() / "main.xml", (std::uintmax_t{64} << 20) + 1);
     XmlDocument document(L"configuration");
-    const std::string message = EncodeUtf8(document.Load(folder.Path() / "main.xml").message.View());
+    const std::string message = ToUtf8(document.Load(folder.Path() / "main.xml").message.View());
     EXPECT_THAT(message, HasSubstr("main.xml: the document is larger than 64 MB"));
 }
 
@@ -114,7 +114,7 @@ std::string MessageOf(const std::filesystem::path& file)
     XmlDocument document(L"configuration");
     const KZDocumentResult result = document.Load(file);
     EXPECT_FALSE(result);
-    return EncodeUtf8(result.message.View());
+    return ToUtf8(result.message.View());
 }
 
 std::string NameOf(const std::filesystem::path& file)

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "KZUtf8.h"
 #include "KZXmlDocument.h"
 #include "TemporaryFolder.h"
-#include "Utf8.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -23,7 +23,7 @@ protected:
         const std::size_t files = folder.Count();
         const KZDocumentResult result = document.Save(file);
         EXPECT_FALSE(result);
-        EXPECT_EQ(EncodeUtf8(result.message.View()), file.string() + ": " + reason);
+        EXPECT_EQ(ToUtf8(result.message.View()), file.string() + ": " + reason);
         EXPECT_TRUE(document.IsDirty());
         EXPECT_EQ(folder.Count(), files) << "something was left behind";
     }
@@ -35,7 +35,7 @@ protected:
 TEST_F(Save, WritesTheDocumentAndMakesItClean)
 {
     const KZDocumentResult result = document.Save(folder.Path() / "main.xml");
-    EXPECT_TRUE(result) << EncodeUtf8(result.message.View());
+    EXPECT_TRUE(result) << ToUtf8(result.message.View());
     EXPECT_FALSE(document.IsDirty());
     EXPECT_EQ(folder.Read("main.xml"), document.Serialize());
     EXPECT_EQ(folder.Count(), 1u);

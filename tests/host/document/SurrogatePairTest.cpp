@@ -1,6 +1,7 @@
 // Characters beyond 16 bits, which are two wchar_t each on Windows.
 #include <gtest/gtest.h>
 
+#include "KZUtf8.h"
 #include "KZXmlDocument.h"
 #include "Utf8.h"
 
@@ -14,7 +15,7 @@ TEST(SurrogatePair, StandsForOneCharacter)
     std::wstring text;
     EXPECT_EQ(DecodeUtf8(Emoji, text), 4u);
     EXPECT_EQ(text, WideEmoji);
-    EXPECT_EQ(EncodeUtf8(WideEmoji), Emoji);
+    EXPECT_EQ(ToUtf8(WideEmoji), Emoji);
 }
 
 TEST(SurrogatePair, IsReadAndWritten)
@@ -46,7 +47,7 @@ TEST(SurrogatePair, IsOneColumn)
     XmlDocument document(L"device");
     const KZDocumentResult result = document.Parse(std::string("<device>") + Emoji + "\xFF</device>");
     EXPECT_NE(result.message.View().find(L"line 1, column 10:"), std::wstring_view::npos)
-        << EncodeUtf8(result.message.View());
+        << ToUtf8(result.message.View());
 }
 
 TEST(SurrogatePair, LosesAHalfWithoutItsPartner)

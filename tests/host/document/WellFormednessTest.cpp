@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "KZUtf8.h"
 #include "KZXmlDocument.h"
 #include "ParameterNames.h"
-#include "Utf8.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ TEST_P(NotWellFormed, IsRefusedWithPlaceAndReason)
 {
     XmlDocument document(L"r");
     const std::string before = document.Serialize();
-    EXPECT_EQ(EncodeUtf8(document.Parse(GetParam().text).message.View()), GetParam().message);
+    EXPECT_EQ(ToUtf8(document.Parse(GetParam().text).message.View()), GetParam().message);
     EXPECT_EQ(document.Serialize(), before);
 }
 
@@ -158,7 +158,7 @@ TEST_P(WellFormed, IsTakenAndWrittenBackByteForByte)
 {
     XmlDocument document(L"r");
     const KZDocumentResult result = document.Parse(GetParam().text);
-    EXPECT_TRUE(result) << EncodeUtf8(result.message.View());
+    EXPECT_TRUE(result) << ToUtf8(result.message.View());
     EXPECT_EQ(document.Serialize(), GetParam().text);
 }
 

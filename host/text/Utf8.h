@@ -1,4 +1,4 @@
-// UTF-8 to and from wide text: UTF-16 on Windows, UTF-32 elsewhere.
+// UTF-8 where errors count, and character by character. KZUtf8.h has what is enough elsewhere.
 #pragma once
 
 #include <cstddef>
@@ -11,5 +11,8 @@
 // Returns the number of bytes that text stands for; less than the whole means an error there.
 [[nodiscard]] std::size_t DecodeUtf8(std::string_view bytes, std::wstring& text);
 
-// Encodes wide text; a surrogate without its partner becomes U+FFFD.
-[[nodiscard]] std::string EncodeUtf8(std::wstring_view text);
+// Takes one character off the front of a text; a surrogate without its partner is one too.
+char32_t TakeCharacter(std::wstring_view& text) noexcept;
+
+// Appends the bytes of a character. A surrogate is encoded like any other number.
+void AppendUtf8(std::string& bytes, char32_t character);

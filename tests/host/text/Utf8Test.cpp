@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "KZUtf8.h"
+
 namespace {
 
 using namespace std::string_literals;
@@ -12,7 +14,8 @@ TEST(Utf8, GoesThereAndBack)
                                      "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"s}) {
         std::wstring text;
         EXPECT_EQ(DecodeUtf8(bytes, text), bytes.size());
-        EXPECT_EQ(EncodeUtf8(text), bytes);
+        EXPECT_EQ(ToUtf8(text), bytes);
+        EXPECT_EQ(FromUtf8(bytes), text);
     }
 }
 
@@ -30,7 +33,15 @@ TEST(Utf8, StopsAtWhatIsNotUtf8)
 TEST(Utf8, ReplacesALoneSurrogate)
 {
     const std::wstring text{L'a', static_cast<wchar_t>(0xD800), L'b', static_cast<wchar_t>(0xDC00)};
-    EXPECT_EQ(EncodeUtf8(text), "a\xEF\xBF\xBD"s + "b\xEF\xBF\xBD");
+    EXPECT_EQ(ToUtf8(text), "a\xEF\xBF\xBD"s + "b\xEF\xBF\xBD");
+}
+
+TEST(Utf8, ReplacesEachByteThatIsOutOfPlace)
+{
+    EXPECT_EQ(FromUtf8("a\x80"
+                       "b\xE2\x82"),
+              L"a\uFFFDb\uFFFD\uFFFD");
+    EXPECT_EQ(FromUtf8("\xFF\xC3\xB1"), L"\uFFFD\u00F1");
 }
 
 }  // namespace
