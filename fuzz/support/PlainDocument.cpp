@@ -48,6 +48,8 @@ void PlainDocument::Set(const std::wstring& name, const std::wstring& text)
         return;
     }
     m_removed = EndInSource(old.back()) - StartInSource(old.front());
+    if (text.empty())
+        m_emptied = m_tree.Text().substr(StartInSource(old.front()), m_removed) + L"</" + name;
     element.insert_child_before(pugi::node_pcdata, old.front()).set_value(text.c_str());
     for (const pugi::xml_node piece : old)
         element.remove_child(piece);

@@ -25,6 +25,8 @@ public:
 
     // How many characters of the source the edits take away.
     [[nodiscard]] std::size_t Removed() const noexcept { return m_removed; }
+    // What an edit that emptied a value has taken away, with the start of the end tag: "text</name". Empty otherwise.
+    [[nodiscard]] const std::wstring& Emptied() const noexcept { return m_emptied; }
     // Whether an edit may have made <name/> into <name>, which takes away the slash and the blanks before it.
     [[nodiscard]] bool MayOpenTag() const noexcept { return m_mayOpenTag; }
 
@@ -36,6 +38,7 @@ private:
     DocumentTree m_tree;
     pugi::xml_node m_current;
     std::size_t m_removed = 0;
+    std::wstring m_emptied;
     bool m_mayOpenTag = false;
 };
 

@@ -95,6 +95,18 @@ TEST(RoundTripDocument, OpensAnEmptyElementForItsFirstText)
     EXPECT_EQ(document.Serialize(), "<r><v>1</v><v2 a='1'>2</v2><v3>3</v3></r>");
 }
 
+TEST(RoundTripDocument, ClosesAnEmptyElementThatLosesItsTextAgain)
+{
+    constexpr char text[] = "<r><v /><v2><!-- c --></v2></r>";
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse(text));
+    for (const wchar_t* value : {L"v", L"v2"}) {
+        document.Root()->SetValue(value, L"1");
+        document.Root()->SetValue(value, L"");
+    }
+    EXPECT_EQ(document.Serialize(), text);
+}
+
 TEST(RoundTripDocument, KeepsTheTagsOfAValueThatBecomesEmpty)
 {
     XmlDocument document(L"r");
