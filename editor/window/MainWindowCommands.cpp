@@ -1,14 +1,8 @@
 // What the user can do in the main window: menu items, buttons and shortcuts of the same ids, and closing it.
 #include "KZMainCfg.h"
 #include "MainWindow.h"
+#include "project/GroupMask.h"
 #include "text/EditorText.h"
-
-namespace {
-
-// The groups of measured quantities, bits 2, 4, 5 and 6. A device that has none of them says so when it is asked.
-constexpr KZVariableGroups MeasuredGroups{0x74};
-
-}  // namespace
 
 const MainWindow::CommandRow MainWindow::Commands[] = {
     {IDC_OPTIONS, &MainWindow::OpenOptions, &MainWindow::HasCallbacks},

@@ -83,9 +83,8 @@ int SelectVariables(KZDriver& device)
     if (!callbacks)
         return Fail(L"no module registered the class of", device.Name().c_str());
     constexpr int atMost = 8;
-    const KZVariableGroups groups(0x74);
     std::list<KZBasicString> variables{L"TREN1.VI1N"};
-    if (!callbacks->selectVariables(nullptr, &device, variables, groups, atMost, nullptr))
+    if (!callbacks->selectVariables(nullptr, &device, variables, device.VariableGroups(), atMost, nullptr))
         return Cancelled;
     for (const KZBasicString& variable : variables)
         std::wprintf(L"%ls\n", variable.c_str());

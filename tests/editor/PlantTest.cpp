@@ -6,6 +6,7 @@
 
 #include "KZMainCfg.h"
 #include "project/ChosenVariables.h"
+#include "project/GroupMask.h"
 #include "project/Project.h"
 
 namespace fs = std::filesystem;
@@ -38,10 +39,9 @@ TEST(Plant, HasSixFiltersWithADocumentEach)
 TEST(Plant, HasOneDeviceWithoutMeasuredGroups)
 {
     const Project project(plant);
-    const KZVariableGroups measured{0x74};
     int without = 0;
     for (const Device& device : project.Devices())
-        without += (device.driver->VariableGroups() & measured).none() ? 1 : 0;
+        without += (device.driver->VariableGroups() & MeasuredGroups).none() ? 1 : 0;
     EXPECT_EQ(without, 1);
 }
 
