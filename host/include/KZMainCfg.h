@@ -10,7 +10,7 @@ public:
     [[nodiscard]] static XmlDocument* Get();
 
     // The folder of the project that the document belongs to: the device documents are under it. Empty until the host
-    // opens a project. Windows only.
+    // opens a project.
     [[nodiscard]] static KZBasicString ProjectFolder();
     static void SetProjectFolder(const KZBasicString& folder);
 };
