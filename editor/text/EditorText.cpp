@@ -1,20 +1,8 @@
 #include "EditorText.h"
 
+#include "KZLoadString.h"
+
 namespace {
-
-WORD ResourceLanguage(KZLanguage language) noexcept
-{
-    return language == KZLanguage::Spanish ? MAKELANGID(LANG_SPANISH, SUBLANG_SPANISH_MODERN)
-                                           : MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
-}
-
-const void* Find(LPCWSTR type, unsigned id, KZLanguage language) noexcept
-{
-    const HMODULE program = ::GetModuleHandleW(nullptr);
-    const HRSRC resource = ::FindResourceExW(program, type, MAKEINTRESOURCEW(id), ResourceLanguage(language));
-    const HGLOBAL data = resource ? ::LoadResource(program, resource) : nullptr;
-    return data ? ::LockResource(data) : nullptr;
-}
 
 KZLanguage CurrentLanguage() noexcept
 {
@@ -39,14 +27,9 @@ KZLanguage UserLanguage() noexcept
 
 std::wstring EditorText(unsigned id, KZLanguage language)
 {
-    // A string resource holds sixteen texts, each with its length before it.
-    constexpr unsigned textsPerBlock = 16;
-    auto text = static_cast<const wchar_t*>(Find(RT_STRING, id / textsPerBlock + 1, language));
-    if (!text)
-        return {};
-    for (unsigned skipped = 0; skipped < id % textsPerBlock; ++skipped)
-        text += 1 + *text;
-    return {text + 1, static_cast<std::size_t>(*text)};
+    CString text;
+    text.LoadString(::GetModuleHandleW(nullptr), id, KZResourceLanguage(language));
+    return text.GetString();
 }
 
 std::wstring EditorText(unsigned id)
@@ -56,6 +39,9 @@ std::wstring EditorText(unsigned id)
 
 HMENU LoadEditorMenu(unsigned id) noexcept
 {
-    const void* menu = Find(RT_MENU, id, CurrentLanguage());
-    return menu ? ::LoadMenuIndirectW(menu) : nullptr;
+    const HMODULE program = ::GetModuleHandleW(nullptr);
+    const HRSRC resource =
+        ::FindResourceExW(program, RT_MENU, MAKEINTRESOURCEW(id), KZResourceLanguage(CurrentLanguage()));
+    const HGLOBAL menu = resource ? ::LoadResource(program, resource) : nullptr;
+    return menu ? ::LoadMenuIndirectW(::LockResource(menu)) : nullptr;
 }

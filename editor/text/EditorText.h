@@ -1,6 +1,4 @@
 // The editor's own texts and menus, in the language that KZQuorvelantaSetup holds.
-// LoadString and LoadMenu follow the thread's language, which Windows versions set in different ways; looking a
-// resource up by its language works alike on all of them.
 #pragma once
 
 #include <afxwin.h>

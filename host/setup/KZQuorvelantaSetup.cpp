@@ -1,8 +1,7 @@
 #include "KZQuorvelantaSetup.h"
 
-#include <windows.h>
-
 #include "../strings/StringIds.h"
+#include "HostModule.h"
 #include "KZLoadString.h"
 #include "KZWideChar.h"
 
@@ -20,14 +19,11 @@ constexpr Model Models[] = {
 // The folder of the host library itself, which need not be the program's.
 std::wstring HostFolder()
 {
-    HMODULE host = nullptr;
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<LPCWSTR>(&Models), &host);
     std::wstring path(MAX_PATH, L'\0');
-    DWORD length = GetModuleFileNameW(host, path.data(), static_cast<DWORD>(path.size()));
+    DWORD length = ::GetModuleFileNameW(HostModule(), path.data(), static_cast<DWORD>(path.size()));
     while (length == path.size()) {
         path.resize(path.size() * 2);
-        length = GetModuleFileNameW(host, path.data(), static_cast<DWORD>(path.size()));
+        length = ::GetModuleFileNameW(HostModule(), path.data(), static_cast<DWORD>(path.size()));
     }
     path.resize(length);
     return path.substr(0, path.find_last_of(L"\\/") + 1);

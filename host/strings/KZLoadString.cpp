@@ -1,51 +1,29 @@
 #include "KZLoadString.h"
 
-#include <windows.h>
+#include <afxwin.h>
 
-#include "KZQuorvelantaSetup.h"
+#include "../setup/HostModule.h"
 
-namespace {
-
-constexpr LANGID English = MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
-constexpr LANGID Spanish = MAKELANGID(LANG_SPANISH, SUBLANG_SPANISH_MODERN);
-
-HMODULE HostModule() noexcept
+unsigned short KZResourceLanguage(KZLanguage language) noexcept
 {
-    HMODULE module = nullptr;
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<LPCWSTR>(&HostModule), &module);
-    return module;
+    return language == KZLanguage::Spanish ? MAKELANGID(LANG_SPANISH, SUBLANG_SPANISH_MODERN)
+                                           : MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
 }
-
-// A string table comes in blocks of sixteen texts, each preceded by its length. LoadString knows the thread's language
-// alone, not the one that the program was set to, so the blocks are read here.
-std::wstring_view FindText(unsigned id, LANGID language) noexcept
-{
-    static const HMODULE module = HostModule();
-    const HRSRC resource = FindResourceExW(module, RT_STRING, MAKEINTRESOURCEW(id / 16 + 1), language);
-    const HGLOBAL loaded = resource ? LoadResource(module, resource) : nullptr;
-    const auto* text = loaded ? static_cast<const wchar_t*>(LockResource(loaded)) : nullptr;
-    if (!text)
-        return {};
-    const wchar_t* const end = text + SizeofResource(module, resource) / sizeof(wchar_t);
-    for (unsigned skipped = 0; skipped < id % 16 && text < end; ++skipped)
-        text += 1 + *text;
-    return text < end && *text < end - text ? std::wstring_view(text + 1, *text) : std::wstring_view();
-}
-
-}  // namespace
 
 bool KZLoadString(unsigned id, KZBasicString& text)
 {
     text.Clear();
-    if (id == 0 || id > 0xFFFF)
+    // Resources have no higher ids: Windows would take such a one for another.
+    if (id > 0xFFFF)
         return false;
-    const bool spanish = KZQuorvelantaSetup::Get()->Language() == KZLanguage::Spanish;
-    std::wstring_view found = FindText(id, spanish ? Spanish : English);
-    if (found.empty() && spanish)
-        found = FindText(id, English);
-    text.Assign(found);
-    return !found.empty();
+    CString found;
+    for (const KZLanguage language : {KZQuorvelantaSetup::Get()->Language(), KZLanguage::English}) {
+        if (found.LoadString(HostModule(), id, KZResourceLanguage(language))) {
+            text.Assign(found.GetString());
+            return true;
+        }
+    }
+    return false;
 }
 
 KZBasicString KZLoadString(unsigned id)

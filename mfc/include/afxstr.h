@@ -33,6 +33,9 @@ public:
 
     // Formats as swprintf does; %s is const wchar_t*.
     void AFX_CDECL Format(LPCWSTR pszFormat, ...);
+    // Loads a string resource of one module, in one language. Returns FALSE, leaving the text as it was, when there is
+    // none.
+    BOOL LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID);
 
     CString& operator+=(LPCWSTR psz)
     {

@@ -19,3 +19,5 @@
 #define IDC_TAB 120
 #define IDC_REPORT 121
 #define IDC_AFTER_RADIOS 122
+
+#define IDS_GREETING 4200

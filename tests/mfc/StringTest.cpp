@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+#include "MfcTestIds.h"
+
 namespace {
 
 TEST(String, TakesNullAsEmpty)
@@ -30,6 +32,17 @@ TEST(String, EndsAtTheFirstZeroOfItsBuffer)
     std::wcscpy(text.GetBuffer(100), L"short");
     text.ReleaseBuffer();
     EXPECT_EQ(text, L"short");
+}
+
+TEST(String, LoadsTextsOfOneModuleInOneLanguage)
+{
+    const HINSTANCE program = ::GetModuleHandleW(nullptr);
+    CString text(L"before");
+    EXPECT_FALSE(text.LoadString(program, IDS_GREETING, MAKELANGID(LANG_SPANISH, SUBLANG_SPANISH_MODERN)));
+    EXPECT_FALSE(text.LoadString(program, IDS_GREETING + 1, MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US)));
+    EXPECT_EQ(text, L"before");
+    EXPECT_TRUE(text.LoadString(program, IDS_GREETING, MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US)));
+    EXPECT_EQ(text, L"Good morning");
 }
 
 TEST(Rect, MeasuresMovesAndIntersects)

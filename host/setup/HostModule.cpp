@@ -1,17 +1,23 @@
 // Library start-up and end: an extension library, so that its dialog templates are on the program's resource chain.
-#include <afxdllx.h>
-#include <afxwin.h>
+#include "HostModule.h"
 
-static AFX_EXTENSION_MODULE HostModule = {};
+#include <afxdllx.h>
+
+static AFX_EXTENSION_MODULE extensionModule = {};
 
 extern "C" BOOL APIENTRY DllMain(HINSTANCE instance, DWORD reason, LPVOID)
 {
     if (reason == DLL_PROCESS_ATTACH) {
-        if (!AfxInitExtensionModule(HostModule, instance))
+        if (!AfxInitExtensionModule(extensionModule, instance))
             return FALSE;
-        new CDynLinkLibrary(HostModule);  // AfxTermExtensionModule destroys it
+        new CDynLinkLibrary(extensionModule);  // AfxTermExtensionModule destroys it
     } else if (reason == DLL_PROCESS_DETACH) {
-        AfxTermExtensionModule(HostModule, FALSE);
+        AfxTermExtensionModule(extensionModule, FALSE);
     }
     return TRUE;
+}
+
+HINSTANCE HostModule() noexcept
+{
+    return extensionModule.hModule;
 }
