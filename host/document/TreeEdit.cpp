@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "Indentation.h"
+#include "KZUtf8.h"
+#include "WellFormedness.h"
 
 namespace {
 
@@ -78,18 +80,21 @@ ReplacedText PlaceOf(pugi::xml_node first, pugi::xml_node last) noexcept
 
 }  // namespace
 
-bool IsElementName(std::wstring_view name) noexcept
+bool IsElementName(std::wstring_view name)
 {
-    const auto isStart = [](wchar_t c) {
-        return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || c == L'_' || c == L':' || c >= 0xC0;
+    const auto isAscii = [](wchar_t c) { return static_cast<char32_t>(c) < 0x80; };
+    const auto isLetter = [](wchar_t c) {
+        return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || c == L'_' || c == L':';
     };
-    if (name.empty() || !isStart(name.front()))
+    const auto mayBeIn = [&](wchar_t c) {
+        return !isAscii(c) || isLetter(c) || (c >= L'0' && c <= L'9') || c == L'-' || c == L'.';
+    };
+    if (name.empty() || !std::all_of(name.begin(), name.end(), mayBeIn))
         return false;
-    for (const wchar_t character : name)
-        if (!isStart(character) && !(character >= L'0' && character <= L'9') && character != L'-' &&
-            character != L'.' && character != 0xB7)
-            return false;
-    return true;
+    if (std::all_of(name.begin(), name.end(), isAscii))
+        return isLetter(name.front()) && name.size() <= LongestName;
+    // Which of the world's other letters may be in a name is for the reader to say: what is written must be readable.
+    return !CheckWellFormedness(std::string("<").append(ToUtf8(name)).append("/>"));
 }
 
 pugi::xml_node TreeEdit::Add(pugi::xml_node parent, pugi::xml_node_type type, pugi::xml_node before)

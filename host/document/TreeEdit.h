@@ -18,7 +18,7 @@ struct ReplacedText {
 using ReplacedTexts = std::unordered_map<const void*, ReplacedText>;
 
 // Whether a text can be the name of an element.
-[[nodiscard]] bool IsElementName(std::wstring_view name) noexcept;
+[[nodiscard]] bool IsElementName(std::wstring_view name);
 
 // The changes to a tree since the last Keep, which can be taken back as long as nothing else changes the tree.
 class TreeEdit {

@@ -7,6 +7,8 @@
 
 namespace {
 
+using namespace std::string_literals;
+
 std::string Serialized(XmlDocument& document)
 {
     return document.Serialize();
@@ -113,11 +115,16 @@ TEST(ElementName, IsCheckedBeforeAnythingChanges)
         EXPECT_EQ(document.Root()->NewChild(name, nullptr), nullptr);
         EXPECT_FALSE(document.Root()->SetValue(name, L"1"));
     }
+    // What could not be read again.
+    for (const std::wstring& name : {L"v\uFEFFn"s, L"\u00D7"s, L"1\u00F1"s, std::wstring(1001, L'a')})
+        EXPECT_FALSE(document.Root()->SetValue(name.c_str(), L"1"));
     EXPECT_EQ(document.Root()->NewChild(nullptr, nullptr), nullptr);
     EXPECT_FALSE(document.Root()->SetValue(nullptr, 1));
     EXPECT_EQ(Serialized(document), "<r/>");
-    for (const wchar_t* name : {L"a", L"A1", L"_a", L"a-b.c", L"n:a", L"\u00F1"})
+    for (const wchar_t* name : {L"a", L"A1", L"_a", L"a-b.c", L"n:a", L"\u00F1", L"a\u00B71"})
         EXPECT_TRUE(document.Root()->SetValue(name, L"1"));
+    EXPECT_TRUE(document.Root()->SetValue(std::wstring(1000, L'a').c_str(), L"1"));
+    EXPECT_TRUE(XmlDocument(L"r").Parse(Serialized(document)));
 }
 
 TEST(SetValue, WritesDecimalIntegers)
