@@ -54,10 +54,10 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::NewChild(const wchar_t* name, XmlNod
 {
     const pugi::xml_node parent = Element(m_element);
     const pugi::xml_node successor = before ? Element(before->m_element) : pugi::xml_node();
-    if (!name || !IsElementName(name) || (before && successor.parent() != parent))
-        return nullptr;
     State& state = *m_document->m_state;
-    return state.Edit([&] {
+    return state.Edit([&]() -> XmlNode* {
+        if (!name || !IsElementName(name) || (before && successor.parent() != parent))
+            return nullptr;
         XmlNode* const node = state.NodeOf(*m_document, state.edit.AddElement(parent, name, successor));
         state.changed = true;
         return node;
@@ -66,18 +66,18 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::NewChild(const wchar_t* name, XmlNod
 
 bool XmlDocument::XmlNode::SetValue(const wchar_t* name, const wchar_t* text)
 {
-    if (!name || !IsElementName(name))
-        return false;
     State& state = *m_document->m_state;
-    state.Edit([&] {
+    return state.Edit([&] {
+        if (!name || !IsElementName(name))
+            return false;
         pugi::xml_node value = ChildElement(Element(m_element), name);
         const bool isNew = !value;
         if (isNew)
             value = state.edit.AddElement(Element(m_element), name, {});
         if (state.edit.SetText(value, text ? text : L"") || isNew)
             state.changed = true;
+        return true;
     });
-    return true;
 }
 
 bool XmlDocument::XmlNode::SetValue(const wchar_t* name, int value)

@@ -89,6 +89,7 @@ TEST_F(ScarceMemory, TakesBackAWholeEditThatFails)
         child.SetValue(L"e", std::wstring(20000, L'e').c_str());
         child.SetValue(L"e", std::wstring(30000, L'e').c_str());
         child.SetValue(L"f", 1234567);
+        child.SetValue(L"\u00F1", L"1");
     };
     WithScarceMemory(edit, [&] {
         EXPECT_EQ(document.Serialize(), before);
@@ -122,6 +123,7 @@ TEST_F(ScarceMemory, LeavesNoHalfMadeChild)
     // Some of so many long names begin a page of the tree's memory, which makes each kind of allocation a real one.
     const std::wstring name(1000, L'n');
     for (int child = 0; child < 40; ++child) {
+        document.SetDirty(true);
         const std::string before = document.Serialize();
         WithScarceMemory([&] { static_cast<void>(document.Node(L"a/v")->NewChild(name.c_str(), nullptr)); },
                          [&] { EXPECT_EQ(document.Serialize(), before); });
