@@ -24,13 +24,13 @@ std::vector<std::byte> LoadTemplate(unsigned id)
     const wchar_t* name = MAKEINTRESOURCEW(id);
     const auto type = reinterpret_cast<LPCWSTR>(RT_DIALOG);
     const HINSTANCE module = AfxFindResourceHandle(name, type);
-    const HRSRC resource = FindResourceW(module, name, type);
-    const HGLOBAL loaded = resource ? LoadResource(module, resource) : nullptr;
-    const void* bytes = loaded ? LockResource(loaded) : nullptr;
+    const HRSRC resource = ::FindResourceW(module, name, type);
+    const HGLOBAL loaded = resource ? ::LoadResource(module, resource) : nullptr;
+    const void* bytes = loaded ? ::LockResource(loaded) : nullptr;
     if (!bytes)
         return {};
     const auto* first = static_cast<const std::byte*>(bytes);
-    return {first, first + SizeofResource(module, resource)};
+    return {first, first + ::SizeofResource(module, resource)};
 }
 
 }  // namespace

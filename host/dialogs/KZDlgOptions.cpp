@@ -136,7 +136,7 @@ void KZDlgOptions::SetTexts()
         m_sections[section].SetWindowTextW(KZLoadString(Sections[section].caption).c_str());
 
     LOGFONTW font{};
-    if (GetObjectW(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)), sizeof(font), &font) != 0) {
+    if (::GetObjectW(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)), sizeof(font), &font) != 0) {
         font.lfWeight = FW_BOLD;
         m_fontHeading.DeleteObject();
         if (m_fontHeading.CreateFontIndirectW(&font))

@@ -23,20 +23,20 @@ int WindowDpi(HWND window) noexcept
     using Function = UINT(WINAPI*)(HWND);
     // Windows 10 and later only, so it is looked up at run time.
     static const auto getDpiForWindow = reinterpret_cast<Function>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow")));
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow")));
     if (getDpiForWindow) {
         if (const UINT dpi = getDpiForWindow(window))
             return static_cast<int>(dpi);
     }
-    const HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
-    ReleaseDC(nullptr, screen);
+    const HDC screen = ::GetDC(nullptr);
+    const int dpi = ::GetDeviceCaps(screen, LOGPIXELSX);
+    ::ReleaseDC(nullptr, screen);
     return dpi;
 }
 
 UINT Alignment(HWND button, bool imageOnTop) noexcept
 {
-    if (GetWindowTextLengthW(button) == 0)
+    if (::GetWindowTextLengthW(button) == 0)
         return BUTTON_IMAGELIST_ALIGN_CENTER;
     return imageOnTop ? BUTTON_IMAGELIST_ALIGN_TOP : BUTTON_IMAGELIST_ALIGN_LEFT;
 }
@@ -45,12 +45,12 @@ bool ShowPicture(HWND button, HIMAGELIST list, UINT alignment) noexcept
 {
     constexpr LONG Margin = 3;
     BUTTON_IMAGELIST wanted{list, {Margin, Margin, Margin, Margin}, alignment};
-    return SendMessageW(button, BCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(&wanted)) != FALSE;
+    return ::SendMessageW(button, BCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(&wanted)) != FALSE;
 }
 
 Pixel WindowColour() noexcept
 {
-    const COLORREF face = GetSysColor(COLOR_BTNFACE);
+    const COLORREF face = ::GetSysColor(COLOR_BTNFACE);
     return static_cast<Pixel>(RGB(GetBValue(face), GetGValue(face), GetRValue(face)));
 }
 

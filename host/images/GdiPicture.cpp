@@ -28,7 +28,7 @@ HBITMAP MakeBitmap(const PixelImage& image, WORD bitsPerPixel) noexcept
     info.bmiHeader.biBitCount = bitsPerPixel;
     info.bmiHeader.biCompression = BI_RGB;
     void* bits = nullptr;
-    const HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    const HBITMAP bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
     if (!bitmap)
         return nullptr;
     const std::size_t rowBytes = RowBytes(image.width, bitsPerPixel);
@@ -44,16 +44,16 @@ ButtonPicture::ButtonPicture(const PixelImage& image) noexcept
     const HBITMAP bitmap = MakeBitmap(image, 32);
     if (!bitmap)
         return;
-    m_list = ImageList_Create(image.width, image.height, ILC_COLOR32, 1, 0);
-    if (m_list && ImageList_Add(m_list, bitmap, nullptr) < 0) {
-        ImageList_Destroy(m_list);
+    m_list = ::ImageList_Create(image.width, image.height, ILC_COLOR32, 1, 0);
+    if (m_list && ::ImageList_Add(m_list, bitmap, nullptr) < 0) {
+        ::ImageList_Destroy(m_list);
         m_list = nullptr;
     }
-    DeleteObject(bitmap);
+    ::DeleteObject(bitmap);
 }
 
 ButtonPicture::~ButtonPicture()
 {
     if (m_list)
-        ImageList_Destroy(m_list);
+        ::ImageList_Destroy(m_list);
 }

@@ -8,11 +8,11 @@ namespace {
 // COM for the length of one call; a thread that has it in another mode keeps it so.
 class ComScope {
 public:
-    ComScope() noexcept : m_result(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
+    ComScope() noexcept : m_result(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
     ~ComScope()
     {
         if (SUCCEEDED(m_result))
-            CoUninitialize();
+            ::CoUninitialize();
     }
     ComScope(const ComScope&) = delete;
     ComScope& operator=(const ComScope&) = delete;
@@ -75,8 +75,8 @@ PixelImage ReadPicture(const KZBasicString& path)
     ComPointer<IWICFormatConverter> converter;
     PixelImage image;
     const bool opened =
-        SUCCEEDED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                                   reinterpret_cast<void**>(factory.Receive()))) &&
+        SUCCEEDED(::CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
+                                     reinterpret_cast<void**>(factory.Receive()))) &&
         OpenFirstFrame(*factory.Get(), path, frame) && SUCCEEDED(factory->CreateFormatConverter(converter.Receive())) &&
         SUCCEEDED(converter->Initialize(frame.Get(), GUID_WICPixelFormat32bppBGRA, WICBitmapDitherTypeNone, nullptr,
                                         0.0, WICBitmapPaletteTypeCustom));

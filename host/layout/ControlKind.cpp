@@ -47,8 +47,8 @@ ControlKind StaticKind(LONG style) noexcept
 ControlKind KindOf(HWND window) noexcept
 {
     wchar_t name[16] = L"";
-    GetClassNameW(window, name, static_cast<int>(std::size(name)));
-    const LONG style = GetWindowLongW(window, GWL_STYLE);
+    ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    const LONG style = ::GetWindowLongW(window, GWL_STYLE);
     if (_wcsicmp(name, L"Button") == 0)
         return ButtonKind(style);
     if (_wcsicmp(name, L"Static") == 0)

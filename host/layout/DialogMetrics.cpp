@@ -22,7 +22,7 @@ ButtonPicture PictureOf(HWND button) noexcept
     BUTTON_IMAGELIST shown{};
     ButtonPicture picture;
     if (::SendMessageW(button, BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&shown)) && shown.himl &&
-        ImageList_GetIconSize(shown.himl, &picture.size.x, &picture.size.y))
+        ::ImageList_GetIconSize(shown.himl, &picture.size.x, &picture.size.y))
         picture.aboveText = shown.uAlign == BUTTON_IMAGELIST_ALIGN_TOP || shown.uAlign == BUTTON_IMAGELIST_ALIGN_BOTTOM;
     return picture;
 }

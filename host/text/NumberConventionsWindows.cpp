@@ -10,8 +10,9 @@ std::wstring UserSetting(LCTYPE type, const wchar_t* otherwise)
 {
     // Windows allows four characters for a separator and ten for the groups, the terminating zero included.
     std::array<wchar_t, 16> text;
-    return GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, type, text.data(), static_cast<int>(text.size())) > 1 ? text.data()
-                                                                                                           : otherwise;
+    return ::GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, type, text.data(), static_cast<int>(text.size())) > 1
+               ? text.data()
+               : otherwise;
 }
 
 }  // namespace
