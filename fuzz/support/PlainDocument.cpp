@@ -1,6 +1,7 @@
 #include "PlainDocument.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace fuzzing {
@@ -34,7 +35,7 @@ bool PlainDocument::ToChild(const std::wstring& name)
     return !child.empty();
 }
 
-void PlainDocument::Set(const std::wstring& name, const std::wstring& text)
+void PlainDocument::Set(const std::wstring& name, const std::wstring& text, std::size_t place)
 {
     pugi::xml_node element = ChildElement(m_current, name.c_str());
     if (!element)
@@ -44,7 +45,12 @@ void PlainDocument::Set(const std::wstring& name, const std::wstring& text)
         return;
     if (old.empty()) {
         m_mayOpenTag = true;
-        element.append_child(pugi::node_pcdata).set_value(text.c_str());
+        pugi::xml_node successor;
+        for (; place > 0; --place)
+            successor = successor ? successor.previous_sibling() : element.last_child();
+        (successor ? element.insert_child_before(pugi::node_pcdata, successor)
+                   : element.append_child(pugi::node_pcdata))
+            .set_value(text.c_str());
         return;
     }
     m_removed = EndInSource(old.back()) - StartInSource(old.front());
@@ -53,6 +59,12 @@ void PlainDocument::Set(const std::wstring& name, const std::wstring& text)
     element.insert_child_before(pugi::node_pcdata, old.front()).set_value(text.c_str());
     for (const pugi::xml_node piece : old)
         element.remove_child(piece);
+}
+
+std::size_t PlainDocument::ChildCount(const std::wstring& name) const
+{
+    const auto children = ChildElement(m_current, name.c_str()).children();
+    return static_cast<std::size_t>(std::distance(children.begin(), children.end()));
 }
 
 void PlainDocument::New(const std::wstring& name, const std::wstring& before)

@@ -16,7 +16,11 @@ public:
     bool ToChild(const std::wstring& name);
 
     // Sets a named value of the current element.
-    void Set(const std::wstring& name, const std::wstring& text);
+    //   place   for a value that has children and no text: before how many of them, from the last one, the text goes
+    void Set(const std::wstring& name, const std::wstring& text, std::size_t place = 0);
+
+    // How many children a named value has, 0 for one that is not there.
+    [[nodiscard]] std::size_t ChildCount(const std::wstring& name) const;
 
     // Creates a child before the first one of another name, or at the end when that name is empty.
     void New(const std::wstring& name, const std::wstring& before);

@@ -78,7 +78,10 @@ KZDocumentResult XmlDocument::Load(const std::filesystem::path& file)
 
 KZDocumentResult XmlDocument::Save(const std::filesystem::path& file)
 {
-    if (const FileOutcome written = ReplaceFileSafely(file, Serialize()); !written)
+    const std::string text = Serialize();
+    if (const std::optional<SourceFault> fault = CheckSize(text.size()))
+        return Failure(file, fault->reason);
+    if (const FileOutcome written = ReplaceFileSafely(file, text); !written)
         return Failure(file, written.reason);
     SetDirty(false);
     return {};

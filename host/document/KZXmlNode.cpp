@@ -11,6 +11,15 @@ pugi::xml_node Element(void* element) noexcept
     return pugi::xml_node(static_cast<pugi::xml_node_struct*>(element));
 }
 
+// A document that is nested deeper could not be read again.
+bool MayHaveChildren(pugi::xml_node element) noexcept
+{
+    int depth = 0;
+    for (; element.type() == pugi::node_element; element = element.parent())
+        ++depth;
+    return depth < DeepestNesting;
+}
+
 }  // namespace
 
 XmlDocument::XmlNode::XmlNode(XmlDocument& document, void* element) noexcept : m_document(&document), m_element(element)
@@ -56,7 +65,7 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::NewChild(const wchar_t* name, XmlNod
     const pugi::xml_node successor = before ? Element(before->m_element) : pugi::xml_node();
     State& state = *m_document->m_state;
     return state.Edit([&]() -> XmlNode* {
-        if (!name || !IsElementName(name) || (before && successor.parent() != parent))
+        if (!name || !IsElementName(name) || (before && successor.parent() != parent) || !MayHaveChildren(parent))
             return nullptr;
         XmlNode* const node = state.NodeOf(*m_document, state.edit.AddElement(parent, name, successor));
         state.changed = true;
@@ -72,6 +81,8 @@ bool XmlDocument::XmlNode::SetValue(const wchar_t* name, const wchar_t* text)
             return false;
         pugi::xml_node value = ChildElement(Element(m_element), name);
         const bool isNew = !value;
+        if (isNew && !MayHaveChildren(Element(m_element)))
+            return false;
         if (isNew)
             value = state.edit.AddElement(Element(m_element), name, {});
         if (state.edit.SetText(value, text ? text : L"") || isNew)

@@ -40,12 +40,13 @@ public:
 
         // Creates a child element: before the given child, or as the last one when before is null. It gets a line of
         // its own, indented as its siblings are, where they have such lines. Returns null, changing nothing, when name
-        // is no element name or before is not a child of this element.
+        // is no element name, before is not a child of this element, or this element is nested 256 deep.
         XmlNode* NewChild(const wchar_t* name, XmlNode* before);
 
         // Sets the text of the named value (a direct child), creating the child when there is none. The text that it
         // has already changes nothing. Line ends are kept as "\n" in memory; a character that XML cannot hold becomes
-        // U+FFFD. A null text is the empty one. Returns false, changing nothing, when name is no element name.
+        // U+FFFD. A null text is the empty one. Returns false, changing nothing, when name is no element name or the
+        // child would have to be created in an element that is nested 256 deep.
         bool SetValue(const wchar_t* name, const wchar_t* text);
         bool SetValue(const wchar_t* name, int value);
 
@@ -77,8 +78,8 @@ public:
     XmlDocument& operator=(const XmlDocument&) = delete;
 
     // Replaces the content by that of a UTF-8 text or file whose root element must have this document's root name; the
-    // document is then clean. What nobody changes is written back byte for byte. Elements nested 256 deep or more are
-    // refused.
+    // document is then clean. What nobody changes is written back byte for byte. What is not well-formed,
+    // has a document type declaration, is larger than 64 MB or nested deeper than 256 is refused.
     // On failure the content stays as it was; otherwise every XmlNode of the old content is invalid afterwards.
     KZDocumentResult Parse(std::string_view utf8);
     KZDocumentResult Load(const std::filesystem::path& file);

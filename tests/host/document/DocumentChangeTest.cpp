@@ -127,6 +127,20 @@ TEST(ElementName, IsCheckedBeforeAnythingChanges)
     EXPECT_TRUE(XmlDocument(L"r").Parse(Serialized(document)));
 }
 
+TEST(NewChild, StopsWhereADocumentCouldNotBeReadAgain)
+{
+    XmlDocument document(L"r");
+    XmlDocument::XmlNode* deepest = document.Root();
+    for (int depth = 2; depth <= 256; ++depth)
+        deepest = deepest->NewChild(L"a", nullptr);
+    ASSERT_NE(deepest, nullptr);
+    const std::string before = Serialized(document);
+    EXPECT_EQ(deepest->NewChild(L"a", nullptr), nullptr);
+    EXPECT_FALSE(deepest->SetValue(L"v", L"1"));
+    EXPECT_EQ(Serialized(document), before);
+    EXPECT_TRUE(XmlDocument(L"r").Parse(before));
+}
+
 TEST(SetValue, WritesDecimalIntegers)
 {
     XmlDocument document(L"r");

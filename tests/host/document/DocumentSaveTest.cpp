@@ -49,6 +49,14 @@ TEST_F(Save, ReplacesALongerFileWhole)
     EXPECT_EQ(folder.Count(), 1u);
 }
 
+TEST_F(Save, RefusesADocumentTooLargeToBeReadAgain)
+{
+    folder.Write("main.xml", "old");
+    document.Root()->SetValue(L"v", std::wstring(std::size_t{64} << 20, L'x').c_str());
+    ExpectRefusal(folder.Path() / "main.xml", "the document is larger than 64 MB");
+    EXPECT_EQ(folder.Read("main.xml"), "old");
+}
+
 TEST_F(Save, WritesWhatLoadReads)
 {
     const std::string text = "\xEF\xBB\xBF<configuration a='1'>\r\n  <v>\xC3\xB1</v >\r\n</configuration>\r\n";
