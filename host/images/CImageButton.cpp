@@ -61,10 +61,10 @@ bool LoadMaskedBitmap(const KZBasicString& path, CBitmap& bitmap, COLORREF* tran
         return false;
     const Pixel key = UnusedColour(image);
     Flatten(image, WindowColour(), key);
-    const HBITMAP handle = MakeBitmap(image, 24);
-    if (!handle)
+    std::unique_ptr<void, decltype([](void* unused) { ::DeleteObject(unused); })> made(MakeBitmap(image, 24));
+    if (!made || !bitmap.Attach(made.get()))
         return false;
-    bitmap.Attach(handle);
+    static_cast<void>(made.release());
     if (transparentColour)
         *transparentColour = RGB(key >> 16 & 0xFF, key >> 8 & 0xFF, key & 0xFF);
     return true;

@@ -31,11 +31,8 @@ BOOL CImageList::DeleteImageList()
 
 BOOL CImageList::Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow)
 {
-    const HIMAGELIST list = ::ImageList_Create(cx, cy, nFlags, nInitial, nGrow);
-    if (Attach(list))
-        return TRUE;
-    ::ImageList_Destroy(list);
-    return FALSE;
+    return ImageLists::AttachNew(*this, ::ImageList_Create(cx, cy, nFlags, nInitial, nGrow),
+                                 [](HIMAGELIST unused) { ::ImageList_Destroy(unused); });
 }
 
 CImageList* CTabCtrl::SetImageList(CImageList* pImageList)

@@ -26,10 +26,7 @@ HGDIOBJ CGdiObject::Detach()
 
 BOOL CGdiObject::AttachNew(HGDIOBJ hObject)
 {
-    if (Attach(hObject))
-        return TRUE;
-    ::DeleteObject(hObject);
-    return FALSE;
+    return GdiObjects::AttachNew(*this, hObject, [](HGDIOBJ unused) { ::DeleteObject(unused); });
 }
 
 BOOL CGdiObject::DeleteObject()

@@ -55,6 +55,24 @@ struct Handles {
         object.*Handle = handle;
         return TRUE;
     }
+    // Attaches a handle that has just been made; where that fails, also for lack of memory, the handle is destroyed.
+    template <class Destroy>
+    static BOOL AttachNew(Object& object, HandleType handle, Destroy destroy)
+    {
+        struct Made {
+            HandleType handle;
+            Destroy& destroy;
+            ~Made()
+            {
+                if (handle)
+                    destroy(handle);
+            }
+        } made{handle, destroy};
+        if (!Attach(object, handle))
+            return FALSE;
+        made.handle = HandleType{};
+        return TRUE;
+    }
     static HandleType Detach(Object& object) noexcept
     {
         if (ThreadState* thread = CurrentThreadIfAny(); thread && object.*Handle)

@@ -6,7 +6,6 @@
 #include "Endurance.h"
 #include "GuiResources.h"
 #include "MemoryFaults.h"
-#include "ProjectRules.h"
 #include "ScriptedUser.h"
 #include "SelectionModel.h"
 
@@ -142,11 +141,7 @@ bool Walk::IsTold(const Outcome& outcome) const
 void Walk::Judge(long failing, const Outcome& outcome)
 {
     const Traces& traces = outcome.traces;
-    // A record that could not be written whole is whole nowhere but in memory, as long as the host does not save it:
-    // the documents have no operation that takes an element away again.
-    const bool isHalfChanged =
-        traces.configuration != m_before.configuration && traces.configuration != m_undisturbed.traces.configuration;
-    if (isHalfChanged && (outcome.dirty || !BrokenRuleOfConfiguration(traces.configuration).empty()))
+    if (traces.configuration != m_before.configuration && traces.configuration != m_undisturbed.traces.configuration)
         Find(failing, "the configuration is half changed: " + traces.configuration);
     if (traces.device != m_before.device && traces.device != m_undisturbed.traces.device)
         Find(failing, "the device's document is half changed: " + traces.device);
