@@ -74,7 +74,7 @@ void CompareLarge(Report& report, const fs::path& folder)
                              raw.Tree().save(bytes, L"", pugi::format_raw, pugi::encoding_utf8);
                              kzbench::Keep(bytes);
                          }));
-    report.Add({"save a changed document of " + size, "serialise, flush, rename", 1.25},
+    report.Add({"save a changed document of " + size, "serialise, flush, rename", 1.50},
                RunInTurn(
                    [&] {
                        if (!document.Save(folder / L"ours.xml"))
