@@ -222,9 +222,9 @@ bool KZDeviceCfgZEP::Validate()
     const auto failure = zep::CheckInformation(Entries(), m_settings);
     if (!failure)
         return true;
-    const auto field = std::find_if(Field::All.begin(), Field::All.end(),
-                                    [&](const Field& candidate) { return candidate.shown == failure->field; });
-    ShowMessageAndFocus(MessageOf(*failure), static_cast<CEdit&>(field->window(*this)));
+    const Field& field = *std::find_if(Field::All.begin(), Field::All.end(),
+                                       [&](const Field& candidate) { return candidate.shown == failure->field; });
+    ShowMessageAndFocus(MessageOf(*failure), static_cast<CEdit&>(field.window(*this)));
     return false;
 }
 

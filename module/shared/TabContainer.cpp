@@ -86,7 +86,7 @@ CRect TabContainer::PageArea(int tabHeight) const
 
 bool TabContainer::ForwardCommand(WPARAM wParam, LPARAM lParam) const
 {
-    const auto control = reinterpret_cast<HWND>(lParam);
+    auto* const control = reinterpret_cast<HWND>(lParam);
     const HWND page = control ? ::GetParent(control) : nullptr;
     if (!page || !::IsChild(m_dialog.m_hWnd, page))
         return false;

@@ -42,13 +42,13 @@ struct VariablePosition {
 };
 
 // A set of positions of one family, as wide as the largest family.
-inline constexpr std::size_t PositionCount = HarmonicRowCount * 2 * PhaseCount;
+inline constexpr std::size_t PositionCount{HarmonicRowCount * 2 * PhaseCount};
 using PositionSet = std::bitset<PositionCount>;
 
 [[nodiscard]] constexpr std::size_t PositionIndex(const VariablePosition& position) noexcept
 {
-    const auto rowSide = 2 * position.row + static_cast<int>(position.side);
-    return static_cast<std::size_t>(PhaseCount * rowSide + position.phase);
+    const auto rowSide = 2 * static_cast<std::size_t>(position.row) + static_cast<std::size_t>(position.side);
+    return PhaseCount * rowSide + static_cast<std::size_t>(position.phase);
 }
 
 // Appends the name of a variable. The position must lie within the family.
