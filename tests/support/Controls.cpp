@@ -1,8 +1,10 @@
 #include "Controls.h"
 
+#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 
 #include "Conditions.h"
@@ -165,6 +167,17 @@ std::wstring AnswerMessageBox(int button)
 void AnswerMessageBox(const std::wstring& expectedText, int button)
 {
     EXPECT_EQ(AnswerMessageBox(button), expectedText);
+}
+
+std::wstring TabText(HWND tab, int index)
+{
+    std::array<wchar_t, 256> text{};
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = text.data();
+    item.cchTextMax = static_cast<int>(text.size());
+    ::SendMessageW(tab, TCM_GETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
+    return text.data();
 }
 
 }  // namespace kztest

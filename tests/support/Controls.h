@@ -43,4 +43,7 @@ std::wstring AnswerMessageBox(int button);
 // The same; fails the test when the text is another one.
 void AnswerMessageBox(const std::wstring& expectedText, int button);
 
+// The text of a tab of a tab control in this process.
+[[nodiscard]] std::wstring TabText(HWND tab, int index);
+
 }  // namespace kztest

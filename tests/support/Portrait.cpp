@@ -187,17 +187,6 @@ std::string StyleWordsOf(HWND control, const std::wstring& className)
     return words;
 }
 
-std::wstring TabText(HWND tab, int index)
-{
-    std::array<wchar_t, 256> text{};
-    TCITEMW item{};
-    item.mask = TCIF_TEXT;
-    item.pszText = text.data();
-    item.cchTextMax = static_cast<int>(text.size());
-    ::SendMessageW(tab, TCM_GETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
-    return text.data();
-}
-
 CRect PlaceOf(HWND control)
 {
     CRect place;

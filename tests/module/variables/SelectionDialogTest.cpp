@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Controls.h"
 #include "KZLoadString.h"
 #include "KZStringIds.h"
 #include "MessageBoxes.h"
@@ -13,6 +14,7 @@
 
 namespace {
 
+using kztest::TabText;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using zep::Family;
@@ -24,17 +26,6 @@ std::wstring WindowText(HWND window)
 {
     std::array<wchar_t, 512> text{};
     ::GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
-    return text.data();
-}
-
-std::wstring TabText(HWND tab, int index)
-{
-    std::array<wchar_t, 128> text{};
-    TCITEMW item{};
-    item.mask = TCIF_TEXT;
-    item.pszText = text.data();
-    item.cchTextMax = static_cast<int>(text.size());
-    ::SendMessageW(tab, TCM_GETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
     return text.data();
 }
 
