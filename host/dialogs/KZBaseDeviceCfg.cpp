@@ -3,8 +3,8 @@
 #include <filesystem>
 
 #include "../strings/StringIds.h"
-#include "DocumentName.h"
 #include "ExceptionGuard.h"
+#include "KZDocumentFileName.h"
 #include "KZLoadString.h"
 #include "KZMainCfg.h"
 
@@ -14,7 +14,6 @@ namespace {
 
 constexpr wchar_t RootName[] = L"device";
 constexpr wchar_t FolderName[] = L"devices";
-constexpr wchar_t Extension[] = L".xml";
 
 bool IsMissingOrEmpty(const fs::path& file)
 {
@@ -56,7 +55,7 @@ INT_PTR KZBaseDeviceCfg::DoModal()
 
 KZBasicString KZBaseDeviceCfg::DocumentFileName(const KZBasicString& driverId)
 {
-    return FileNameFor(driverId.View()) + Extension;
+    return KZDocumentFileName(driverId);
 }
 
 void KZBaseDeviceCfg::addUriParams(KZBasicString&) const {}

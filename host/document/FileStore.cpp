@@ -3,7 +3,7 @@
 #include <array>
 #include <atomic>
 
-#include "SystemFile.h"
+#include "KZSystemFile.h"
 
 namespace fs = std::filesystem;
 
@@ -19,10 +19,10 @@ public:
         static std::atomic<unsigned> saves = 0;
         do {
             m_name = other;
-            m_name.concat(".").concat(std::to_string(ProcessNumber()));
+            m_name.concat(".").concat(std::to_string(KZProcessNumber()));
             m_name.concat("-").concat(std::to_string(++saves)).concat(".tmp");
-            m_file = SystemFile::Create(m_name, mode);
-        } while (!m_file.IsOpen() && SystemFile::NameWasTaken());
+            m_file = KZSystemFile::Create(m_name, mode);
+        } while (!m_file.IsOpen() && KZSystemFile::NameWasTaken());
         m_mayStay = !m_file.IsOpen();
     }
     ~FileBeside()
@@ -37,13 +37,13 @@ public:
 
     [[nodiscard]] bool Become(const fs::path& other, std::string_view bytes) noexcept
     {
-        m_mayStay = m_file.IsOpen() && m_file.Write(bytes) && m_file.Close() && MoveOver(m_name, other);
+        m_mayStay = m_file.IsOpen() && m_file.Write(bytes) && m_file.Close() && KZMoveOver(m_name, other);
         return m_mayStay;
     }
 
 private:
     fs::path m_name;
-    SystemFile m_file;
+    KZSystemFile m_file;
     bool m_mayStay;
 };
 
@@ -54,15 +54,15 @@ FileOutcome ReadWholeFile(const fs::path& file, std::string& bytes)
     std::error_code ignored;
     if (fs::is_directory(file, ignored))
         return {FileIsAFolder};
-    SystemFile source = SystemFile::OpenToRead(file);
+    KZSystemFile source = KZSystemFile::OpenToRead(file);
     if (!source.IsOpen())
-        return {SystemReason()};
+        return {KZFileReason(KZLastFileError())};
     bytes.clear();
     std::array<char, 65536> block;
     for (;;) {
         const std::optional<std::size_t> read = source.Read(block);
         if (!read)
-            return {SystemReason()};
+            return {KZFileReason(KZLastFileError())};
         if (*read == 0)
             return {};
         bytes.append(block.data(), *read);
@@ -83,6 +83,6 @@ FileOutcome ReplaceFileSafely(const fs::path& file, std::string_view bytes)
     constexpr fs::perms usual = writable | fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
     FileBeside replacement(file, fs::exists(old) ? old.permissions() : usual);
     if (!replacement.Become(file, bytes))
-        return {SystemReason()};
+        return {KZFileReason(KZLastFileError())};
     return {};
 }

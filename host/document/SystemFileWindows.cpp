@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 
 #include "FileStore.h"
-#include "SystemFile.h"
+#include "KZSystemFile.h"
 
 namespace {
 
@@ -20,24 +21,46 @@ std::intptr_t AsNumber(HANDLE file) noexcept
 
 }  // namespace
 
-SystemFile SystemFile::OpenToRead(const std::filesystem::path& file) noexcept
+KZSystemFile KZSystemFile::OpenToRead(const std::filesystem::path& file) noexcept
 {
-    return SystemFile(AsNumber(::CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
-                                             OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr)));
+    return KZSystemFile(AsNumber(::CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
+                                               OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr)));
 }
 
-SystemFile SystemFile::Create(const std::filesystem::path& file, std::filesystem::perms) noexcept
+KZSystemFile KZSystemFile::Create(const std::filesystem::path& file, std::filesystem::perms) noexcept
 {
-    return SystemFile(
+    return KZSystemFile(
         AsNumber(::CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr)));
 }
 
-bool SystemFile::NameWasTaken() noexcept
+bool KZSystemFile::NameWasTaken() noexcept
 {
     return ::GetLastError() == ERROR_FILE_EXISTS;
 }
 
-std::optional<std::size_t> SystemFile::Read(std::span<char> block) noexcept
+KZSystemFile KZSystemFile::Hold(const std::filesystem::path& file, KZHold hold) noexcept
+{
+    const DWORD creation = hold == KZHold::ExistingFile ? OPEN_EXISTING : OPEN_ALWAYS;
+    const DWORD end = hold == KZHold::Temporary ? FILE_FLAG_DELETE_ON_CLOSE : 0;
+    return KZSystemFile(AsNumber(::CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, 0, nullptr,
+                                               creation, FILE_ATTRIBUTE_NORMAL | end, nullptr)));
+}
+
+void KZSystemFile::RemoveHeld(KZSystemFile file, const std::filesystem::path&) noexcept
+{
+    FILE_DISPOSITION_INFO disposition{TRUE};
+    if (file.IsOpen())
+        ::SetFileInformationByHandle(AsHandle(file.m_handle), FileDispositionInfo, &disposition, sizeof disposition);
+}
+
+bool KZSystemFile::Seek(std::uint64_t place) noexcept
+{
+    LARGE_INTEGER distance;
+    distance.QuadPart = static_cast<LONGLONG>(place);
+    return ::SetFilePointerEx(AsHandle(m_handle), distance, nullptr, FILE_BEGIN);
+}
+
+std::optional<std::size_t> KZSystemFile::Read(std::span<char> block) noexcept
 {
     DWORD read = 0;
     if (!::ReadFile(AsHandle(m_handle), block.data(), static_cast<DWORD>(block.size()), &read, nullptr))
@@ -45,7 +68,7 @@ std::optional<std::size_t> SystemFile::Read(std::span<char> block) noexcept
     return read;
 }
 
-bool SystemFile::Write(std::string_view bytes) noexcept
+bool KZSystemFile::Write(std::string_view bytes) noexcept
 {
     while (!bytes.empty()) {
         constexpr std::size_t most = 1u << 30;
@@ -58,20 +81,102 @@ bool SystemFile::Write(std::string_view bytes) noexcept
     return ::FlushFileBuffers(AsHandle(m_handle));
 }
 
-bool SystemFile::Close() noexcept
+bool KZSystemFile::Close() noexcept
 {
     const std::intptr_t handle = std::exchange(m_handle, None);
     return handle == None || ::CloseHandle(AsHandle(handle));
 }
 
-bool MoveOver(const std::filesystem::path& from, const std::filesystem::path& to) noexcept
+bool KZMoveOver(const std::filesystem::path& from, const std::filesystem::path& to) noexcept
 {
     return ::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
 }
 
-std::wstring SystemReason()
+namespace {
+
+// WIN32_FIND_DATAW and WIN32_FILE_ATTRIBUTE_DATA name them alike.
+template <class Data>
+KZFileEntry EntryOf(const Data& data)
 {
-    const DWORD error = ::GetLastError();
+    constexpr std::int64_t From1601To1970 = 116'444'736'000'000'000;
+    constexpr DWORD folderOrLink = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+    KZFileEntry entry;
+    if ((data.dwFileAttributes & folderOrLink) == 0)
+        entry.kind = KZFileEntry::Kind::File;
+    else if ((data.dwFileAttributes & folderOrLink) == FILE_ATTRIBUTE_DIRECTORY)
+        entry.kind = KZFileEntry::Kind::Folder;
+    entry.size = std::uint64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow;
+    const FILETIME& written = data.ftLastWriteTime;
+    entry.time =
+        static_cast<std::int64_t>(std::uint64_t{written.dwHighDateTime} << 32 | written.dwLowDateTime) - From1601To1970;
+    return entry;
+}
+
+}  // namespace
+
+std::optional<std::vector<KZFileEntry>> KZListFolder(const std::filesystem::path& folder)
+{
+    struct CloseSearch {
+        void operator()(HANDLE search) const noexcept { ::FindClose(search); }
+    };
+    WIN32_FIND_DATAW data;
+    const HANDLE search = ::FindFirstFileExW((folder / L"*").c_str(), FindExInfoBasic, &data, FindExSearchNameMatch,
+                                             nullptr, FIND_FIRST_EX_LARGE_FETCH);
+    if (search == INVALID_HANDLE_VALUE)
+        return std::nullopt;
+    const std::unique_ptr<void, CloseSearch> closing(search);
+    std::vector<KZFileEntry> entries;
+    do {
+        const std::wstring_view name = data.cFileName;
+        if (name == L"." || name == L"..")
+            continue;
+        entries.push_back(EntryOf(data));
+        entries.back().name = name;
+    } while (::FindNextFileW(search, &data));
+    return ::GetLastError() == ERROR_NO_MORE_FILES ? std::optional(std::move(entries)) : std::nullopt;
+}
+
+std::optional<KZFileEntry> KZFindFile(const std::filesystem::path& path)
+{
+    WIN32_FILE_ATTRIBUTE_DATA data;
+    if (!::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data))
+        return std::nullopt;
+    KZFileEntry entry = EntryOf(data);
+    entry.name = path.filename();
+    return entry;
+}
+
+int KZLastFileError() noexcept
+{
+    return static_cast<int>(::GetLastError());
+}
+
+KZFileFailure KZFileFailureOf(int error) noexcept
+{
+    switch (error) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+        return KZFileFailure::Missing;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_WRITE_PROTECT:
+        return KZFileFailure::Denied;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+    case ERROR_DISK_QUOTA_EXCEEDED:
+        return KZFileFailure::Full;
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+        return KZFileFailure::InUse;
+    case ERROR_FILENAME_EXCED_RANGE:
+        return KZFileFailure::PathTooLong;
+    default:
+        return KZFileFailure::Other;
+    }
+}
+
+std::wstring KZFileReason(int systemError)
+{
+    const auto error = static_cast<DWORD>(systemError);
     if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
         return NoSuchFile;
     std::array<wchar_t, 512> text;
@@ -82,7 +187,12 @@ std::wstring SystemReason()
     return length > 0 ? std::wstring(text.data(), length) : L"Windows error " + std::to_wstring(error);
 }
 
-unsigned long ProcessNumber() noexcept
+unsigned long KZProcessNumber() noexcept
 {
     return ::GetCurrentProcessId();
+}
+
+void KZPause(int milliseconds) noexcept
+{
+    ::Sleep(static_cast<DWORD>(milliseconds));
 }

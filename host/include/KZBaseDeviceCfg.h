@@ -28,10 +28,7 @@ public:
     // The document; never null, root element "device".
     [[nodiscard]] XmlDocument* Document() noexcept { return &m_document; }
 
-    // The file name that a driver id stands for, without folder. Letters, digits, "-", "_", "." and blanks stand for
-    // themselves; every other character becomes "%XX" for each byte of its UTF-8 form, and so does the first character
-    // of a name that Windows reserves for a device ("CON"): no two ids share a name, case aside, which Windows' file
-    // names do not tell apart either.
+    // The file name that a driver id stands for, as KZDocumentFileName makes it.
     [[nodiscard]] static KZBasicString DocumentFileName(const KZBasicString& driverId);
 
 protected:

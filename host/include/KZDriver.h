@@ -3,13 +3,8 @@
 
 #include <afx.h>
 
-#include <bitset>
-#include <cstddef>
-
 #include "KZBasicString.h"
-
-inline constexpr std::size_t KZVariableGroupCount = 34;
-using KZVariableGroups = std::bitset<KZVariableGroupCount>;
+#include "KZVariableGroups.h"
 
 class KZ_API KZDriver : public CObject {
     DECLARE_DYNAMIC(KZDriver)

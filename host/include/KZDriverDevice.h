@@ -1,17 +1,8 @@
 // A driver object that is a device of the project: it takes its values from the project's device list.
 #pragma once
 
+#include "KZDeviceIdentity.h"
 #include "KZDriver.h"
-
-// What the project's device list says of one device.
-struct KZDeviceIdentity {
-    KZBasicString driverId;
-    KZBasicString name;
-    int number = 0;
-    KZBasicString typeName;
-    KZBasicString description;
-    KZVariableGroups groups;
-};
 
 class KZ_API KZDriverDevice : public KZDriver {
     DECLARE_DYNAMIC(KZDriverDevice)

@@ -1,4 +1,4 @@
-#include "DocumentName.h"
+#include "KZDocumentFileName.h"
 
 #include <algorithm>
 #include <cwctype>
@@ -33,9 +33,7 @@ bool IsReserved(std::wstring_view name)
            stem[3] <= L'9';
 }
 
-}  // namespace
-
-std::wstring FileNameFor(std::wstring_view name)
+std::wstring StemFor(std::wstring_view name)
 {
     if (name.empty())
         return L"%";  // what no other name becomes
@@ -54,4 +52,11 @@ std::wstring FileNameFor(std::wstring_view name)
         escapeNext = false;
     }
     return file;
+}
+
+}  // namespace
+
+KZBasicString KZDocumentFileName(const KZBasicString& driverId)
+{
+    return StemFor(driverId.View()) + L".xml";
 }

@@ -1,0 +1,64 @@
+// Every file operation of the plant, in one place, so that tests can let each of them fail.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "KZSystemFile.h"
+
+namespace plant {
+
+using Path = std::filesystem::path;
+
+// A file that nobody else can open until this object is gone, or its process.
+class HeldFile {
+public:
+    virtual ~HeldFile() = default;
+    // Every byte.
+    [[nodiscard]] virtual std::string Read() = 0;
+    // Writes the bytes at a place, counted from the start of the file, to the disk itself.
+    virtual void Write(std::uint64_t place, std::string_view bytes) = 0;
+    // Takes the file out of its folder at the end instead of leaving it.
+    virtual void Remove() noexcept = 0;
+};
+
+// Every operation throws Refusal, naming the file, the reason and the remedy, when it fails, and then has done
+// nothing.
+class Disk {
+public:
+    virtual ~Disk() = default;
+
+    // Every byte of a file, or nothing when there is no such file.
+    [[nodiscard]] virtual std::optional<std::string> Read(const Path& file) = 0;
+    // What stands at the path, or nothing.
+    [[nodiscard]] virtual std::optional<KZFileEntry> Find(const Path& path) = 0;
+    // What a folder holds, in no order; empty when there is no such folder.
+    [[nodiscard]] virtual std::vector<KZFileEntry> List(const Path& folder) = 0;
+
+    // Writes a file that is not there yet, to the disk itself. When it fails, a part may be left.
+    virtual void Write(const Path& file, std::string_view bytes) = 0;
+    // Moves a file to another name in one step, over the file of that name if there is one. A read-only file is not
+    // replaced.
+    virtual void Move(const Path& from, const Path& to) = 0;
+    // Gives a file a second name, or a copy of that name where the file system knows no second names.
+    virtual void Link(const Path& file, const Path& name) = 0;
+    // What is not there needs no removing. A folder must be empty.
+    virtual void Remove(const Path& path) = 0;
+    // A folder that is there already is left as it is. The folder around it must be there.
+    virtual void MakeFolder(const Path& folder) = 0;
+    // Nothing when somebody else holds the file, or when an existing file was asked for and there is none.
+    [[nodiscard]] virtual std::unique_ptr<HeldFile> Hold(const Path& file, KZHold hold) = 0;
+
+    // The time now in 100 ns since 1970, as files have it.
+    [[nodiscard]] virtual std::int64_t Now() noexcept = 0;
+};
+
+// The machine's own.
+[[nodiscard]] Disk& RealDisk() noexcept;
+
+}  // namespace plant

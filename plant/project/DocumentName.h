@@ -1,0 +1,28 @@
+// How the documents of a project are named: "main.xml", and "devices/…" for a device's document, in UTF-8.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "KZBasicString.h"
+
+namespace plant {
+
+inline constexpr std::string_view MainDocument = "main.xml";
+inline constexpr std::string_view DeviceFolder = "devices";
+
+// Whether a text that came from a file is such a name: it then stands for a file in the project's folder or in its
+// "devices", whatever the system makes of file names.
+[[nodiscard]] bool IsDocumentName(std::string_view name) noexcept;
+
+// The name of the document of a device.
+[[nodiscard]] std::string DeviceDocumentName(const KZBasicString& driverId);
+
+// The file that a name stands for below a folder.
+[[nodiscard]] std::filesystem::path FileOf(const std::filesystem::path& folder, std::string_view name);
+
+// A path as messages show it; unlike path::wstring it takes names that the C locale cannot hold.
+[[nodiscard]] std::wstring Shown(const std::filesystem::path& path);
+
+}  // namespace plant

@@ -1,0 +1,192 @@
+#include <array>
+#include <chrono>
+
+#include "Disk.h"
+#include "DocumentName.h"
+#include "text/Refusal.h"
+
+namespace plant {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+unsigned TextFor(KZFileFailure failure) noexcept
+{
+    switch (failure) {
+    case KZFileFailure::Missing:
+        return IDS_PLANT_FILE_MISSING;
+    case KZFileFailure::Denied:
+        return IDS_PLANT_FILE_DENIED;
+    case KZFileFailure::Full:
+        return IDS_PLANT_FILE_FULL;
+    case KZFileFailure::InUse:
+        return IDS_PLANT_FILE_IN_USE;
+    case KZFileFailure::PathTooLong:
+        return IDS_PLANT_FILE_LONG_PATH;
+    default:
+        return IDS_PLANT_FILE_FAILED;
+    }
+}
+
+[[noreturn]] void Refuse(const Path& file, int error)
+{
+    KZFileFailure failure = KZFileFailureOf(error);
+#ifdef _WIN32
+    // Windows says of a path that it cannot take that it is not there.
+    constexpr std::size_t longestPath = 259;
+    if (failure == KZFileFailure::Missing && file.native().size() > longestPath)
+        failure = KZFileFailure::PathTooLong;
+#endif
+    throw Refusal(TextFor(failure), {Shown(file), KZFileReason(error)});
+}
+
+// A check of what has just been done to a file.
+void Check(bool done, const Path& file)
+{
+    if (!done)
+        Refuse(file, KZLastFileError());
+}
+
+void Check(const std::error_code& error, const Path& file)
+{
+    if (error)
+        Refuse(file, error.value());
+}
+
+std::string ReadToEnd(KZSystemFile& open, const Path& file)
+{
+    std::string bytes;
+    std::array<char, 65536> block;
+    for (;;) {
+        const std::optional<std::size_t> read = open.Read(block);
+        Check(read.has_value(), file);
+        if (*read == 0)
+            return bytes;
+        bytes.append(block.data(), *read);
+    }
+}
+
+constexpr fs::perms Writable = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+constexpr fs::perms Usual = Writable | fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+
+class RealHeldFile : public HeldFile {
+public:
+    RealHeldFile(KZSystemFile file, Path name) noexcept : m_file(std::move(file)), m_name(std::move(name)) {}
+    std::string Read() override
+    {
+        Check(m_file.Seek(0), m_name);
+        return ReadToEnd(m_file, m_name);
+    }
+    void Write(std::uint64_t place, std::string_view bytes) override
+    {
+        Check(m_file.Seek(place) && m_file.Write(bytes), m_name);
+    }
+    void Remove() noexcept override { KZSystemFile::RemoveHeld(std::move(m_file), m_name); }
+
+private:
+    KZSystemFile m_file;
+    Path m_name;
+};
+
+class MachineDisk : public Disk {
+public:
+    std::optional<std::string> Read(const Path& file) override
+    {
+        KZSystemFile open = KZSystemFile::OpenToRead(file);
+        if (!open.IsOpen()) {
+            const int error = KZLastFileError();
+            if (KZFileFailureOf(error) == KZFileFailure::Missing)
+                return std::nullopt;
+            Refuse(file, error);
+        }
+        return ReadToEnd(open, file);
+    }
+
+    std::optional<KZFileEntry> Find(const Path& path) override
+    {
+        std::optional<KZFileEntry> entry = KZFindFile(path);
+        if (!entry && KZFileFailureOf(KZLastFileError()) != KZFileFailure::Missing)
+            Refuse(path, KZLastFileError());
+        return entry;
+    }
+
+    std::vector<KZFileEntry> List(const Path& folder) override
+    {
+        std::optional<std::vector<KZFileEntry>> entries = KZListFolder(folder);
+        if (!entries) {
+            const int error = KZLastFileError();
+            if (KZFileFailureOf(error) != KZFileFailure::Missing)
+                Refuse(folder, error);
+            return {};
+        }
+        return std::move(*entries);
+    }
+
+    void Write(const Path& file, std::string_view bytes) override
+    {
+        KZSystemFile created = KZSystemFile::Create(file, Usual);
+        Check(created.IsOpen() && created.Write(bytes) && created.Close(), file);
+    }
+
+    void Move(const Path& from, const Path& to) override
+    {
+        std::error_code unknown;
+        const fs::file_status old = fs::status(to, unknown);
+        // Some systems replace a read-only file without asking.
+        if (fs::is_regular_file(old) && (old.permissions() & Writable) == fs::perms::none)
+            throw Refusal(IDS_PLANT_FILE_READ_ONLY, {Shown(to)});
+        Check(KZMoveOver(from, to), to);
+    }
+
+    void Link(const Path& file, const Path& name) override
+    {
+        std::error_code error;
+        fs::create_hard_link(file, name, error);
+        if (error)
+            fs::copy_file(file, name, error);
+        Check(error, name);
+    }
+
+    void Remove(const Path& path) override
+    {
+        std::error_code error;
+        fs::remove(path, error);
+        Check(error, path);
+    }
+
+    void MakeFolder(const Path& folder) override
+    {
+        std::error_code error;
+        fs::create_directory(folder, error);
+        Check(error, folder);
+    }
+
+    std::unique_ptr<HeldFile> Hold(const Path& file, KZHold hold) override
+    {
+        KZSystemFile held = KZSystemFile::Hold(file, hold);
+        if (held.IsOpen())
+            return std::make_unique<RealHeldFile>(std::move(held), file);
+        const int error = KZLastFileError();
+        const KZFileFailure failure = KZFileFailureOf(error);
+        if (failure != KZFileFailure::InUse && !(failure == KZFileFailure::Missing && hold == KZHold::ExistingFile))
+            Refuse(file, error);
+        return nullptr;
+    }
+
+    std::int64_t Now() noexcept override
+    {
+        const auto now = std::chrono::system_clock::now().time_since_epoch();
+        return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count() / 100;
+    }
+};
+
+}  // namespace
+
+Disk& RealDisk() noexcept
+{
+    static MachineDisk disk;
+    return disk;
+}
+
+}  // namespace plant

@@ -1,0 +1,73 @@
+#include "Sealed.h"
+
+#include <charconv>
+
+namespace plant {
+
+namespace {
+
+std::optional<std::uint64_t> ParseNumber(std::string_view text, int base) noexcept
+{
+    std::uint64_t number = 0;
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number, base);
+    return error == std::errc{} && stop == end ? std::optional(number) : std::nullopt;
+}
+
+}  // namespace
+
+std::uint64_t HashOf(std::string_view bytes) noexcept
+{
+    std::uint64_t hash = 0xCBF29CE484222325;
+    for (const char byte : bytes)
+        hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
+    return hash;
+}
+
+std::string HashText(std::uint64_t hash)
+{
+    constexpr std::size_t digits = 16;
+    char text[digits];
+    const auto [end, error] = std::to_chars(text, text + digits, hash, 16);
+    return std::string(digits - static_cast<std::size_t>(end - text), '0').append(text, end);
+}
+
+std::optional<std::uint64_t> ParseHash(std::string_view text) noexcept
+{
+    return text.size() == 16 ? ParseNumber(text, 16) : std::nullopt;
+}
+
+std::string Seal(std::string_view kind, std::string_view body)
+{
+    std::string bytes(kind);
+    bytes.append(" ").append(HashText(HashOf(body))).append("\n").append(body);
+    return bytes;
+}
+
+std::optional<std::string_view> Unseal(std::string_view kind, std::string_view bytes) noexcept
+{
+    if (TakeUpTo(bytes, ' ') != kind)
+        return std::nullopt;
+    const auto hash = TakeUpTo(bytes, '\n');
+    if (!hash || ParseHash(*hash) != HashOf(bytes))
+        return std::nullopt;
+    return bytes;
+}
+
+std::optional<std::string_view> TakeUpTo(std::string_view& text, char end) noexcept
+{
+    const std::size_t length = text.find(end);
+    if (length == std::string_view::npos)
+        return std::nullopt;
+    const std::string_view taken = text.substr(0, length);
+    text.remove_prefix(length + 1);
+    return taken;
+}
+
+std::optional<std::uint64_t> TakeNumber(std::string_view& text, char end) noexcept
+{
+    const auto digits = TakeUpTo(text, end);
+    return digits ? ParseNumber(*digits, 10) : std::nullopt;
+}
+
+}  // namespace plant

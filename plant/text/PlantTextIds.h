@@ -1,0 +1,13 @@
+// The ids of what the plant has to say. The application has the sentences, in each language.
+#pragma once
+
+#define IDS_PLANT_FILE_MISSING 3001    // %s: the file
+#define IDS_PLANT_FILE_DENIED 3002     // %s %s: the file, the reason
+#define IDS_PLANT_FILE_FULL 3003       // %s %s: the file, the reason
+#define IDS_PLANT_FILE_IN_USE 3004     // %s %s: the file, the reason
+#define IDS_PLANT_FILE_LONG_PATH 3005  // %s: the file
+#define IDS_PLANT_FILE_READ_ONLY 3006  // %s: the file
+#define IDS_PLANT_FILE_FAILED 3007     // %s %s: the file, the reason
+#define IDS_PLANT_LOCKED 3008          // %s: the lock file
+#define IDS_PLANT_DAMAGED 3009         // %s: the file
+#define IDS_PLANT_STRANGE_NAME 3010    // %s %s: the file, the name in it
