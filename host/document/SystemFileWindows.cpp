@@ -162,7 +162,6 @@ KZFileFailure KZFileFailureOf(int error) noexcept
         return KZFileFailure::Denied;
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
-    case ERROR_DISK_QUOTA_EXCEEDED:
         return KZFileFailure::Full;
     case ERROR_SHARING_VIOLATION:
     case ERROR_LOCK_VIOLATION:
