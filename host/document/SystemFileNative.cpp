@@ -105,6 +105,7 @@ KZFileEntry EntryOf(const struct stat& status)
         entry.kind = KZFileEntry::Kind::File;
     else if (S_ISDIR(status.st_mode))
         entry.kind = KZFileEntry::Kind::Folder;
+    entry.readOnly = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
     entry.size = static_cast<std::uint64_t>(status.st_size);
     entry.time = status.st_mtim.tv_sec * 10'000'000 + status.st_mtim.tv_nsec / 100;
     return entry;

@@ -105,6 +105,7 @@ KZFileEntry EntryOf(const Data& data)
         entry.kind = KZFileEntry::Kind::File;
     else if ((data.dwFileAttributes & folderOrLink) == FILE_ATTRIBUTE_DIRECTORY)
         entry.kind = KZFileEntry::Kind::Folder;
+    entry.readOnly = (data.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
     entry.size = std::uint64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow;
     const FILETIME& written = data.ftLastWriteTime;
     entry.time =

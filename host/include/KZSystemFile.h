@@ -67,6 +67,7 @@ struct KZFileEntry {
     enum class Kind { File, Folder, Other };
     std::filesystem::path name;  // without folder
     Kind kind = Kind::Other;
+    bool readOnly = false;
     std::uint64_t size = 0;  // of a file, in bytes
     std::int64_t time = 0;   // last written, in 100 ns since 1970
 };

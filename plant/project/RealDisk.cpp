@@ -31,14 +31,7 @@ unsigned TextFor(KZFileFailure failure) noexcept
 
 [[noreturn]] void Refuse(const Path& file, int error)
 {
-    KZFileFailure failure = KZFileFailureOf(error);
-#ifdef _WIN32
-    // Windows says of a path that it cannot take that it is not there.
-    constexpr std::size_t longestPath = 259;
-    if (failure == KZFileFailure::Missing && file.native().size() > longestPath)
-        failure = KZFileFailure::PathTooLong;
-#endif
-    throw Refusal(TextFor(failure), {Shown(file), KZFileReason(error)});
+    throw Refusal(TextFor(KZFileFailureOf(error)), {Shown(file), KZFileReason(error)});
 }
 
 // A check of what has just been done to a file.
@@ -54,6 +47,16 @@ void Check(const std::error_code& error, const Path& file)
         Refuse(file, error.value());
 }
 
+// Most programs on Windows can open no longer paths, and Windows itself says of them that they are not there.
+void CheckLength([[maybe_unused]] const Path& file)
+{
+#ifdef _WIN32
+    constexpr std::size_t longestPath = 259;
+    if (file.native().size() > longestPath)
+        throw Refusal(IDS_PLANT_FILE_LONG_PATH, {Shown(file)});
+#endif
+}
+
 std::string ReadToEnd(KZSystemFile& open, const Path& file)
 {
     std::string bytes;
@@ -67,8 +70,8 @@ std::string ReadToEnd(KZSystemFile& open, const Path& file)
     }
 }
 
-constexpr fs::perms Writable = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-constexpr fs::perms Usual = Writable | fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+// For everybody, less what the process's mask takes away.
+constexpr fs::perms Usual = static_cast<fs::perms>(0666);
 
 class RealHeldFile : public HeldFile {
 public:
@@ -125,22 +128,20 @@ public:
 
     void Write(const Path& file, std::string_view bytes) override
     {
+        CheckLength(file);
         KZSystemFile created = KZSystemFile::Create(file, Usual);
         Check(created.IsOpen() && created.Write(bytes) && created.Close(), file);
     }
 
     void Move(const Path& from, const Path& to) override
     {
-        std::error_code unknown;
-        const fs::file_status old = fs::status(to, unknown);
-        // Some systems replace a read-only file without asking.
-        if (fs::is_regular_file(old) && (old.permissions() & Writable) == fs::perms::none)
-            throw Refusal(IDS_PLANT_FILE_READ_ONLY, {Shown(to)});
+        CheckLength(to);
         Check(KZMoveOver(from, to), to);
     }
 
     void Link(const Path& file, const Path& name) override
     {
+        CheckLength(name);
         std::error_code error;
         fs::create_hard_link(file, name, error);
         if (error)
@@ -157,6 +158,7 @@ public:
 
     void MakeFolder(const Path& folder) override
     {
+        CheckLength(folder);
         std::error_code error;
         fs::create_directory(folder, error);
         Check(error, folder);
@@ -164,6 +166,7 @@ public:
 
     std::unique_ptr<HeldFile> Hold(const Path& file, KZHold hold) override
     {
+        CheckLength(file);
         KZSystemFile held = KZSystemFile::Hold(file, hold);
         if (held.IsOpen())
             return std::make_unique<RealHeldFile>(std::move(held), file);
