@@ -5,6 +5,7 @@
 #include "../strings/StringIds.h"
 #include "ExceptionGuard.h"
 #include "KZDocumentFileName.h"
+#include "KZDocumentStore.h"
 #include "KZLoadString.h"
 #include "KZMainCfg.h"
 
@@ -21,6 +22,35 @@ bool IsMissingOrEmpty(const fs::path& file)
     if (!fs::exists(file, error))
         return !error;
     return fs::is_regular_file(file, error) && fs::file_size(file, error) == 0 && !error;
+}
+
+fs::path FileOf(const KZBasicString& fileName)
+{
+    const fs::path folder(std::wstring(KZMainCfg::ProjectFolder().View()));
+    return folder / FolderName / std::wstring(fileName.View());
+}
+
+KZDocumentResult Read(const KZBasicString& fileName, XmlDocument& document)
+{
+    if (KZDocumentStore* const store = KZMainCfg::DocumentStore())
+        return store->Read(fileName, document);
+    const fs::path file = FileOf(fileName);
+    return IsMissingOrEmpty(file) ? KZDocumentResult{} : document.Load(file);
+}
+
+KZDocumentResult Write(const KZBasicString& fileName, XmlDocument& document)
+{
+    KZDocumentStore* const store = KZMainCfg::DocumentStore();
+    if (!store) {
+        const fs::path file = FileOf(fileName);
+        std::error_code ignored;  // saving names the folder that is missing
+        fs::create_directories(file.parent_path(), ignored);
+        return document.Save(file);
+    }
+    KZDocumentResult kept = store->Write(fileName, document);
+    if (kept)
+        document.SetDirty(false);
+    return kept;
 }
 
 void Say(unsigned format, const KZBasicString& what)
@@ -60,12 +90,11 @@ KZBasicString KZBaseDeviceCfg::DocumentFileName(const KZBasicString& driverId)
 
 void KZBaseDeviceCfg::addUriParams(KZBasicString&) const {}
 
-KZBasicString KZBaseDeviceCfg::DocumentPath() const
+KZBasicString KZBaseDeviceCfg::DocumentName() const
 {
     KZBasicString name = m_pDriver ? m_pDriver->DriverId() : KZBasicString();
     addUriParams(name);
-    const fs::path folder(std::wstring(KZMainCfg::ProjectFolder().View()));
-    return (folder / FolderName / std::wstring(DocumentFileName(name).View())).wstring();
+    return DocumentFileName(name);
 }
 
 void KZBaseDeviceCfg::ReadDocument()
@@ -73,10 +102,7 @@ void KZBaseDeviceCfg::ReadDocument()
     m_readResult = m_document.Parse("<device/>");
     if (KZMainCfg::ProjectFolder().IsEmpty())
         return;
-    const fs::path file(std::wstring(DocumentPath().View()));
-    if (IsMissingOrEmpty(file))
-        return;
-    m_readResult = m_document.Load(file);
+    m_readResult = Read(DocumentName(), m_document);
     if (!m_readResult)
         Say(KZ_IDS_DEVICE_NOT_READ, m_readResult.message);
 }
@@ -105,9 +131,6 @@ bool KZBaseDeviceCfg::StoreDocument(bool quiet)
         return fail(KZ_IDS_DEVICE_NO_PROJECT, {});
     if (!m_readResult)
         return fail(KZ_IDS_DEVICE_NOT_OVERWRITTEN, m_readResult.message);
-    const fs::path file(std::wstring(DocumentPath().View()));
-    std::error_code ignored;  // saving names the folder that is missing
-    fs::create_directories(file.parent_path(), ignored);
-    const KZDocumentResult saved = m_document.Save(file);
+    const KZDocumentResult saved = Write(DocumentName(), m_document);
     return saved ? true : fail(KZ_IDS_DEVICE_NOT_SAVED, saved.message);
 }

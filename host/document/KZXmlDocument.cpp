@@ -110,6 +110,8 @@ void XmlDocument::SetDirty(bool dirty) noexcept
 {
     m_state->dirty = dirty;
     m_state->Keep();
+    if (dirty && m_listener)
+        m_listener->OnCommit(*this);
 }
 
 bool XmlDocument::IsDirty() const noexcept

@@ -1,7 +1,8 @@
 // The base of the dialogs that edit one device's configuration document.
 //
-// The document is PROJECT/devices/DRIVERID.xml with the root element "device". DoModal reads it before the dialog
-// opens; a dialog changes it through Document() and commits it with writeCfg.
+// The document is PROJECT/devices/DRIVERID.xml with the root element "device", or what the application's document store
+// (KZMainCfg::SetDocumentStore) keeps under that file name. DoModal reads it before the dialog opens; a dialog changes
+// it through Document() and commits it with writeCfg.
 #pragma once
 
 #include "KZBaseDlg.h"
@@ -32,7 +33,7 @@ public:
     [[nodiscard]] static KZBasicString DocumentFileName(const KZBasicString& driverId);
 
 protected:
-    // Stores the document: the old file stands untouched until the new one is complete.
+    // Stores the document: the old one stands untouched until the new one is complete. The document is then clean.
     //   quiet   true: a failure shows no message
     // Returns false, after a message with file and reason, when it could not be stored.
     bool writeCfg(bool quiet);
@@ -44,7 +45,7 @@ protected:
 private:
     void ReadDocument();
     bool StoreDocument(bool quiet);
-    [[nodiscard]] KZBasicString DocumentPath() const;
+    [[nodiscard]] KZBasicString DocumentName() const;
 
     KZDriver* m_pDriver;
     XmlDocument m_document;

@@ -1,7 +1,9 @@
-// The host's main configuration document, of which there is one per process.
+// The host's main configuration document, of which there is one per process, and where the device documents are.
 #pragma once
 
 #include "KZXmlDocument.h"
+
+class KZDocumentStore;
 
 class KZ_API KZMainCfg {
 public:
@@ -13,4 +15,9 @@ public:
     // opens a project.
     [[nodiscard]] static KZBasicString ProjectFolder();
     static void SetProjectFolder(const KZBasicString& folder);
+
+    // What device dialogs read their documents from and hand them to. Null, as at the start: the files of the project's
+    // folder themselves. Not owned.
+    [[nodiscard]] static KZDocumentStore* DocumentStore() noexcept;
+    static void SetDocumentStore(KZDocumentStore* store) noexcept;
 };

@@ -17,6 +17,17 @@ struct KZDocumentResult {
     explicit operator bool() const noexcept { return ok; }
 };
 
+class XmlDocument;
+
+// Hears when what was changed in a document is meant: a dialog or command says so by SetDirty(true).
+class KZCommitListener {
+public:
+    virtual void OnCommit(XmlDocument& document) noexcept = 0;
+
+protected:
+    ~KZCommitListener() = default;
+};
+
 class KZ_API XmlDocument {
 public:
     class KZ_API XmlNode {
@@ -100,9 +111,14 @@ public:
     void SetDirty(bool dirty) noexcept;
     [[nodiscard]] bool IsDirty() const noexcept;
 
+    // Who hears of every SetDirty(true), when the document is dirty already too; null for nobody. Not owned. Stays when
+    // the content is replaced.
+    void SetCommitListener(KZCommitListener* listener) noexcept { m_listener = listener; }
+
 private:
     friend class XmlNode;
     struct State;
     KZDocumentResult Replace(std::string_view utf8, const wchar_t* rootName);
     std::unique_ptr<State> m_state;
+    KZCommitListener* m_listener = nullptr;
 };

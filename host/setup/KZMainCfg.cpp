@@ -8,6 +8,8 @@ KZBasicString& Folder()
     return folder;
 }
 
+KZDocumentStore* documentStore = nullptr;
+
 }  // namespace
 
 XmlDocument* KZMainCfg::Get()
@@ -24,4 +26,14 @@ KZBasicString KZMainCfg::ProjectFolder()
 void KZMainCfg::SetProjectFolder(const KZBasicString& folder)
 {
     Folder() = folder;
+}
+
+KZDocumentStore* KZMainCfg::DocumentStore() noexcept
+{
+    return documentStore;
+}
+
+void KZMainCfg::SetDocumentStore(KZDocumentStore* store) noexcept
+{
+    documentStore = store;
 }

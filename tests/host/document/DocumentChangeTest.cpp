@@ -267,15 +267,4 @@ TEST(Nodes, StayWhereTheyAreWhileTheDocumentGrows)
     EXPECT_STREQ(first->Value(L"v", L""), L"1");
 }
 
-TEST(Dirty, IsWhatSomebodySays)
-{
-    XmlDocument document(L"r");
-    document.Root()->SetValue(L"v", L"1");
-    EXPECT_FALSE(document.IsDirty());
-    document.SetDirty(true);
-    EXPECT_TRUE(document.IsDirty());
-    document.SetDirty(false);
-    EXPECT_FALSE(document.IsDirty());
-}
-
 }  // namespace
