@@ -11,6 +11,8 @@
 #include <type_traits>
 #include <utility>
 
+#include "KZXmlDocument.h"
+
 namespace {
 
 // expat's memory is C++'s, so that running out of it is one kind of failure. expat also asks for blocks to be resized,
@@ -209,9 +211,9 @@ private:
 
 std::optional<SourceFault> CheckSize(std::uintmax_t bytes)
 {
-    if (bytes <= LargestDocument)
+    if (bytes <= KZLargestDocument)
         return std::nullopt;
-    return SourceFault{L"the document is larger than " + std::to_wstring(LargestDocument >> 20) + L" MB"};
+    return SourceFault{L"the document is larger than " + std::to_wstring(KZLargestDocument >> 20) + L" MB"};
 }
 
 std::optional<SourceFault> CheckWellFormedness(std::string_view utf8)

@@ -14,10 +14,9 @@ struct SourceFault {
 };
 
 // Deeper, longer and more than in any document that makes sense.
-inline constexpr std::size_t LargestDocument = 64U << 20;  // bytes
-inline constexpr int DeepestNesting = 256;                 // elements
-inline constexpr std::size_t LongestName = 1000;           // bytes of UTF-8
-inline constexpr std::size_t MostAttributes = 1000;        // of one element
+inline constexpr int DeepestNesting = 256;           // elements
+inline constexpr std::size_t LongestName = 1000;     // bytes of UTF-8
+inline constexpr std::size_t MostAttributes = 1000;  // of one element
 
 // Why a document is refused by its size alone, or nothing; a file is asked for its size before it is read.
 [[nodiscard]] std::optional<SourceFault> CheckSize(std::uintmax_t bytes);

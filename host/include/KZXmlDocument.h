@@ -8,6 +8,9 @@
 
 #include "KZBasicString.h"
 
+// In bytes. A larger one is refused before it is read.
+inline constexpr std::size_t KZLargestDocument = 64U << 20;
+
 // How a document operation ended: empty message on success, otherwise one line that names the file, the reason and,
 // for a text that is not well-formed, the line and column.
 struct KZDocumentResult {

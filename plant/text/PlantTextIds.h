@@ -13,3 +13,5 @@
 #define IDS_PLANT_STRANGE_NAME 3010    // %s %s: the file, the name in it
 #define IDS_PLANT_HALF_DONE 3011       // %s: the journal
 #define IDS_PLANT_FILE_IS_FOLDER 3012  // %s: the file
+
+#define IDS_PLANT_RECOVERY_TOO_LARGE 3030  // %s: the project's folder
