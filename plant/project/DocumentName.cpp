@@ -18,6 +18,16 @@ bool IsPlain(char character) noexcept
     return code >= ' ' && code != 0x7F && std::string_view("/\\:*?\"<>|").find(character) == std::string_view::npos;
 }
 
+// Windows' file names do not tell capitals from small letters.
+constexpr unsigned char Folded(char character) noexcept
+{
+#ifdef _WIN32
+    if (character >= 'A' && character <= 'Z')
+        character = static_cast<char>(character - 'A' + 'a');
+#endif
+    return static_cast<unsigned char>(character);
+}
+
 }  // namespace
 
 bool IsDocumentName(std::string_view name) noexcept
@@ -37,16 +47,51 @@ std::string DeviceDocumentName(const KZBasicString& driverId)
     return std::string(DeviceFolder) + '/' + ToUtf8(KZDocumentFileName(driverId).View());
 }
 
-std::filesystem::path FileOf(const std::filesystem::path& folder, std::string_view name)
+bool NameLess::operator()(std::string_view a, std::string_view b) const noexcept
 {
-    const auto* text = reinterpret_cast<const char8_t*>(name.data());
-    return folder / std::filesystem::path(std::u8string_view(text, name.size()));
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                        [](char x, char y) { return Folded(x) < Folded(y); });
 }
 
-std::wstring Shown(const std::filesystem::path& path)
+bool IsSameName(std::string_view a, std::string_view b) noexcept
 {
-    const std::u8string name = path.u8string();
-    return FromUtf8({reinterpret_cast<const char*>(name.data()), name.size()});
+    return !NameLess{}(a, b) && !NameLess{}(b, a);
 }
+
+#ifdef _WIN32
+
+std::filesystem::path FileOf(const std::filesystem::path& folder, std::string_view name)
+{
+    return folder / FromUtf8(name);
+}
+
+std::string NameOf(const std::filesystem::path& path)
+{
+    return ToUtf8(path.native());
+}
+
+std::wstring Shown(std::filesystem::path path)
+{
+    return path.make_preferred().native();
+}
+
+#else
+
+std::filesystem::path FileOf(const std::filesystem::path& folder, std::string_view name)
+{
+    return folder / name;
+}
+
+std::string NameOf(const std::filesystem::path& path)
+{
+    return path.native();
+}
+
+std::wstring Shown(std::filesystem::path path)
+{
+    return FromUtf8(path.native());
+}
+
+#endif
 
 }  // namespace plant

@@ -19,10 +19,19 @@ inline constexpr std::string_view DeviceFolder = "devices";
 // The name of the document of a device.
 [[nodiscard]] std::string DeviceDocumentName(const KZBasicString& driverId);
 
-// The file that a name stands for below a folder.
+// An order of names in which those that stand for the same file are equal: on Windows "devices/A.xml" and
+// "devices/a.xml" are.
+struct NameLess {
+    using is_transparent = void;
+    [[nodiscard]] bool operator()(std::string_view a, std::string_view b) const noexcept;
+};
+[[nodiscard]] bool IsSameName(std::string_view a, std::string_view b) noexcept;
+
+// The file that a name stands for below a folder, and a path as such a name.
 [[nodiscard]] std::filesystem::path FileOf(const std::filesystem::path& folder, std::string_view name);
+[[nodiscard]] std::string NameOf(const std::filesystem::path& path);
 
 // A path as messages show it; unlike path::wstring it takes names that the C locale cannot hold.
-[[nodiscard]] std::wstring Shown(const std::filesystem::path& path);
+[[nodiscard]] std::wstring Shown(std::filesystem::path path);
 
 }  // namespace plant

@@ -34,7 +34,8 @@ std::string HashText(std::uint64_t hash)
 
 std::optional<std::uint64_t> ParseHash(std::string_view text) noexcept
 {
-    return text.size() == 16 ? ParseNumber(text, 16) : std::nullopt;
+    const bool isOurs = text.size() == 16 && text.find_first_of("ABCDEF") == std::string_view::npos;
+    return isOurs ? ParseNumber(text, 16) : std::nullopt;
 }
 
 std::string Seal(std::string_view kind, std::string_view body)

@@ -14,4 +14,10 @@
 #define IDS_PLANT_HALF_DONE 3011       // %s: the journal
 #define IDS_PLANT_FILE_IS_FOLDER 3012  // %s: the file
 
+#define IDS_PLANT_HISTORY_EMPTY 3020     // %s: the folder of the history
+#define IDS_PLANT_HISTORY_NO_ENTRY 3021  // %s %s %s: the number asked for, the lowest and the highest that there is
+#define IDS_PLANT_HISTORY_CHANGED 3022   // %s: the kept document that is not what it was
+#define IDS_PLANT_NOT_A_FOLDER 3023      // %s: the link or file in the place of a folder
+#define IDS_PLANT_DOCUMENT_IS_LINK 3024  // %s: the document
+
 #define IDS_PLANT_RECOVERY_TOO_LARGE 3030  // %s: the project's folder
