@@ -15,22 +15,51 @@ constexpr ReportColumn Columns[] = {
 
 void DeviceListView::Fill(const Project& project, const ModuleLoader& modules)
 {
+    m_pProject = &project;
+    m_pModules = &modules;
     SetColumns(Columns, ColumnDescription);
-    SetRowCount(static_cast<int>(project.Devices().size()));
-    int row = 0;
-    for (const Device& device : project.Devices())
-        ShowRow(row++, device, modules.StatusOf(device));
+    SetItemCount(static_cast<int>(project.Devices().size()));
     FitColumns();
 }
 
-void DeviceListView::ShowRow(int row, const Device& device, const ModuleStatus& status)
+std::wstring DeviceListView::Text(int row, int column) const
 {
+    const Device& device = m_pProject->Devices()[static_cast<std::size_t>(row)];
     const KZDriver& driver = *device.driver;
-    SetItemText(row, ColumnNumber, std::to_wstring(driver.Number()).c_str());
-    SetItemText(row, ColumnName, driver.Name().c_str());
-    SetItemText(row, ColumnModel, KZQuorvelantaSetup::Get()->DriverName(driver.TypeName().c_str()).c_str());
-    SetItemText(row, ColumnDescription, driver.Description().c_str());
-    SetItemText(row, ColumnModule, ModuleStateName(status.state).c_str());
+    switch (column) {
+    case ColumnNumber:
+        return std::to_wstring(driver.Number());
+    case ColumnName:
+        return driver.Name().c_str();
+    case ColumnModel:
+        return KZQuorvelantaSetup::Get()->DriverName(driver.TypeName().c_str()).c_str();
+    case ColumnDescription:
+        return driver.Description().c_str();
+    default:
+        return ModuleStateName(m_pModules->StatusOf(device).state);
+    }
+}
+
+void DeviceListView::GiveText(LVITEMW& item) const
+{
+    if ((item.mask & LVIF_TEXT) != 0)
+        ::lstrcpynW(item.pszText, Text(item.iItem, item.iSubItem).c_str(), item.cchTextMax);
+}
+
+int DeviceListView::Find(const NMLVFINDITEMW& wanted) const
+{
+    const int rows = GetItemCount();
+    if ((wanted.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0)
+        return -1;
+    for (int step = 0; step < rows; ++step) {
+        const int row = (wanted.iStart + step) % rows;
+        if (row < wanted.iStart && (wanted.lvfi.flags & LVFI_WRAP) == 0)
+            return -1;
+        const std::wstring number = Text(row, ColumnNumber);
+        if ((wanted.lvfi.flags & LVFI_PARTIAL) != 0 ? number.starts_with(wanted.lvfi.psz) : number == wanted.lvfi.psz)
+            return row;
+    }
+    return -1;
 }
 
 void DeviceListView::Select(int row)

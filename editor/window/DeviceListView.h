@@ -1,4 +1,5 @@
-// The project's devices in a report list: number, name, model, description, state of their module.
+// The project's devices in a report list: number, name, model, description, state of their module. The list asks for
+// what it shows, so that its rows cost nothing, however many there are.
 #pragma once
 
 #include "ReportList.h"
@@ -7,13 +8,21 @@
 
 class DeviceListView : public ReportList {
 public:
-    // Gives the list its columns and fills it. The rows follow the project's order.
+    // Gives the list its columns and one row for each device, in the project's order. Both must outlive the list.
     void Fill(const Project& project, const ModuleLoader& modules);
+
+    // Answers LVN_GETDISPINFO.
+    void GiveText(LVITEMW& item) const;
+    // Answers LVN_ODFINDITEM, by which the list finds the number that somebody types. Returns -1 when there is none.
+    [[nodiscard]] int Find(const NMLVFINDITEMW& wanted) const;
 
     // The selected row, -1 when none is.
     [[nodiscard]] int Selected() const { return GetNextItem(-1, LVNI_SELECTED); }
     void Select(int row);
 
 private:
-    void ShowRow(int row, const Device& device, const ModuleStatus& status);
+    [[nodiscard]] std::wstring Text(int row, int column) const;
+
+    const Project* m_pProject = nullptr;
+    const ModuleLoader* m_pModules = nullptr;
 };

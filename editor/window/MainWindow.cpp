@@ -41,6 +41,8 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_WM_SIZE()
     ON_COMMAND_RANGE(IDC_OPTIONS, IDC_EXIT, &MainWindow::OnMenuCommand)
     ON_LBN_SELCHANGE(IDC_CHOSEN, &MainWindow::OnMarkVariable)
+    ON_NOTIFY(LVN_GETDISPINFO, IDC_DEVICES, &MainWindow::OnDeviceText)
+    ON_NOTIFY(LVN_ODFINDITEM, IDC_DEVICES, &MainWindow::OnFindDevice)
     ON_NOTIFY(LVN_ITEMCHANGED, IDC_DEVICES, &MainWindow::OnSelectDevice)
     ON_NOTIFY(NM_DBLCLK, IDC_DEVICES, &MainWindow::OnDoubleClickDevice)
     ON_MESSAGE(WM_VKEYTOITEM, &MainWindow::OnListKey)
@@ -187,6 +189,17 @@ void MainWindow::OnGetMinMaxInfo(MINMAXINFO* information)
 void MainWindow::OnMarkVariable()
 {
     ShowState();
+}
+
+void MainWindow::OnDeviceText(NMHDR* header, LRESULT* result)
+{
+    *result = 0;
+    m_lstDevices.GiveText(reinterpret_cast<NMLVDISPINFOW*>(header)->item);
+}
+
+void MainWindow::OnFindDevice(NMHDR* header, LRESULT* result)
+{
+    *result = m_lstDevices.Find(*reinterpret_cast<NMLVFINDITEMW*>(header));
 }
 
 void MainWindow::OnSelectDevice(NMHDR*, LRESULT* result)

@@ -34,6 +34,8 @@ protected:
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnMenuCommand(UINT id);
     afx_msg void OnMarkVariable();
+    afx_msg void OnDeviceText(NMHDR* header, LRESULT* result);
+    afx_msg void OnFindDevice(NMHDR* header, LRESULT* result);
     afx_msg void OnSelectDevice(NMHDR* header, LRESULT* result);
     afx_msg void OnDoubleClickDevice(NMHDR* header, LRESULT* result);
     afx_msg LRESULT OnListKey(WPARAM wParam, LPARAM lParam);

@@ -21,14 +21,6 @@ int ReportList::OwnWidth(int column) const
     return units.Width();
 }
 
-void ReportList::SetRowCount(int count)
-{
-    for (int row = GetItemCount(); row > count; --row)
-        DeleteItem(row - 1);
-    for (int row = GetItemCount(); row < count; ++row)
-        InsertItem(row, L"");
-}
-
 void ReportList::FitToTexts(int column)
 {
     SetColumnWidth(column, LVSCW_AUTOSIZE);

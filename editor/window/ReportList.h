@@ -1,4 +1,4 @@
-// A list control in report view, filled by rows and columns.
+// The columns of a list control in report view.
 #pragma once
 
 #include <afxcmn.h>
@@ -22,9 +22,6 @@ public:
     void FitColumns();
 
 protected:
-    // Makes the list have that many rows; new ones are empty. The others keep their texts and the list its place.
-    void SetRowCount(int count);
-
     // Makes a column as wide as its texts, but no narrower than its own width.
     void FitToTexts(int column);
 

@@ -19,6 +19,14 @@ void SummaryView::SetUp()
     SetColumns(Columns, ColumnValue);
 }
 
+void SummaryView::SetRowCount(int count)
+{
+    for (int row = GetItemCount(); row > count; --row)
+        DeleteItem(row - 1);
+    for (int row = GetItemCount(); row < count; ++row)
+        InsertItem(row, L"");
+}
+
 void SummaryView::Show(const SummaryRows& rows)
 {
     SetRedraw(FALSE);

@@ -11,4 +11,8 @@ public:
 
     // Shows the rows. A section is named at its first row only.
     void Show(const SummaryRows& rows);
+
+private:
+    // Makes the list have that many rows; new ones are empty. The others keep their texts and the list its place.
+    void SetRowCount(int count);
 };

@@ -1,0 +1,126 @@
+// The list of a project's devices, of which there may be thousands.
+#include <set>
+
+#include "EditorWindowFixture.h"
+#include "ProjectXml.h"
+#include "TemporaryFolder.h"
+
+namespace {
+
+constexpr int Many = 2000;
+
+// A main window that remembers which rows its list of devices has asked for.
+class WatchedWindow : public MainWindow {
+public:
+    using MainWindow::MainWindow;
+    std::set<int> asked;
+
+protected:
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override
+    {
+        const auto* const header = reinterpret_cast<const NMHDR*>(lParam);
+        if (header->idFrom == IDC_DEVICES && header->code == LVN_GETDISPINFOW)
+            asked.insert(reinterpret_cast<const NMLVDISPINFOW*>(lParam)->item.iItem);
+        return MainWindow::OnNotify(wParam, lParam, result);
+    }
+};
+
+class ManyDevices : public editor_tests::EditorWindows {
+protected:
+    ManyDevices()
+    {
+        std::string devices;
+        for (int number = 1; number <= Many; ++number) {
+            const std::string digits = std::to_string(number);
+            devices += editor_tests::DeviceXml("zep-" + digits, "F" + digits, "0x74", "ZEP", digits);
+        }
+        m_folder.Write("main.xml", editor_tests::MainXml(devices));
+        m_large.emplace(m_folder.Path());
+        m_window.emplace(*m_large, m_modules);
+    }
+    void SetUp() override { ASSERT_TRUE(m_window->Create()); }
+    ~ManyDevices() override { m_window->DestroyWindow(); }
+
+    [[nodiscard]] HWND List() const { return ::GetDlgItem(m_window->m_hWnd, IDC_DEVICES); }
+    [[nodiscard]] std::wstring Cell(int row, int column) const
+    {
+        std::array<wchar_t, 64> text{};
+        ListView_GetItemText(List(), row, column, text.data(), static_cast<int>(text.size()));
+        return text.data();
+    }
+    // The key's own data says that it was pressed once; Wine's list does not take a character without any.
+    void Type(wchar_t character) const { ::SendMessageW(List(), WM_CHAR, character, 1); }
+    [[nodiscard]] int Selected() const { return ListView_GetNextItem(List(), -1, LVNI_SELECTED); }
+    void ExpectShown(const std::wstring& device) const
+    {
+        EXPECT_NE(kztest::TextOf(::GetDlgItem(m_window->m_hWnd, IDC_PANE_LABEL)).find(device), std::wstring::npos);
+    }
+
+    kztest::TemporaryFolder m_folder;
+    std::optional<Project> m_large;
+    std::optional<WatchedWindow> m_window;
+};
+
+TEST_F(ManyDevices, AreListedAll)
+{
+    EXPECT_EQ(ListView_GetItemCount(List()), Many);
+    EXPECT_EQ(Cell(0, 0), L"1");
+    EXPECT_EQ(Cell(Many - 1, 0), L"2000");
+    EXPECT_EQ(Cell(Many - 1, 1), L"F2000");
+    EXPECT_EQ(Cell(Many - 1, 2), L"ZEP active harmonic filter");
+    EXPECT_EQ(Cell(Many - 1, 3), L"Filtro de prueba, línea ñ");
+    EXPECT_EQ(Cell(Many - 1, 4), L"ready");
+}
+
+TEST_F(ManyDevices, AreAskedForOnlyAsFarAsTheyAreSeen)
+{
+    ::RedrawWindow(m_window->m_hWnd, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    kztest::DispatchPending();
+    EXPECT_FALSE(m_window->asked.empty());
+    EXPECT_LT(m_window->asked.size(), 50U);
+    EXPECT_LT(*m_window->asked.rbegin(), 50);
+}
+
+TEST_F(ManyDevices, AreReachedByTheKeyboard)
+{
+    ::SendMessageW(List(), WM_KEYDOWN, VK_END, 0);
+    EXPECT_EQ(Selected(), Many - 1);
+    ExpectShown(L"F2000");
+    ::SendMessageW(List(), WM_KEYDOWN, VK_UP, 0);
+    EXPECT_EQ(Selected(), Many - 2);
+    ExpectShown(L"F1999");
+}
+
+TEST_F(ManyDevices, AreFoundByTypingTheirNumber)
+{
+    for (const wchar_t digit : {L'1', L'2', L'3', L'4'})
+        Type(digit);
+    EXPECT_EQ(Selected(), 1233);
+    ExpectShown(L"F1234");
+}
+
+TEST_F(ManyDevices, StayWhereTheyAreWhenNoNumberBeginsLikeThat)
+{
+    ListView_SetItemState(List(), 7, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    Type(L'x');
+    EXPECT_EQ(Selected(), 7);
+}
+
+TEST_F(ManyDevices, AreFoundFromAnyRowOnOrFromTheStart)
+{
+    const auto find = [this](const wchar_t* number, UINT flags, int start) {
+        NMLVFINDITEMW wanted{};
+        wanted.hdr = {List(), IDC_DEVICES, static_cast<UINT>(LVN_ODFINDITEMW)};
+        wanted.iStart = start;
+        wanted.lvfi.flags = flags;
+        wanted.lvfi.psz = number;
+        return static_cast<int>(m_window->SendMessage(WM_NOTIFY, IDC_DEVICES, reinterpret_cast<LPARAM>(&wanted)));
+    };
+    EXPECT_EQ(find(L"12", LVFI_STRING, 0), 11);
+    EXPECT_EQ(find(L"12", LVFI_STRING, 12), -1);
+    EXPECT_EQ(find(L"12", LVFI_STRING | LVFI_WRAP, 12), 11);
+    EXPECT_EQ(find(L"12", LVFI_STRING | LVFI_PARTIAL, 12), 119);
+    EXPECT_EQ(find(L"12", LVFI_NEARESTXY, 0), -1);
+}
+
+}  // namespace
