@@ -1,6 +1,7 @@
 #include "Recovery.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "DocumentName.h"
 #include "Sealed.h"
@@ -95,8 +96,9 @@ Recoveries FindRecoveries(Disk& disk, const Path& projectFolder)
             all.refused.push_back(refusal.What());
         }
     }
-    std::stable_sort(all.found.begin(), all.found.end(),
-                     [](const auto& a, const auto& b) { return a.unsaved.time < b.unsaved.time; });
+    std::sort(all.found.begin(), all.found.end(), [](const auto& a, const auto& b) {
+        return std::tie(a.unsaved.time, a.file) < std::tie(b.unsaved.time, b.file);
+    });
     return all;
 }
 
