@@ -23,6 +23,8 @@ constexpr Anchor Anchors[] = {
     {IDC_MODULES_LABEL, 0, 100, 0, 0}, {IDC_MODULES, 0, 100, 100, 0},
 };
 
+constexpr UINT WM_KZ_SELECTION_SETTLED = WM_APP + 0x140;
+
 constexpr struct {
     int control;
     unsigned text;
@@ -47,6 +49,7 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_NOTIFY(NM_DBLCLK, IDC_DEVICES, &MainWindow::OnDoubleClickDevice)
     ON_MESSAGE(WM_VKEYTOITEM, &MainWindow::OnListKey)
     ON_MESSAGE(WM_KZ_OPTIONS_CHANGED, &MainWindow::OnOptionsChanged)
+    ON_MESSAGE(WM_KZ_SELECTION_SETTLED, &MainWindow::OnSelectionSettled)
 END_MESSAGE_MAP()
 
 bool MainWindow::Create()
@@ -113,8 +116,7 @@ void MainWindow::SetTexts()
 
 const Device* MainWindow::SelectedDevice() const
 {
-    const int row = m_lstDevices.Selected();
-    return row < 0 ? nullptr : &m_project.Devices()[static_cast<std::size_t>(row)];
+    return m_nShownRow < 0 ? nullptr : &m_project.Devices()[static_cast<std::size_t>(m_nShownRow)];
 }
 
 const KZDriverCallbacks* MainWindow::SelectedCallbacks() const
@@ -125,8 +127,8 @@ const KZDriverCallbacks* MainWindow::SelectedCallbacks() const
 
 void MainWindow::ShowDevice()
 {
-    const Device* device = SelectedDevice();
     m_nShownRow = m_lstDevices.Selected();
+    const Device* device = SelectedDevice();
     ShowChosenVariables();
     ShowSummary();
     SetDlgItemText(IDC_PANE_LABEL, device ? FormatEditorText(IDS_PANE_LABEL, device->driver->Name().c_str()).c_str()
@@ -205,8 +207,19 @@ void MainWindow::OnFindDevice(NMHDR* header, LRESULT* result)
 void MainWindow::OnSelectDevice(NMHDR*, LRESULT* result)
 {
     *result = 0;
+    const int row = m_lstDevices.Selected();
+    // The list takes the mark from one row before it marks the next: that there is none counts only if it stays so.
+    if (row < 0)
+        PostMessage(WM_KZ_SELECTION_SETTLED);
+    else if (row != m_nShownRow)
+        ShowDevice();
+}
+
+LRESULT MainWindow::OnSelectionSettled(WPARAM, LPARAM)
+{
     if (m_lstDevices.Selected() != m_nShownRow)
         ShowDevice();
+    return 0;
 }
 
 void MainWindow::OnDoubleClickDevice(NMHDR*, LRESULT* result)

@@ -40,6 +40,7 @@ protected:
     afx_msg void OnDoubleClickDevice(NMHDR* header, LRESULT* result);
     afx_msg LRESULT OnListKey(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnOptionsChanged(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSelectionSettled(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 
@@ -85,5 +86,5 @@ private:
     SummaryView m_lstSummary;
     ChildPane m_pane;
     HACCEL m_hAccelerators = nullptr;
-    int m_nShownRow = -1;
+    int m_nShownRow = -1;  // of the device that everything below the list is about
 };

@@ -91,6 +91,19 @@ TEST_F(ManyDevices, AreReachedByTheKeyboard)
     ExpectShown(L"F1999");
 }
 
+TEST_F(ManyDevices, AreLeftForNoneOnlyWhenNoneIsSelected)
+{
+    const HWND pane = ::GetDlgItem(m_window->m_hWnd, IDC_PANE);
+    ListView_SetItemState(List(), 7, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    kztest::DispatchPending();
+    ExpectShown(L"F8");
+    EXPECT_EQ(kztest::TextOf(::GetDlgItem(pane, IDC_PANE_TEXT)), L"") << "no device was shown in between";
+    ListView_SetItemState(List(), -1, 0, LVIS_SELECTED);
+    kztest::DispatchPending();
+    EXPECT_EQ(kztest::TextOf(::GetDlgItem(pane, IDC_PANE_TEXT)), EditorText(IDS_PANE_NO_DEVICE));
+    EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(m_window->m_hWnd, IDC_SELECT)));
+}
+
 TEST_F(ManyDevices, AreFoundByTypingTheirNumber)
 {
     for (const wchar_t digit : {L'1', L'2', L'3', L'4'})
