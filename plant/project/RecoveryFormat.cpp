@@ -32,8 +32,7 @@ std::string_view Part(std::string_view bytes, std::uint64_t place, std::uint64_t
 // The record at a place when the state that it stands for is whole.
 std::optional<RecoveryRecord> RecordAt(std::string_view bytes, std::uint64_t place)
 {
-    const std::string_view text = Part(bytes, place, RecordLength);
-    std::optional<std::string_view> numbers = Unseal(Kind, text);
+    std::optional<std::string_view> numbers = Unseal(Kind, Part(bytes, place, RecordLength));
     if (!numbers || numbers->size() != 4 * 17)
         return std::nullopt;
     std::array<std::uint64_t, 4> values;
@@ -46,8 +45,7 @@ std::optional<RecoveryRecord> RecordAt(std::string_view bytes, std::uint64_t pla
     }
     const RecoveryRecord record{values[0], values[1], values[2], values[3]};
     const bool isInside = record.place <= bytes.size() && record.length <= bytes.size() - record.place;
-    // A number can be written in more than one way. What differs from ours was changed.
-    if (!isInside || RecordText(record) != text || HashOf(Part(bytes, record.place, record.length)) != record.hash)
+    if (!isInside || HashOf(Part(bytes, record.place, record.length)) != record.hash)
         return std::nullopt;
     return record;
 }
