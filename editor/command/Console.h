@@ -3,7 +3,9 @@
 
 #include <string_view>
 
+// The line may wait in memory for others; FlushOutput hands on what waits, and a line on standard error comes after it.
 void PrintLine(std::string_view utf8);
+void FlushOutput();
 void PrintErrorLine(std::string_view utf8);
 
 // Whether anybody can read a line on standard error: false for a program that was started without a shell, whose

@@ -18,6 +18,7 @@ void Report(const char* utf8Line) noexcept
         PrintErrorLine(std::string("KZEditor: ") + utf8Line);
         return;
     }
+    FlushOutput();
     ::MessageBoxW(nullptr, FromUtf8(utf8Line).c_str(), L"KZEditor", MB_OK | MB_ICONERROR);
 }
 
@@ -35,7 +36,9 @@ int EditorApp::RunProgram() noexcept
     try {
         KZQuorvelantaSetup::Get()->SetLanguage(UserLanguage());
         KZQuorvelantaSetup::Get()->SetProgramIDResource(IDI_PROGRAM);
-        return RunArguments(ParseArguments(ProcessArguments()));
+        const int status = RunArguments(ParseArguments(ProcessArguments()));
+        FlushOutput();
+        return status;
     } catch (const std::exception& error) {
         Report(error.what());
         return ExitError;

@@ -6,6 +6,7 @@
 
 namespace {
 
+using editor_tests::DeviceXml;
 using editor_tests::EditorProcess;
 using editor_tests::EditorTest;
 using editor_tests::MainXml;
@@ -49,6 +50,21 @@ TEST_F(CommandLine, DevicesPrintsOneLineForEachDevice)
     EXPECT_EQ(editor.Wait(), 0);
     EXPECT_EQ(editor.Output(), "zep-1\tGRÚA.1\tZEP\t0x74\nzep-2\tNODIALOG\tZEP\t0x8B\nxyz-1\tOTHER\tXYZ\t0x0\n");
     EXPECT_EQ(editor.Errors(), "");
+}
+
+TEST_F(CommandLine, DevicesPrintsEveryLineOfALongList)
+{
+    std::string devices;
+    std::string lines;
+    for (int number = 1; number <= 3000; ++number) {
+        const std::string digits = std::to_string(number);
+        devices += DeviceXml("zep-" + digits, "F" + digits);
+        lines += "zep-" + digits + "\tF" + digits + "\tZEP\t0x74\n";
+    }
+    m_folder.Write("plant/main.xml", MainXml(devices));
+    EditorProcess& editor = Start({"devices"});
+    EXPECT_EQ(editor.Wait(), 0);
+    EXPECT_EQ(editor.Output(), lines);
 }
 
 TEST_F(CommandLine, TakesTheCurrentFolderAsTheProjectUnlessTold)
