@@ -22,6 +22,8 @@ struct Unsaved {
     Change documents;
     // Of each of the documents, HashOf what was on disk when it was loaded; nothing: there was no such file.
     std::map<std::string, std::optional<std::uint64_t>> before;
+
+    friend bool operator==(const Unsaved&, const Unsaved&) = default;
 };
 
 // A disk writes whole sectors: what is in one may be lost with what is written beside it.

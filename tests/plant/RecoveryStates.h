@@ -11,11 +11,6 @@
 
 namespace plant {
 
-inline bool operator==(const Unsaved& a, const Unsaved& b)
-{
-    return a.time == b.time && a.documents == b.documents && a.before == b.before;
-}
-
 // Each differs from the next in every part, in its length too.
 [[nodiscard]] inline Unsaved StateOf(long number)
 {
