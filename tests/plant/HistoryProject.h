@@ -18,6 +18,10 @@ using State = std::map<std::string, std::string>;
 class HistoryProject {
 public:
     explicit HistoryProject(plant::HistoryLimits limits = {}) : m_limits(limits) {}
+    HistoryProject(const HistoryProject& other) : m_limits(other.m_limits)
+    {
+        std::filesystem::copy(other.Path(), Path(), std::filesystem::copy_options::recursive);
+    }
 
     [[nodiscard]] const plant::Path& Path() const noexcept { return m_folder.Path(); }
     [[nodiscard]] plant::Path FileOf(std::string_view name) const { return plant::FileOf(Path(), name); }
@@ -43,6 +47,21 @@ public:
         for (const auto& [name, file] : plant::DocumentFilesIn(plant::RealDisk(), Path()))
             state.emplace(name, BytesOf(name));
         return state;
+    }
+
+    // Every file and folder below the project, or below a folder of it, folders with a name that ends in "/".
+    [[nodiscard]] State Tree(std::string_view below = "") const
+    {
+        State tree;
+        const plant::Path folder = FileOf(below);
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+            const std::string name = entry.path().lexically_relative(folder).generic_string();
+            if (entry.is_directory())
+                tree.emplace(name + '/', "");
+            else
+                tree.emplace(name, kztest::BytesOf(entry.path()));
+        }
+        return tree;
     }
 
     // Saves documents as the plant does and returns the number of the entry.

@@ -1,0 +1,20 @@
+// Why an operation of the plant was refused.
+#pragma once
+
+#include "text/Refusal.h"
+
+namespace kztest {
+
+// The text is 0 when nothing was refused.
+template <class Operation>
+[[nodiscard]] plant::Message RefusalOf(Operation operation)
+{
+    try {
+        static_cast<void>(operation());
+    } catch (const plant::Refusal& refusal) {
+        return refusal.What();
+    }
+    return {};
+}
+
+}  // namespace kztest
