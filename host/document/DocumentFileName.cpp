@@ -25,7 +25,8 @@ void AppendEscaped(std::wstring& text, unsigned char byte)
 bool IsReserved(std::wstring_view name)
 {
     std::wstring stem(name.substr(0, name.find_first_of(L". ")));
-    std::transform(stem.begin(), stem.end(), stem.begin(), [](wchar_t c) { return std::towupper(c); });
+    std::transform(stem.begin(), stem.end(), stem.begin(),
+                   [](wchar_t c) { return std::towupper(static_cast<wint_t>(c)); });
     constexpr std::wstring_view Devices[] = {L"CON", L"PRN", L"AUX", L"NUL"};
     if (std::find(std::begin(Devices), std::end(Devices), stem) != std::end(Devices))
         return true;
