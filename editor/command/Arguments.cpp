@@ -25,6 +25,9 @@ struct RawArguments {
     std::vector<std::string> list;
     std::optional<std::string> text;
     std::string stringId;
+    std::string saveNumber;
+    bool dryRun = false;
+    bool discard = false;
 };
 
 [[noreturn]] void Refuse(const std::string& argument, const std::string& value, const std::string& remedy)
@@ -45,7 +48,7 @@ int ParseInteger(const std::string& argument, const std::string& value, int lowe
 
 KZVariableGroups ParseGroups(const std::string& value)
 {
-    const auto groups = ParseGroupMask(FromUtf8(value));
+    const auto groups = plant::ParseGroupMask(FromUtf8(value));
     if (!groups)
         Refuse("--groups", value, "give a hexadecimal mask of the 34 groups, 0x0 to 0x3FFFFFFFF, such as 0x74");
     return *groups;
@@ -91,6 +94,13 @@ Syntax::Syntax()
         ->add_option("ID", raw.stringId, "The text's id, 1 to 65535")
         ->required();
 
+    app.add_subcommand("history", "Lists the saves of the project: number, time, cause, documents");
+    CLI::App* restore = app.add_subcommand("restore", "Brings the project back as it was before a save");
+    restore->add_option("NUMBER", raw.saveNumber, "The save's number in the history")->required();
+    restore->add_flag("--dry-run", raw.dryRun, "Only say what would change");
+    app.add_subcommand("recover", "Saves what an editor that ended without saving has left")
+        ->add_flag("--discard", raw.discard, "Take it away instead");
+
     CLI::App* select = AddDeviceCommand("select", "Lets the user choose variables of the device");
     select->add_option("--groups", raw.groups, "Variable groups to offer, hexadecimal (default: all 34)");
     select->add_option("--max", raw.maxVariables, "The most variables to choose, 0 for no limit");
@@ -105,6 +115,7 @@ Command CommandNamed(const std::string& name)
     static const std::pair<const char*, Command> commands[] = {
         {"devices", Command::Devices}, {"options", Command::Options}, {"select", Command::Select},
         {"third", Command::Third},     {"child", Command::Child},     {"string", Command::String},
+        {"history", Command::History}, {"restore", Command::Restore}, {"recover", Command::Recover},
     };
     const auto found =
         std::find_if(std::begin(commands), std::end(commands), [&](const auto& entry) { return name == entry.first; });
@@ -132,6 +143,10 @@ Arguments Interpret(const Syntax& syntax)
         arguments.text = FromUtf8(*raw.text);
     if (arguments.command == Command::String)
         arguments.stringId = static_cast<unsigned>(ParseInteger("ID", raw.stringId, 1, 65535));
+    if (arguments.command == Command::Restore)
+        arguments.saveNumber = ParseInteger("NUMBER", raw.saveNumber, 1, std::numeric_limits<int>::max());
+    arguments.dryRun = raw.dryRun;
+    arguments.discard = raw.discard;
     return arguments;
 }
 

@@ -6,24 +6,26 @@
 #include <string>
 #include <vector>
 
-#include "KZDriver.h"
 #include "KZQuorvelantaSetup.h"
 #include "project/ChosenVariables.h"
 #include "project/GroupMask.h"
 
-enum class Command { Window, Devices, Options, Select, Third, Child, String, Help };
+enum class Command { Window, Devices, Options, Select, Third, Child, String, History, Restore, Recover, Help };
 
 struct Arguments {
     Command command = Command::Window;
     std::filesystem::path project = L".";
     std::optional<KZLanguage> language;  // nothing: the user's
     std::wstring device;
-    KZVariableGroups groups = AllGroups();
+    KZVariableGroups groups = plant::AllGroups();
     int maxVariables = 0;  // 0: no limit
-    VariableList variables;
+    plant::VariableList variables;
     std::optional<std::wstring> text;
     unsigned stringId = 0;
-    std::string help;  // for Command::Help
+    int saveNumber = 0;    // of the history's entry to restore
+    bool dryRun = false;   // restore: only say what would change
+    bool discard = false;  // recover: take away instead of taking over
+    std::string help;      // for Command::Help
 };
 
 // The arguments without the program's name, in UTF-8. Throws EditorError, naming the argument, when they are wrong.

@@ -2,9 +2,11 @@
 
 #include "Console.h"
 #include "KZLoadString.h"
+#include "ProjectCommands.h"
+#include "RequiredFiles.h"
+#include "main/ProjectStore.h"
+#include "modules/DeviceDrivers.h"
 #include "modules/ModuleLoader.h"
-#include "project/Project.h"
-#include "project/RequiredFiles.h"
 #include "text/EditorError.h"
 #include "text/EditorText.h"
 #include "window/ChildWindow.h"
@@ -15,19 +17,6 @@ ExitStatus PrintAnswer(const char* what, bool answer)
 {
     PrintLine(std::string(what) + (answer ? ": true" : ": false"));
     return answer ? ExitTrue : ExitFalse;
-}
-
-ExitStatus ListDevices(const Arguments& arguments)
-{
-    const Project project(arguments.project);
-    for (const Device& device : project.Devices()) {
-        const KZDriver& driver = *device.driver;
-        const KZBasicString line =
-            KZBasicString::Format(L"%s\t%s\t%s\t%s", driver.DriverId().c_str(), driver.Name().c_str(),
-                                  driver.TypeName().c_str(), FormatGroupMask(driver.VariableGroups()).c_str());
-        PrintLine(ToUtf8(line.View()));
-    }
-    return ExitTrue;
 }
 
 ExitStatus PrintHostString(const Arguments& arguments)
@@ -41,13 +30,14 @@ ExitStatus PrintHostString(const Arguments& arguments)
 
 struct Context {
     const Arguments& arguments;
+    plant::Project& project;
     const KZDriverCallbacks& callbacks;
     KZDriver* driver;
 };
 
 ExitStatus RunOptions(const Context& context)
 {
-    RequireDeviceDocument(*context.driver);
+    RequireDeviceDocument(context.project, context.driver->DriverId());
     RequirePictures();
     return PrintAnswer("options", context.callbacks.options(nullptr, context.driver));
 }
@@ -56,7 +46,7 @@ ExitStatus RunSelect(const Context& context)
 {
     RequirePictures();
     const Arguments& arguments = context.arguments;
-    VariableList variables = arguments.variables;
+    plant::VariableList variables = arguments.variables;
     const ExitStatus status =
         PrintAnswer("select", context.callbacks.selectVariables(nullptr, context.driver, variables, arguments.groups,
                                                                 arguments.maxVariables,
@@ -73,26 +63,30 @@ ExitStatus RunThird(const Context& context)
 
 ExitStatus RunChild(const Context& context)
 {
-    RequireDeviceDocument(*context.driver);
+    RequireDeviceDocument(context.project, context.driver->DriverId());
     RequirePictures();
     const bool created = ShowChildWindow(context.driver, context.callbacks.createChildOptions);
     PrintLine(created ? "child: created" : "child: null");
     return created ? ExitTrue : ExitFalse;
 }
 
-ExitStatus RunOnDevice(const Arguments& arguments, ExitStatus (*run)(const Context&))
+ExitStatus RunOnDevice(const Arguments& arguments, const char* command, ExitStatus (*run)(const Context&))
 {
-    Project project(arguments.project);
-    const Device& device = project.DeviceByName(arguments.device);
+    const std::unique_ptr<plant::Project> project = OpenProject(arguments);
+    const std::size_t index = project->DeviceByName(arguments.device);
+    const KZBasicString& typeName = project->Devices()[index].typeName;
+    ProjectStore store(*project, command);
     const ModuleLoader modules(ProgramFolder());
-    const KZDriverCallbacks* callbacks = modules.CallbacksOf(device);
+    const KZDriverCallbacks* callbacks = modules.CallbacksOf(typeName);
     if (!callbacks) {
-        const ModuleStatus status = modules.StatusOf(device);
+        const ModuleStatus status = modules.StatusOf(typeName);
         throw EditorError(status.reason + L" " + status.remedy);
     }
-    const ExitStatus status = run({arguments, *callbacks, device.driver.get()});
-    if (const KZDocumentResult saved = project.Save(); !saved)
-        throw EditorError(FormatEditorText(IDS_SAVE_FAILED, saved.message.c_str()));
+    DeviceDrivers drivers(project->Devices());
+    const ExitStatus status = run({arguments, *project, *callbacks, &drivers[index]});
+    project->Save(command);
+    if (store.Refused())
+        throw EditorError(*store.Refused());
     return status;
 }
 
@@ -106,13 +100,19 @@ ExitStatus RunCommand(const Arguments& arguments)
     case Command::String:
         return PrintHostString(arguments);
     case Command::Options:
-        return RunOnDevice(arguments, RunOptions);
+        return RunOnDevice(arguments, "options", RunOptions);
     case Command::Select:
-        return RunOnDevice(arguments, RunSelect);
+        return RunOnDevice(arguments, "select", RunSelect);
     case Command::Third:
-        return RunOnDevice(arguments, RunThird);
+        return RunOnDevice(arguments, "third", RunThird);
     case Command::Child:
-        return RunOnDevice(arguments, RunChild);
+        return RunOnDevice(arguments, "child", RunChild);
+    case Command::History:
+        return ListHistory(arguments);
+    case Command::Restore:
+        return RestoreSave(arguments);
+    case Command::Recover:
+        return RecoverUnsaved(arguments);
     case Command::Window:
     case Command::Help:
         break;

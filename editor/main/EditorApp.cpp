@@ -2,12 +2,13 @@
 
 #include <commctrl.h>
 
+#include "ProjectStore.h"
 #include "command/Commands.h"
 #include "command/Console.h"
 #include "modules/ModuleLoader.h"
-#include "project/Project.h"
 #include "text/EditorError.h"
 #include "text/EditorText.h"
+#include "text/PlantMessage.h"
 #include "window/MainWindow.h"
 
 namespace {
@@ -39,6 +40,9 @@ int EditorApp::RunProgram() noexcept
         const int status = RunArguments(ParseArguments(ProcessArguments()));
         FlushOutput();
         return status;
+    } catch (const plant::Refusal& refusal) {
+        Report(ToUtf8(PlantMessage(refusal.What())).c_str());
+        return ExitError;
     } catch (const std::exception& error) {
         Report(error.what());
         return ExitError;
@@ -62,7 +66,8 @@ int EditorApp::RunArguments(const Arguments& arguments)
 
 int EditorApp::RunWindow(const Arguments& arguments)
 {
-    Project project(arguments.project);
+    plant::Project project(arguments.project);
+    ProjectStore store(project, "window");
     CloseOwnConsole();
     // After the project, so that the modules are freed while its devices still exist.
     const ModuleLoader modules(ProgramFolder());

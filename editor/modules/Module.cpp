@@ -2,9 +2,9 @@
 
 #include <cwctype>
 
+#include "DeviceType.h"
 #include "KZUtf8.h"
 #include "PeFile.h"
-#include "project/DeviceType.h"
 #include "text/EditorText.h"
 
 namespace {

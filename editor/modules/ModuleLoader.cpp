@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "DeviceType.h"
 #include "text/EditorText.h"
 
 namespace fs = std::filesystem;
@@ -30,38 +31,40 @@ ModuleLoader::ModuleLoader(const fs::path& folder) : m_folder(fs::absolute(folde
         m_modules.emplace_back(file);
 }
 
-const Module* ModuleLoader::ModuleOf(const Device& device) const
+const Module* ModuleLoader::ModuleOf(const KZBasicString& typeName) const
 {
     for (const Module& module : m_modules) {
-        if (module.Model() == device.driver->TypeName().View())
+        if (module.Model() == typeName.View())
             return &module;
     }
     return nullptr;
 }
 
-ModuleStatus ModuleLoader::StatusOf(const Device& device) const
+ModuleStatus ModuleLoader::StatusOf(const KZBasicString& typeName) const
 {
-    const wchar_t* type = device.driver->TypeName().c_str();
-    const Module* module = ModuleOf(device);
+    const wchar_t* model = typeName.c_str();
+    const DeviceType* type = FindDeviceType(typeName.View());
+    const Module* module = ModuleOf(typeName);
     if (module && !module->Status().IsReady())
         return module->Status();
-    if (!device.type)
-        return {ModuleState::Missing, FormatEditorText(IDS_MODULE_UNKNOWN_TYPE, type),
+    if (!type)
+        return {ModuleState::Missing, FormatEditorText(IDS_MODULE_UNKNOWN_TYPE, model),
                 EditorText(IDS_REMEDY_UNKNOWN_TYPE)};
     if (!module) {
-        const std::wstring name = std::wstring(L"KZUsr") + type + L".dll";
+        const std::wstring name = std::wstring(L"KZUsr") + model + L".dll";
         return {ModuleState::Missing, FormatEditorText(IDS_MODULE_MISSING, name.c_str(), m_folder.c_str()),
                 FormatEditorText(IDS_REMEDY_MISSING, name.c_str())};
     }
-    if (!KZDriverServices::Find(device.type->deviceClass))
-        return {ModuleState::Refused, FormatEditorText(IDS_MODULE_NOT_REGISTERED, module->File().c_str(), type),
+    if (!KZDriverServices::Find(type->deviceClass))
+        return {ModuleState::Refused, FormatEditorText(IDS_MODULE_NOT_REGISTERED, module->File().c_str(), model),
                 FormatEditorText(IDS_REMEDY_REFUSED, module->File().filename().c_str())};
     return module->Status();
 }
 
-const KZDriverCallbacks* ModuleLoader::CallbacksOf(const Device& device) const
+const KZDriverCallbacks* ModuleLoader::CallbacksOf(const KZBasicString& typeName) const
 {
-    return StatusOf(device).IsReady() ? KZDriverServices::Find(device.type->deviceClass) : nullptr;
+    return StatusOf(typeName).IsReady() ? KZDriverServices::Find(FindDeviceType(typeName.View())->deviceClass)
+                                        : nullptr;
 }
 
 fs::path ProgramFolder()

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "Module.h"
-#include "project/DeviceList.h"
 
 class ModuleLoader {
 public:
@@ -13,14 +12,14 @@ public:
 
     [[nodiscard]] const std::vector<Module>& Modules() const noexcept { return m_modules; }
 
-    // The state of the module that serves a device; Missing when there is no file for its type.
-    [[nodiscard]] ModuleStatus StatusOf(const Device& device) const;
+    // The state of the module that serves the devices of a type; Missing when there is no file for it.
+    [[nodiscard]] ModuleStatus StatusOf(const KZBasicString& typeName) const;
 
-    // What the module of a device registered; null unless that module is ready and registered the device's class.
-    [[nodiscard]] const KZDriverCallbacks* CallbacksOf(const Device& device) const;
+    // What the module of a type registered; null unless that module is ready and registered the type's device class.
+    [[nodiscard]] const KZDriverCallbacks* CallbacksOf(const KZBasicString& typeName) const;
 
 private:
-    [[nodiscard]] const Module* ModuleOf(const Device& device) const;
+    [[nodiscard]] const Module* ModuleOf(const KZBasicString& typeName) const;
 
     std::filesystem::path m_folder;
     std::vector<Module> m_modules;

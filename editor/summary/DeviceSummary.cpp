@@ -1,31 +1,35 @@
 #include "DeviceSummary.h"
 
+#include "KZMainCfg.h"
 #include "LimitsSummary.h"
 #include "SettingsSummary.h"
 #include "UnitsSummary.h"
-#include "project/DeviceDocument.h"
+#include "project/DocumentName.h"
 #include "text/EditorText.h"
+#include "text/PlantMessage.h"
 
 namespace {
 
-void AddDevice(SummaryRows& rows, const KZDriver& driver)
+void AddDevice(SummaryRows& rows, plant::Project& project, const KZBasicString& driverId)
 {
     XmlDocument document(L"device");
-    if (const KZDocumentResult read = ReadDeviceDocument(driver, document); read)
+    try {
+        project.ReadDeviceDocument(plant::DeviceDocumentName(driverId), document);
         AddSettings(rows, *document.Root());
-    else
-        rows.push_back({EditorText(IDS_SECTION_DEVICE), EditorText(IDS_SUMMARY_UNREADABLE), read.message.c_str()});
+    } catch (const plant::Refusal& refusal) {
+        rows.push_back(
+            {EditorText(IDS_SECTION_DEVICE), EditorText(IDS_SUMMARY_UNREADABLE), PlantMessage(refusal.What())});
+    }
 }
 
 }  // namespace
 
-SummaryRows DeviceSummary(const XmlDocument& configuration, const KZDriver& driver)
+SummaryRows DeviceSummary(plant::Project& project, const KZBasicString& driverId)
 {
-    const wchar_t* driverId = driver.DriverId().c_str();
-    const XmlDocument::XmlNode* root = configuration.Root();
+    const XmlDocument::XmlNode* root = KZMainCfg::Get()->Root();
     SummaryRows rows;
-    AddDevice(rows, driver);
-    AddUnits(rows, root->NodeV(L"unitSetups/unitSetup?driverId=%s?", driverId));
-    AddLimits(rows, root->NodeV(L"viewSetups/viewSetup?driverId=%s?", driverId));
+    AddDevice(rows, project, driverId);
+    AddUnits(rows, root->NodeV(L"unitSetups/unitSetup?driverId=%s?", driverId.c_str()));
+    AddLimits(rows, root->NodeV(L"viewSetups/viewSetup?driverId=%s?", driverId.c_str()));
     return rows;
 }

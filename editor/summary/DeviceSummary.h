@@ -2,10 +2,8 @@
 // number format.
 #pragma once
 
-#include "KZDriver.h"
-#include "KZXmlDocument.h"
 #include "SummaryRow.h"
+#include "project/Project.h"
 
-// configuration: the main configuration document. The device's own document is read from the project folder; when that
-// fails, one row gives the reason in place of the settings.
-[[nodiscard]] SummaryRows DeviceSummary(const XmlDocument& configuration, const KZDriver& driver);
+// When the device's own document cannot be read, one row gives the reason in place of the settings.
+[[nodiscard]] SummaryRows DeviceSummary(plant::Project& project, const KZBasicString& driverId);

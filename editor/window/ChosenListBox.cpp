@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-int ChosenListBox::WidestText(const VariableList& variables)
+int ChosenListBox::WidestText(const plant::VariableList& variables)
 {
     LONG widest = 0;
     CClientDC dc(this);
@@ -13,7 +13,7 @@ int ChosenListBox::WidestText(const VariableList& variables)
     return widest;
 }
 
-void ChosenListBox::Show(const VariableList& variables)
+void ChosenListBox::Show(const plant::VariableList& variables)
 {
     SetRedraw(FALSE);
     ResetContent();
@@ -26,9 +26,9 @@ void ChosenListBox::Show(const VariableList& variables)
     Invalidate();
 }
 
-VariableList ChosenListBox::Unmarked(const VariableList& shown) const
+plant::VariableList ChosenListBox::Unmarked(const plant::VariableList& shown) const
 {
-    VariableList unmarked;
+    plant::VariableList unmarked;
     int row = 0;
     for (const KZBasicString& variable : shown) {
         if (GetSel(row++) <= 0)

@@ -7,12 +7,12 @@
 
 class ChosenListBox : public CListBox {
 public:
-    void Show(const VariableList& variables);
+    void Show(const plant::VariableList& variables);
 
     [[nodiscard]] bool HasMarked() const { return GetSelCount() > 0; }
     // The shown variables without those that the user has marked.
-    [[nodiscard]] VariableList Unmarked(const VariableList& shown) const;
+    [[nodiscard]] plant::VariableList Unmarked(const plant::VariableList& shown) const;
 
 private:
-    [[nodiscard]] int WidestText(const VariableList& variables);
+    [[nodiscard]] int WidestText(const plant::VariableList& variables);
 };

@@ -13,30 +13,35 @@ constexpr ReportColumn Columns[] = {
 
 }  // namespace
 
-void DeviceListView::Fill(const Project& project, const ModuleLoader& modules)
+void DeviceListView::Fill(const plant::Project& project, const ModuleLoader& modules)
 {
     m_pProject = &project;
     m_pModules = &modules;
     SetColumns(Columns, ColumnDescription);
-    SetItemCount(static_cast<int>(project.Devices().size()));
+    Refresh();
     FitColumns();
+}
+
+void DeviceListView::Refresh()
+{
+    SetItemCount(static_cast<int>(m_pProject->Devices().size()));
+    Invalidate();
 }
 
 std::wstring DeviceListView::Text(int row, int column) const
 {
-    const Device& device = m_pProject->Devices()[static_cast<std::size_t>(row)];
-    const KZDriver& driver = *device.driver;
+    const KZDeviceIdentity& device = m_pProject->Devices()[static_cast<std::size_t>(row)];
     switch (column) {
     case ColumnNumber:
-        return std::to_wstring(driver.Number());
+        return std::to_wstring(device.number);
     case ColumnName:
-        return driver.Name().c_str();
+        return device.name.c_str();
     case ColumnModel:
-        return KZQuorvelantaSetup::Get()->DriverName(driver.TypeName().c_str()).c_str();
+        return KZQuorvelantaSetup::Get()->DriverName(device.typeName.c_str()).c_str();
     case ColumnDescription:
-        return driver.Description().c_str();
+        return device.description.c_str();
     default:
-        return ModuleStateName(m_pModules->StatusOf(device).state);
+        return ModuleStateName(m_pModules->StatusOf(device.typeName).state);
     }
 }
 

@@ -9,7 +9,10 @@
 class DeviceListView : public ReportList {
 public:
     // Gives the list its columns and one row for each device, in the project's order. Both must outlive the list.
-    void Fill(const Project& project, const ModuleLoader& modules);
+    void Fill(const plant::Project& project, const ModuleLoader& modules);
+
+    // The project's devices have changed.
+    void Refresh();
 
     // Answers LVN_GETDISPINFO.
     void GiveText(LVITEMW& item) const;
@@ -23,6 +26,6 @@ public:
 private:
     [[nodiscard]] std::wstring Text(int row, int column) const;
 
-    const Project* m_pProject = nullptr;
+    const plant::Project* m_pProject = nullptr;
     const ModuleLoader* m_pModules = nullptr;
 };

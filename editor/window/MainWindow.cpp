@@ -50,7 +50,23 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_MESSAGE(WM_VKEYTOITEM, &MainWindow::OnListKey)
     ON_MESSAGE(WM_KZ_OPTIONS_CHANGED, &MainWindow::OnOptionsChanged)
     ON_MESSAGE(WM_KZ_SELECTION_SETTLED, &MainWindow::OnSelectionSettled)
+    ON_MESSAGE(WM_ACTIVATEAPP, &MainWindow::OnActivateProgram)
+    ON_MESSAGE(WM_KZ_LOOK_AT_FILES, &MainWindow::OnLookAtFiles)
+    ON_MESSAGE(WM_KZ_UNPROTECTED, &MainWindow::OnUnprotected)
+    ON_MESSAGE(WM_QUERYENDSESSION, &MainWindow::OnQueryEndOfSession)
+    ON_MESSAGE(WM_ENDSESSION, &MainWindow::OnEndOfSession)
 END_MESSAGE_MAP()
+
+MainWindow::MainWindow(plant::Project& project, const ModuleLoader& modules)
+    : m_project(project), m_modules(modules), m_drivers(project.Devices()), m_questions(*this)
+{
+    m_project.SetUser(&m_questions);
+}
+
+MainWindow::~MainWindow()
+{
+    m_project.SetUser(nullptr);
+}
 
 bool MainWindow::Create()
 {
@@ -59,6 +75,7 @@ bool MainWindow::Create()
     // Windows frees the table with the program.
     m_hAccelerators = ::LoadAcceleratorsW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDA_MAIN));
     ShowWindow(SW_SHOW);
+    PostMessage(WM_KZ_LOOK_AT_FILES);
     return true;
 }
 
@@ -114,31 +131,36 @@ void MainWindow::SetTexts()
         SetDlgItemText(caption.control, EditorText(caption.text).c_str());
 }
 
-const Device* MainWindow::SelectedDevice() const
+const KZDeviceIdentity* MainWindow::SelectedDevice() const
 {
     return m_nShownRow < 0 ? nullptr : &m_project.Devices()[static_cast<std::size_t>(m_nShownRow)];
 }
 
+KZDriver* MainWindow::SelectedDriver()
+{
+    return m_nShownRow < 0 ? nullptr : &m_drivers[static_cast<std::size_t>(m_nShownRow)];
+}
+
 const KZDriverCallbacks* MainWindow::SelectedCallbacks() const
 {
-    const Device* device = SelectedDevice();
-    return device ? m_modules.CallbacksOf(*device) : nullptr;
+    const KZDeviceIdentity* device = SelectedDevice();
+    return device ? m_modules.CallbacksOf(device->typeName) : nullptr;
 }
 
 void MainWindow::ShowDevice()
 {
     m_nShownRow = m_lstDevices.Selected();
-    const Device* device = SelectedDevice();
+    const KZDeviceIdentity* device = SelectedDevice();
     ShowChosenVariables();
     ShowSummary();
-    SetDlgItemText(IDC_PANE_LABEL, device ? FormatEditorText(IDS_PANE_LABEL, device->driver->Name().c_str()).c_str()
+    SetDlgItemText(IDC_PANE_LABEL, device ? FormatEditorText(IDS_PANE_LABEL, device->name.c_str()).c_str()
                                           : EditorText(IDS_PANE_LABEL_NONE).c_str());
     if (!device) {
         m_pane.ShowText(EditorText(IDS_PANE_NO_DEVICE));
-    } else if (const KZDriverCallbacks* callbacks = m_modules.CallbacksOf(*device)) {
-        m_pane.Embed(device->driver.get(), callbacks->createChildOptions);
+    } else if (const KZDriverCallbacks* callbacks = m_modules.CallbacksOf(device->typeName)) {
+        m_pane.Embed(SelectedDriver(), callbacks->createChildOptions);
     } else {
-        const ModuleStatus status = m_modules.StatusOf(*device);
+        const ModuleStatus status = m_modules.StatusOf(device->typeName);
         m_pane.ShowText(status.reason + L"\n" + status.remedy);
     }
     ShowState();
@@ -153,16 +175,17 @@ void MainWindow::ShowModules()
 
 void MainWindow::ShowChosenVariables()
 {
-    const Device* device = SelectedDevice();
-    const VariableList chosen = device ? ChosenVariables(*KZMainCfg::Get(), *device->driver) : VariableList{};
+    const KZDeviceIdentity* device = SelectedDevice();
+    const plant::VariableList chosen =
+        device ? plant::ChosenVariables(*KZMainCfg::Get(), device->driverId) : plant::VariableList{};
     m_lstChosen.Show(chosen);
     SetDlgItemText(IDC_CHOSEN_LABEL, FormatEditorText(IDS_CHOSEN_LABEL, static_cast<int>(chosen.size())).c_str());
 }
 
 void MainWindow::ShowSummary()
 {
-    const Device* device = SelectedDevice();
-    m_lstSummary.Show(device ? DeviceSummary(*KZMainCfg::Get(), *device->driver) : SummaryRows{});
+    const KZDeviceIdentity* device = SelectedDevice();
+    m_lstSummary.Show(device ? DeviceSummary(m_project, device->driverId) : SummaryRows{});
 }
 
 void MainWindow::ShowState()

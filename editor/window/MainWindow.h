@@ -8,12 +8,18 @@
 #include "ChildPane.h"
 #include "ChosenListBox.h"
 #include "DeviceListView.h"
+#include "ProjectQuestions.h"
 #include "SummaryView.h"
+#include "modules/DeviceDrivers.h"
+
+// To the main window, from itself: look for what other editors and programs have left or changed.
+inline constexpr UINT WM_KZ_LOOK_AT_FILES = WM_APP + 0x131;
 
 class MainWindow : public CDialog {
 public:
     // Both must outlive the window.
-    MainWindow(Project& project, const ModuleLoader& modules) noexcept : m_project(project), m_modules(modules) {}
+    MainWindow(plant::Project& project, const ModuleLoader& modules);
+    ~MainWindow() override;
 
     // Creates and shows the window. Returns false when it cannot be created.
     bool Create();
@@ -41,6 +47,11 @@ protected:
     afx_msg LRESULT OnListKey(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnOptionsChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSelectionSettled(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnActivateProgram(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnLookAtFiles(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnUnprotected(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnQueryEndOfSession(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnEndOfSession(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 
@@ -64,8 +75,13 @@ private:
     [[nodiscard]] bool IsDirty() const;
     [[nodiscard]] bool Always() const;
 
+    // MainWindowFiles.cpp
     bool SaveOrSayWhy();
     bool MayClose();
+    void OfferRecoveries();
+    void LookForForeignChanges();
+    void ShowProject();
+
     void ShowCommands();
 
     void AddMenu();
@@ -75,11 +91,14 @@ private:
     void ShowChosenVariables();
     void ShowSummary();
     void ShowState();
-    [[nodiscard]] const Device* SelectedDevice() const;
+    [[nodiscard]] const KZDeviceIdentity* SelectedDevice() const;
+    [[nodiscard]] KZDriver* SelectedDriver();
     [[nodiscard]] const KZDriverCallbacks* SelectedCallbacks() const;
 
-    Project& m_project;
+    plant::Project& m_project;
     const ModuleLoader& m_modules;
+    DeviceDrivers m_drivers;
+    ProjectQuestions m_questions;
     AnchoredControls m_layout;
     DeviceListView m_lstDevices;
     ChosenListBox m_lstChosen;
@@ -87,4 +106,7 @@ private:
     ChildPane m_pane;
     HACCEL m_hAccelerators = nullptr;
     int m_nShownRow = -1;  // of the device that everything below the list is about
+    bool m_bRecoveriesOffered = false;
+    std::vector<std::string> m_refusedChanges;  // of other programs: the user keeps his own
+    bool m_bUnwanted = false;                   // what is not saved: the user has said so
 };

@@ -64,38 +64,29 @@ bool MainWindow::TranslateShortcut(MSG* message)
 
 void MainWindow::OpenOptions()
 {
-    SelectedCallbacks()->options(this, SelectedDevice()->driver.get());
+    SelectedCallbacks()->options(this, SelectedDriver());
     ShowSummary();
     ShowState();
 }
 
 void MainWindow::SelectVariables()
 {
-    KZDriver* driver = SelectedDevice()->driver.get();
-    const VariableList earlier = ChosenVariables(*KZMainCfg::Get(), *driver);
-    VariableList variables = earlier;
-    if (SelectedCallbacks()->selectVariables(this, driver, variables, MeasuredGroups, 0, nullptr))
-        StoreChosenVariables(*KZMainCfg::Get(), *driver, MergeChoices(earlier, variables));
+    const KZBasicString driverId = SelectedDevice()->driverId;
+    const plant::VariableList earlier = plant::ChosenVariables(*KZMainCfg::Get(), driverId);
+    plant::VariableList variables = earlier;
+    if (SelectedCallbacks()->selectVariables(this, SelectedDriver(), variables, plant::MeasuredGroups, 0, nullptr))
+        plant::StoreChosenVariables(*KZMainCfg::Get(), driverId, plant::MergeChoices(earlier, variables));
     ShowChosenVariables();
     ShowState();
 }
 
 void MainWindow::RemoveVariables()
 {
-    const KZDriver& driver = *SelectedDevice()->driver;
-    const VariableList chosen = ChosenVariables(*KZMainCfg::Get(), driver);
-    StoreChosenVariables(*KZMainCfg::Get(), driver, m_lstChosen.Unmarked(chosen));
+    const KZBasicString& driverId = SelectedDevice()->driverId;
+    const plant::VariableList chosen = plant::ChosenVariables(*KZMainCfg::Get(), driverId);
+    plant::StoreChosenVariables(*KZMainCfg::Get(), driverId, m_lstChosen.Unmarked(chosen));
     ShowChosenVariables();
     ShowState();
-}
-
-bool MainWindow::SaveOrSayWhy()
-{
-    const KZDocumentResult saved = m_project.Save();
-    if (!saved)
-        AfxMessageBox(FormatEditorText(IDS_SAVE_FAILED, saved.message.c_str()).c_str(), MB_OK | MB_ICONERROR);
-    ShowState();
-    return saved.ok;
 }
 
 void MainWindow::Save()
@@ -103,25 +94,13 @@ void MainWindow::Save()
     SaveOrSayWhy();
 }
 
-bool MainWindow::MayClose()
-{
-    if (!IsDirty())
-        return true;
-    const std::wstring question = FormatEditorText(IDS_ASK_SAVE, m_project.Name().c_str());
-    switch (AfxMessageBox(question.c_str(), MB_YESNOCANCEL | MB_ICONQUESTION)) {
-    case IDYES:
-        return SaveOrSayWhy();
-    case IDNO:
-        return true;
-    default:
-        return false;
-    }
-}
-
 void MainWindow::Close()
 {
-    if (MayClose())
-        DestroyWindow();
+    if (!MayClose())
+        return;
+    if (m_bUnwanted)
+        m_project.Discard();
+    DestroyWindow();
 }
 
 void MainWindow::OnClose()

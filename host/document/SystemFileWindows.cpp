@@ -23,8 +23,10 @@ std::intptr_t AsNumber(HANDLE file) noexcept
 
 KZSystemFile KZSystemFile::OpenToRead(const std::filesystem::path& file) noexcept
 {
-    return KZSystemFile(AsNumber(::CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
-                                               OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr)));
+    // Nobody else's work may fail because this program happens to look.
+    constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return KZSystemFile(AsNumber(::CreateFileW(file.c_str(), GENERIC_READ, everything, nullptr, OPEN_EXISTING,
+                                               FILE_FLAG_SEQUENTIAL_SCAN, nullptr)));
 }
 
 KZSystemFile KZSystemFile::Create(const std::filesystem::path& file, std::filesystem::perms) noexcept

@@ -1,18 +1,19 @@
 // The ids of what the plant has to say. The application has the sentences, in each language.
 #pragma once
 
-#define IDS_PLANT_FILE_MISSING 3001    // %s: the file
-#define IDS_PLANT_FILE_DENIED 3002     // %s %s: the file, the reason
-#define IDS_PLANT_FILE_FULL 3003       // %s %s: the file, the reason
-#define IDS_PLANT_FILE_IN_USE 3004     // %s %s: the file, the reason
-#define IDS_PLANT_FILE_LONG_PATH 3005  // %s: the file
-#define IDS_PLANT_FILE_READ_ONLY 3006  // %s: the file
-#define IDS_PLANT_FILE_FAILED 3007     // %s %s: the file, the reason
-#define IDS_PLANT_LOCKED 3008          // %s: the lock file
-#define IDS_PLANT_DAMAGED 3009         // %s: the file
-#define IDS_PLANT_STRANGE_NAME 3010    // %s %s: the file, the name in it
-#define IDS_PLANT_HALF_DONE 3011       // %s: the journal
-#define IDS_PLANT_FILE_IS_FOLDER 3012  // %s: the file
+#define IDS_PLANT_FILE_MISSING 3001     // %s: the file
+#define IDS_PLANT_FILE_DENIED 3002      // %s %s: the file, the reason
+#define IDS_PLANT_FILE_FULL 3003        // %s %s: the file, the reason
+#define IDS_PLANT_FILE_IN_USE 3004      // %s: the file
+#define IDS_PLANT_FILE_LONG_PATH 3005   // %s: the file
+#define IDS_PLANT_FILE_READ_ONLY 3006   // %s: the file
+#define IDS_PLANT_FILE_IS_FOLDER 3007   // %s: the file
+#define IDS_PLANT_FILE_FAILED 3008      // %s %s: the file, the reason
+#define IDS_PLANT_LOCKED 3009           // %s: the lock file
+#define IDS_PLANT_DAMAGED 3010          // %s: the file
+#define IDS_PLANT_STRANGE_NAME 3011     // %s %s: the file, the name in it
+#define IDS_PLANT_HALF_DONE 3012        // %s: the journal
+#define IDS_PLANT_FOREIGN_CHANGES 3013  // %s: the documents
 
 #define IDS_PLANT_HISTORY_EMPTY 3020     // %s: the folder of the history
 #define IDS_PLANT_HISTORY_NO_ENTRY 3021  // %s %s %s: the number asked for, the lowest and the highest that there is
@@ -21,3 +22,15 @@
 #define IDS_PLANT_DOCUMENT_IS_LINK 3024  // %s: the document
 
 #define IDS_PLANT_RECOVERY_TOO_LARGE 3030  // %s: the project's folder
+
+#define IDS_PLANT_NO_FOLDER 3040                // %s: the folder
+#define IDS_PLANT_NO_MAIN 3041                  // %s: the file
+#define IDS_PLANT_BROKEN_DOCUMENT 3042          // %s: the file and what is wrong with it
+#define IDS_PLANT_NO_DEVICE 3043                // %s %s %s: the name, the file, the names that there are
+#define IDS_PLANT_DEVICE_VALUE_MISSING 3044     // %s %s %s: the file, the device, the value
+#define IDS_PLANT_DEVICE_BAD_DRIVER_ID 3045     // %s %s %s: the file, the device, the id
+#define IDS_PLANT_DEVICE_DOUBLE_DRIVER_ID 3046  // %s %s %s: the file, the device, the id
+#define IDS_PLANT_DEVICE_BAD_NAME 3047          // %s %s %s: the file, the device, the value
+#define IDS_PLANT_DEVICE_DOUBLE_NAME 3048       // %s %s %s: the file, the device, the name
+#define IDS_PLANT_DEVICE_BAD_NUMBER 3049        // %s %s %s: the file, the device, the text
+#define IDS_PLANT_DEVICE_BAD_GROUPS 3050        // %s %s %s: the file, the device, the text

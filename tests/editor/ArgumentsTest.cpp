@@ -47,7 +47,7 @@ TEST(Arguments, OfSelectDefaultToAllGroupsNoLimitNoNamesAndNoText)
 {
     const Arguments arguments = ParseArguments({"select", "TREN1"});
     EXPECT_EQ(arguments.command, Command::Select);
-    EXPECT_EQ(arguments.groups, AllGroups());
+    EXPECT_EQ(arguments.groups, plant::AllGroups());
     EXPECT_EQ(arguments.maxVariables, 0);
     EXPECT_TRUE(arguments.variables.empty());
     EXPECT_FALSE(arguments.text);
@@ -60,7 +60,7 @@ TEST(Arguments, OfSelectAreTakenAsTheyStand)
     EXPECT_EQ(arguments.device, L"GRÚA 1");
     EXPECT_EQ(arguments.groups, KZVariableGroups{0x74});
     EXPECT_EQ(arguments.maxVariables, 5);
-    EXPECT_EQ(arguments.variables, (VariableList{L"A.VI1N", L"B.HZIN"}));
+    EXPECT_EQ(arguments.variables, (plant::VariableList{L"A.VI1N", L"B.HZIN"}));
     EXPECT_EQ(arguments.text, L"¿Cuáles?");
 }
 
@@ -68,7 +68,7 @@ TEST(Arguments, OfSelectMayStandBeforeTheDevice)
 {
     const Arguments arguments = ParseArguments({"select", "--max", "2", "--list", "A.VI1N,B.HZIN", "TREN1"});
     EXPECT_EQ(arguments.device, L"TREN1");
-    EXPECT_EQ(arguments.variables, (VariableList{L"A.VI1N", L"B.HZIN"}));
+    EXPECT_EQ(arguments.variables, (plant::VariableList{L"A.VI1N", L"B.HZIN"}));
 }
 
 TEST(Arguments, TellAnEmptyTextFromNone)

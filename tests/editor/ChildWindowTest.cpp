@@ -6,13 +6,14 @@
 #include "EditorWindowFixture.h"
 #include "KZDlgOptions.h"
 #include "ModalScript.h"
+#include "modules/DeviceType.h"
 #include "window/ChildWindow.h"
 
 namespace {
 
 class ChildWindowTest : public editor_tests::EditorWindows {
 protected:
-    [[nodiscard]] const Device& FirstDevice() const { return m_project.Devices().front(); }
+    [[nodiscard]] const KZDeviceIdentity& FirstDevice() const { return m_project.Devices().front(); }
 
     // Opens the window, runs the script, and closes the window if the script has left it open.
     bool Run(const std::function<void(HWND window)>& script)
@@ -23,10 +24,12 @@ protected:
             script(window);
             ::PostMessageW(window, WM_CLOSE, 0, 0);
         });
-        return ShowChildWindow(FirstDevice().driver.get(), m_modules.CallbacksOf(FirstDevice())->createChildOptions);
+        return ShowChildWindow(m_driver.get(), m_modules.CallbacksOf(FirstDevice().typeName)->createChildOptions);
     }
 
     [[nodiscard]] static HWND PaneOf(HWND window) { return ::GetWindow(window, GW_CHILD); }
+
+    const std::unique_ptr<KZDriverDevice> m_driver = MakeDriver(FirstDevice());
 };
 
 CDialog* NoDialog(CWnd*, KZDriver*)
@@ -39,7 +42,7 @@ CDialog* NoDialog(CWnd*, KZDriver*)
 TEST_F(ChildWindowTest, HasTheDevicesNameAndTheProgramsIcon)
 {
     Run([this](HWND window) {
-        EXPECT_THAT(kztest::TextOf(window), testing::HasSubstr(FirstDevice().driver->Name().c_str()));
+        EXPECT_THAT(kztest::TextOf(window), testing::HasSubstr(FirstDevice().name.c_str()));
         ExpectProgramIcon(window);
     });
 }
@@ -97,6 +100,6 @@ TEST_F(ChildWindowTest, AnswersFalseAndSaysWhyWhenThereIsNoDialog)
         text = kztest::TextOf(PaneOf(window), IDC_PANE_TEXT);
         ::PostMessageW(window, WM_CLOSE, 0, 0);
     });
-    EXPECT_FALSE(ShowChildWindow(FirstDevice().driver.get(), NoDialog));
+    EXPECT_FALSE(ShowChildWindow(m_driver.get(), NoDialog));
     EXPECT_EQ(text, EditorText(IDS_PANE_NO_DIALOG));
 }

@@ -57,7 +57,7 @@ protected:
     }
 
     kztest::TemporaryFolder m_folder;
-    std::optional<Project> m_large;
+    std::optional<plant::Project> m_large;
     std::optional<WatchedWindow> m_window;
 };
 

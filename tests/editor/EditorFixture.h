@@ -24,6 +24,13 @@ protected:
 
     // Every file of the project with its content.
     [[nodiscard]] std::map<std::string, std::string> ProjectFiles() const;
+    // The same without what protects unsaved changes.
+    [[nodiscard]] std::map<std::string, std::string> Documents() const
+    {
+        auto files = ProjectFiles();
+        std::erase_if(files, [](const auto& file) { return file.first.ends_with(".kzrecovery"); });
+        return files;
+    }
     [[nodiscard]] std::string ProjectPath() const;
 
     // Expects exit status 2, nothing on standard output, and one line on standard error that holds all the parts.

@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr unsigned FirstText = IDS_PROJECT_NO_FOLDER;
-constexpr unsigned LastText = IDS_SUMMARY_LIMITS_VALUE;
+constexpr unsigned FirstText = IDS_NO_HOST_STRING;
+constexpr unsigned LastText = IDS_OFFER_CHANGED_SINCE;
 
 // The conversions of a printf format, in their order.
 std::vector<wchar_t> Conversions(const std::wstring& format)

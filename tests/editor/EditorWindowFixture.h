@@ -66,7 +66,7 @@ protected:
         }
     }
 
-    Project m_project{std::filesystem::path(KZ_EXAMPLES) / "plant"};
+    plant::Project m_project{std::filesystem::path(KZ_EXAMPLES) / "plant"};
     ModuleLoader m_modules{ProgramFolder().parent_path() / "bin"};
 };
 
@@ -75,8 +75,8 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(m_window.Create());
-        for (const Device& device : m_project.Devices())
-            ASSERT_NE(m_modules.CallbacksOf(device), nullptr);
+        for (const KZDeviceIdentity& device : m_project.Devices())
+            ASSERT_NE(m_modules.CallbacksOf(device.typeName), nullptr);
     }
     ~OpenMainWindow() override { m_window.DestroyWindow(); }
 
@@ -85,7 +85,7 @@ protected:
     void ChooseDevice(int row)
     {
         ListView_SetItemState(Control(IDC_DEVICES), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-        const std::wstring& name = m_project.Devices()[static_cast<std::size_t>(row)].driver->Name().c_str();
+        const std::wstring& name = m_project.Devices()[static_cast<std::size_t>(row)].name.c_str();
         ASSERT_NE(kztest::TextOf(Control(IDC_PANE_LABEL)).find(name), std::wstring::npos);
     }
 

@@ -52,9 +52,9 @@ protected:
     }
 
     // Gives the first device these variables, which the window then shows.
-    void Choose(const VariableList& variables)
+    void Choose(const plant::VariableList& variables)
     {
-        StoreChosenVariables(*KZMainCfg::Get(), *m_project.Devices().front().driver, variables);
+        plant::StoreChosenVariables(*KZMainCfg::Get(), m_project.Devices().front().driverId, variables);
         ChooseDevice(1);
         ChooseDevice(0);
     }
@@ -175,7 +175,7 @@ TEST_F(MainWindowState, ShowsTheSummaryOfEachDeviceRowByRow)
     const HWND list = Control(IDC_SUMMARY);
     for (const std::size_t device : {0U, 4U, 1U, 5U, 0U}) {
         ChooseDevice(static_cast<int>(device));
-        const SummaryRows rows = DeviceSummary(*KZMainCfg::Get(), *m_project.Devices()[device].driver);
+        const SummaryRows rows = DeviceSummary(m_project, m_project.Devices()[device].driverId);
         ASSERT_EQ(ListView_GetItemCount(list), static_cast<int>(rows.size()));
         std::wstring section;
         int index = 0;
@@ -245,5 +245,5 @@ TEST_F(MainWindowState, OpensTheSelectionForADoubleClickOnADevice)
         });
         m_window.SendMessage(WM_NOTIFY, IDC_DEVICES, reinterpret_cast<LPARAM>(&click));
     }
-    EXPECT_THAT(title, testing::HasSubstr(m_project.Devices().front().driver->Name().c_str()));
+    EXPECT_THAT(title, testing::HasSubstr(m_project.Devices().front().name.c_str()));
 }

@@ -188,14 +188,14 @@ TEST_F(MainWindowTest, DropsTheChangesOnNo)
 TEST_F(MainWindowTest, StaysOpenOnCancel)
 {
     m_program.AddModule("ready");
-    const auto before = ProjectFiles();
+    const auto before = Documents();
     Open();
     MakeDirty();
     Close();
     Answer(L"KZEditor", IDCANCEL);
     EXPECT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(m_window) != FALSE; }));
     ExpectTitle(DirtyTitle);
-    EXPECT_EQ(ProjectFiles(), before);
+    EXPECT_EQ(Documents(), before);
 }
 
 TEST_F(MainWindowTest, StaysOpenAndSaysWhyWhenSavingFails)

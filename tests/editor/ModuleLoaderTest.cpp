@@ -1,5 +1,7 @@
 #include "modules/ModuleLoader.h"
 
+#include "KZDriverDeviceZEP.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,7 +10,6 @@
 #include <fstream>
 
 #include "EditorProcess.h"
-#include "KZDriverDeviceZEP.h"
 #include "KZDriverServices.h"
 #include "KZUtf8.h"
 #include "TemporaryFolder.h"
@@ -42,15 +43,6 @@ protected:
         ASSERT_TRUE(stream.flush());
     }
 
-    static Device MakeDevice(const wchar_t* type)
-    {
-        KZDeviceIdentity identity;
-        identity.driverId = L"zep-1";
-        identity.name = L"CPD";
-        identity.typeName = type;
-        return {std::make_unique<KZDriverDeviceZEP>(std::move(identity)), FindDeviceType(type)};
-    }
-
     // What a user reads of the one module of the folder.
     void ExpectOnlyModule(ModuleState state, const char* reasonPart)
     {
@@ -61,8 +53,8 @@ protected:
         EXPECT_THAT(ToUtf8(status.reason), HasSubstr("KZUsrZEP.dll"));
         EXPECT_THAT(ToUtf8(status.reason), HasSubstr(reasonPart));
         EXPECT_FALSE(status.remedy.empty());
-        EXPECT_EQ(loader.CallbacksOf(MakeDevice(L"ZEP")), nullptr);
-        EXPECT_EQ(loader.StatusOf(MakeDevice(L"ZEP")).state, state);
+        EXPECT_EQ(loader.CallbacksOf(L"ZEP"), nullptr);
+        EXPECT_EQ(loader.StatusOf(L"ZEP").state, state);
     }
 
     TemporaryFolder m_folder;
@@ -83,7 +75,7 @@ TEST_F(ModuleLoaderTest, LoadsAModuleAndOffersItsCallbacksToItsDevices)
     EXPECT_EQ(loader.Modules()[0].Model(), L"ZEP");
     EXPECT_EQ(loader.Modules()[0].File(), m_folder.Path() / "KZUsrZEP.dll");
     EXPECT_TRUE(loader.Modules()[0].Status().IsReady());
-    const KZDriverCallbacks* callbacks = loader.CallbacksOf(MakeDevice(L"ZEP"));
+    const KZDriverCallbacks* callbacks = loader.CallbacksOf(L"ZEP");
     ASSERT_NE(callbacks, nullptr);
     EXPECT_NE(callbacks->options, nullptr);
     EXPECT_NE(callbacks->createChildOptions, nullptr);
@@ -107,21 +99,21 @@ TEST_F(ModuleLoaderTest, NamesTheMissingModuleOfADevice)
 {
     const ModuleLoader loader(m_folder.Path());
     EXPECT_TRUE(loader.Modules().empty());
-    const ModuleStatus status = loader.StatusOf(MakeDevice(L"ZEP"));
+    const ModuleStatus status = loader.StatusOf(L"ZEP");
     EXPECT_EQ(status.state, ModuleState::Missing);
     EXPECT_THAT(ToUtf8(status.reason), HasSubstr("KZUsrZEP.dll"));
     EXPECT_THAT(ToUtf8(status.reason), HasSubstr(ToUtf8(m_folder.Path().wstring())));
-    EXPECT_EQ(loader.CallbacksOf(MakeDevice(L"ZEP")), nullptr);
+    EXPECT_EQ(loader.CallbacksOf(L"ZEP"), nullptr);
 }
 
 TEST_F(ModuleLoaderTest, NamesATypeThatNoModuleCanServe)
 {
     Add("ready");
     const ModuleLoader loader(m_folder.Path());
-    const ModuleStatus status = loader.StatusOf(MakeDevice(L"XYZ"));
+    const ModuleStatus status = loader.StatusOf(L"XYZ");
     EXPECT_EQ(status.state, ModuleState::Missing);
     EXPECT_THAT(ToUtf8(status.reason), HasSubstr("\"XYZ\""));
-    EXPECT_EQ(loader.CallbacksOf(MakeDevice(L"XYZ")), nullptr);
+    EXPECT_EQ(loader.CallbacksOf(L"XYZ"), nullptr);
 }
 
 TEST_F(ModuleLoaderTest, SaysThatAFileIsNoLibrary)
@@ -162,7 +154,7 @@ TEST_F(ModuleLoaderTest, GoesOnWithTheOthersWhenOneFails)
     EXPECT_EQ(loader.Modules()[0].Status().state, ModuleState::CannotLoad);
     EXPECT_EQ(loader.Modules()[1].Status().state, ModuleState::NoEntry);
     EXPECT_TRUE(loader.Modules()[2].Status().IsReady());
-    EXPECT_NE(loader.CallbacksOf(MakeDevice(L"ZEP")), nullptr);
+    EXPECT_NE(loader.CallbacksOf(L"ZEP"), nullptr);
 }
 
 TEST_F(ModuleLoaderTest, LooksAtNothingButModules)

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const fs::path plant = fs::path(KZ_EXAMPLES) / "plant";
+const fs::path folder = fs::path(KZ_EXAMPLES) / "plant";
 
 std::string Content(const fs::path& file)
 {
@@ -25,33 +25,33 @@ std::string Content(const fs::path& file)
 
 TEST(Plant, HasSixFiltersWithADocumentEach)
 {
-    const Project project(plant);
+    const plant::Project project(folder);
     ASSERT_EQ(project.Devices().size(), 6u);
-    for (const Device& device : project.Devices()) {
-        ASSERT_NE(device.type, nullptr);
-        const std::wstring file = device.driver->DriverId().c_str() + std::wstring(L".xml");
+    for (const KZDeviceIdentity& device : project.Devices()) {
+        EXPECT_EQ(device.typeName, L"ZEP");
+        const std::wstring file = device.driverId.c_str() + std::wstring(L".xml");
         XmlDocument document(L"device");
-        const KZDocumentResult loaded = document.Load(plant / "devices" / file);
-        EXPECT_TRUE(loaded.ok) << plant / "devices" / file;
+        const KZDocumentResult loaded = document.Load(folder / "devices" / file);
+        EXPECT_TRUE(loaded.ok) << folder / "devices" / file;
     }
 }
 
 TEST(Plant, HasOneDeviceWithoutMeasuredGroups)
 {
-    const Project project(plant);
+    const plant::Project project(folder);
     int without = 0;
-    for (const Device& device : project.Devices())
-        without += (device.driver->VariableGroups() & MeasuredGroups).none() ? 1 : 0;
+    for (const KZDeviceIdentity& device : project.Devices())
+        without += (device.groups & plant::MeasuredGroups).none() ? 1 : 0;
     EXPECT_EQ(without, 1);
 }
 
 TEST(Plant, HasChosenVariablesThatBeginWithTheirDevicesName)
 {
-    const Project project(plant);
+    const plant::Project project(folder);
     std::size_t count = 0;
-    for (const Device& device : project.Devices()) {
-        for (const KZBasicString& variable : ChosenVariables(*KZMainCfg::Get(), *device.driver)) {
-            EXPECT_TRUE(variable.View().starts_with(std::wstring(device.driver->Name().View()) + L"."));
+    for (const KZDeviceIdentity& device : project.Devices()) {
+        for (const KZBasicString& variable : plant::ChosenVariables(*KZMainCfg::Get(), device.driverId)) {
+            EXPECT_TRUE(variable.View().starts_with(std::wstring(device.name.View()) + L"."));
             ++count;
         }
     }
@@ -61,7 +61,7 @@ TEST(Plant, HasChosenVariablesThatBeginWithTheirDevicesName)
 TEST(Plant, KeepsEveryElementAttributeAndCommentWhenItIsWrittenAgain)
 {
     for (const char* name : {"main.xml", "devices/zep-01.xml", "devices/zep-05.xml", "devices/zep-06.xml"}) {
-        const std::string content = Content(plant / name);
+        const std::string content = Content(folder / name);
         ASSERT_FALSE(content.empty()) << name;
         XmlDocument document(std::string(name) == "main.xml" ? L"configuration" : L"device");
         ASSERT_TRUE(document.Parse(content).ok) << name;

@@ -3,11 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "KZDriverDeviceZEP.h"
 #include "KZMainCfg.h"
+#include "KZUtf8.h"
 #include "ProjectXml.h"
 #include "TemporaryFolder.h"
-#include "text/EditorError.h"
+#include "text/PlantMessage.h"
 
 namespace {
 
@@ -15,6 +15,11 @@ using editor_tests::DeviceXml;
 using editor_tests::MainXml;
 using kztest::TemporaryFolder;
 using testing::HasSubstr;
+
+std::string Sentence(const plant::Refusal& refusal)
+{
+    return ToUtf8(PlantMessage(refusal.What()));
+}
 
 class ProjectTest : public testing::Test {
 protected:
@@ -25,9 +30,9 @@ protected:
         m_folder.Write("main.xml", content);
         std::string error = "accepted";
         try {
-            const Project project(m_folder.Path());
-        } catch (const EditorError& refused) {
-            error = refused.what();
+            const plant::Project project(m_folder.Path());
+        } catch (const plant::Refusal& refused) {
+            error = Sentence(refused);
         }
         EXPECT_EQ(m_folder.Read("main.xml"), content);
         EXPECT_EQ(error.find('\n'), std::string::npos);
@@ -42,62 +47,60 @@ protected:
 TEST_F(ProjectTest, ListsItsDevicesInTheDocumentsOrder)
 {
     m_folder.Write("main.xml", MainXml(DeviceXml("zep-2", "GRÚA.1", "0x70", "ZEP", "7") + DeviceXml("zep-1", "CPD")));
-    const Project project(m_folder.Path());
+    const plant::Project project(m_folder.Path());
     ASSERT_EQ(project.Devices().size(), 2u);
-    const KZDriver& first = *project.Devices()[0].driver;
-    EXPECT_EQ(first.DriverId(), L"zep-2");
-    EXPECT_EQ(first.Name(), L"GRÚA.1");
-    EXPECT_EQ(first.Number(), 7);
-    EXPECT_EQ(first.TypeName(), L"ZEP");
-    EXPECT_EQ(first.Description(), L"Filtro de prueba, línea ñ");
-    EXPECT_EQ(first.VariableGroups(), KZVariableGroups{0x70});
-    EXPECT_TRUE(first.IsKindOf(RUNTIME_CLASS(KZDriverDeviceZEP)));
-    EXPECT_EQ(project.Devices()[1].driver->Name(), L"CPD");
+    const KZDeviceIdentity& first = project.Devices()[0];
+    EXPECT_EQ(first.driverId, L"zep-2");
+    EXPECT_EQ(first.name, L"GRÚA.1");
+    EXPECT_EQ(first.number, 7);
+    EXPECT_EQ(first.typeName, L"ZEP");
+    EXPECT_EQ(first.description, L"Filtro de prueba, línea ñ");
+    EXPECT_EQ(first.groups, KZVariableGroups{0x70});
+    EXPECT_EQ(project.Devices()[1].name, L"CPD");
 }
 
 TEST_F(ProjectTest, IsCalledAfterItsFolder)
 {
     m_folder.Write(L"Planta Ñ/main.xml", MainXml(""));
-    EXPECT_EQ(Project(m_folder.Path() / L"Planta Ñ").Name(), L"Planta Ñ");
-    EXPECT_EQ(Project(m_folder.Path() / L"Planta Ñ/").Name(), L"Planta Ñ");
-    EXPECT_EQ(Project(m_folder.Path() / L"Planta Ñ/./x/..").Name(), L"Planta Ñ");
+    EXPECT_EQ(plant::Project(m_folder.Path() / L"Planta Ñ").Name(), L"Planta Ñ");
+    EXPECT_EQ(plant::Project(m_folder.Path() / L"Planta Ñ/").Name(), L"Planta Ñ");
+    EXPECT_EQ(plant::Project(m_folder.Path() / L"Planta Ñ/./x/..").Name(), L"Planta Ñ");
 }
 
 TEST_F(ProjectTest, WithoutDeviceListHasNoDevices)
 {
     m_folder.Write("main.xml", "<configuration/>");
-    EXPECT_TRUE(Project(m_folder.Path()).Devices().empty());
+    EXPECT_TRUE(plant::Project(m_folder.Path()).Devices().empty());
 }
 
 TEST_F(ProjectTest, ListsADeviceOfAnUnknownTypeThatNoModuleServes)
 {
     m_folder.Write("main.xml", MainXml(DeviceXml("x-1", "OTHER", "0x1", "XYZ")));
-    const Project project(m_folder.Path());
+    const plant::Project project(m_folder.Path());
     ASSERT_EQ(project.Devices().size(), 1u);
-    EXPECT_EQ(project.Devices()[0].type, nullptr);
-    EXPECT_EQ(project.Devices()[0].driver->TypeName(), L"XYZ");
+    EXPECT_EQ(project.Devices()[0].typeName, L"XYZ");
 }
 
 TEST_F(ProjectTest, TakesMissingNumberAndGroupsAsNone)
 {
     m_folder.Write("main.xml", MainXml("<device><driverId>a</driverId><name>A</name></device>"));
-    const Project project(m_folder.Path());
-    EXPECT_EQ(project.Devices()[0].driver->Number(), 0);
-    EXPECT_EQ(project.Devices()[0].driver->VariableGroups(), KZVariableGroups{});
+    const plant::Project project(m_folder.Path());
+    EXPECT_EQ(project.Devices()[0].number, 0);
+    EXPECT_EQ(project.Devices()[0].groups, KZVariableGroups{});
 }
 
 TEST_F(ProjectTest, FindsADeviceByItsExactNameAndNamesTheOthersWhenThereIsNone)
 {
     m_folder.Write("main.xml", MainXml(DeviceXml("zep-1", "CPD") + DeviceXml("zep-2", "TREN1")));
-    const Project project(m_folder.Path());
-    EXPECT_EQ(project.DeviceByName(L"TREN1").driver->DriverId(), L"zep-2");
+    const plant::Project project(m_folder.Path());
+    EXPECT_EQ(project.DeviceByName(L"TREN1"), 1u);
     try {
         (void)project.DeviceByName(L"tren1");
         FAIL() << "a name in another case was found";
-    } catch (const EditorError& error) {
-        EXPECT_THAT(error.what(), HasSubstr("\"tren1\""));
-        EXPECT_THAT(error.what(), HasSubstr("main.xml"));
-        EXPECT_THAT(error.what(), HasSubstr("CPD, TREN1"));
+    } catch (const plant::Refusal& error) {
+        EXPECT_THAT(Sentence(error), HasSubstr("\"tren1\""));
+        EXPECT_THAT(Sentence(error), HasSubstr("main.xml"));
+        EXPECT_THAT(Sentence(error), HasSubstr("CPD, TREN1"));
     }
 }
 
@@ -105,9 +108,9 @@ TEST_F(ProjectTest, NeedsAnExistingFolderWithAMainXml)
 {
     const auto errorOf = [](const std::filesystem::path& folder) -> std::string {
         try {
-            const Project project(folder);
-        } catch (const EditorError& error) {
-            return error.what();
+            const plant::Project project(folder);
+        } catch (const plant::Refusal& error) {
+            return Sentence(error);
         }
         return "accepted";
     };
@@ -120,10 +123,10 @@ TEST_F(ProjectTest, NamesTheBrokenMainXmlAndLeavesIt)
     const std::string broken = "<configuration><devices></configuration>";
     m_folder.Write("main.xml", broken);
     try {
-        const Project project(m_folder.Path());
+        const plant::Project project(m_folder.Path());
         FAIL() << "a broken document was accepted";
-    } catch (const EditorError& error) {
-        EXPECT_THAT(error.what(), HasSubstr("main.xml"));
+    } catch (const plant::Refusal& error) {
+        EXPECT_THAT(Sentence(error), HasSubstr("main.xml"));
     }
     EXPECT_EQ(m_folder.Read("main.xml"), broken);
 }
@@ -133,7 +136,7 @@ TEST_F(ProjectTest, RefusesDevicesWithoutIdentifierOrName)
     EXPECT_THAT(ErrorOf(DeviceXml("", "CPD")),
                 testing::AllOf(HasSubstr("main.xml"), HasSubstr("CPD"), HasSubstr("driverId")));
     EXPECT_THAT(ErrorOf(DeviceXml("zep-1", "")), testing::AllOf(HasSubstr("zep-1"), HasSubstr("\"name\"")));
-    EXPECT_THAT(ErrorOf(DeviceXml("zep-1", "CPD") + "<device/>"), HasSubstr("number 2"));
+    EXPECT_THAT(ErrorOf(DeviceXml("zep-1", "CPD") + "<device/>"), HasSubstr("#2"));
 }
 
 TEST_F(ProjectTest, RefusesIdentifiersAndNamesThatComeTwice)
@@ -156,7 +159,7 @@ TEST_F(ProjectTest, RefusesIdentifiersThatQueriesCannotHold)
 TEST_F(ProjectTest, TellsTheHostWhereItsDocumentsAre)
 {
     m_folder.Write("main.xml", MainXml(""));
-    const Project project(m_folder.Path());
+    const plant::Project project(m_folder.Path());
     EXPECT_EQ(std::filesystem::path(std::wstring(KZMainCfg::ProjectFolder().View())), m_folder.Path());
 }
 
@@ -173,14 +176,14 @@ TEST_F(ProjectTest, SavesOnlyWhenItIsDirty)
 {
     const std::string content = MainXml("<!-- keep -->" + DeviceXml("zep-1", "CPD"));
     m_folder.Write("main.xml", content);
-    Project project(m_folder.Path());
+    plant::Project project(m_folder.Path());
     EXPECT_FALSE(project.IsDirty());
     KZMainCfg::Get()->Root()->SetValue(L"added", L"ñ");
-    EXPECT_TRUE(project.Save().ok);
+    EXPECT_EQ(project.Save("window"), plant::Project::Outcome::Done);
     EXPECT_EQ(m_folder.Read("main.xml"), content);
     KZMainCfg::Get()->SetDirty(true);
     EXPECT_TRUE(project.IsDirty());
-    EXPECT_TRUE(project.Save().ok);
+    EXPECT_EQ(project.Save("window"), plant::Project::Outcome::Done);
     EXPECT_FALSE(project.IsDirty());
     EXPECT_THAT(m_folder.Read("main.xml"), HasSubstr("<added>ñ</added>"));
     EXPECT_THAT(m_folder.Read("main.xml"), HasSubstr("<!-- keep -->"));

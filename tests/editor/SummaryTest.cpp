@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "KZDriverDeviceZEP.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZUtf8.h"
@@ -27,12 +26,7 @@ std::vector<std::string> Lines(const SummaryRows& rows, const wchar_t* section)
 
 class SummaryTest : public testing::Test {
 protected:
-    SummaryTest() { KZMainCfg::SetProjectFolder(m_folder.Path().wstring()); }
-    ~SummaryTest() override
-    {
-        KZMainCfg::SetProjectFolder({});
-        KZQuorvelantaSetup::Get()->SetLanguage(KZLanguage::English);
-    }
+    ~SummaryTest() override { KZQuorvelantaSetup::Get()->SetLanguage(KZLanguage::English); }
 
     void Information(const std::string& children)
     {
@@ -41,7 +35,7 @@ protected:
 
     void Configure(const std::string& sections)
     {
-        ASSERT_TRUE(m_configuration.Parse("<configuration>" + sections + "</configuration>").ok);
+        ASSERT_TRUE(KZMainCfg::Get()->Parse("<configuration>" + sections + "</configuration>").ok);
     }
 
     void Units(const std::string& units)
@@ -54,21 +48,19 @@ protected:
         Configure("<viewSetups><viewSetup><driverId>zep-1</driverId>" + checks + "</viewSetup></viewSetups>");
     }
 
-    [[nodiscard]] std::vector<std::string> Section(const wchar_t* section) const
+    [[nodiscard]] std::vector<std::string> Section(const wchar_t* section)
     {
-        return Lines(DeviceSummary(m_configuration, m_driver), section);
+        return Lines(DeviceSummary(m_project, L"zep-1"), section);
     }
 
-    static KZDeviceIdentity Identity()
+    [[nodiscard]] static const std::filesystem::path& Empty(const TemporaryFolder& folder)
     {
-        KZDeviceIdentity identity;
-        identity.driverId = L"zep-1";
-        return identity;
+        folder.Write("main.xml", "<configuration/>");
+        return folder.Path();
     }
 
     TemporaryFolder m_folder;
-    KZDriverDeviceZEP m_driver{Identity()};
-    XmlDocument m_configuration{L"configuration"};
+    plant::Project m_project{Empty(m_folder)};
 };
 
 }  // namespace

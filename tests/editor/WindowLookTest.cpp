@@ -4,6 +4,7 @@
 #include "EditorWindowFixture.h"
 #include "ModalScript.h"
 #include "ParameterNames.h"
+#include "modules/DeviceType.h"
 #include "project/ChosenVariables.h"
 #include "window/ChildWindow.h"
 
@@ -73,10 +74,10 @@ TEST_P(MainWindowLook, IsTidyWhenItIsLarge)
 TEST_P(MainWindowLook, IsTidyWithAllVariablesChosen)
 {
     constexpr int lastDevice = 5;
-    VariableList variables;
+    plant::VariableList variables;
     for (int i = 0; i < 118; ++i)
         variables.push_back(KZBasicString::Format(L"LAB ENSAYOS.ARM25A3L%d", i));
-    StoreChosenVariables(*KZMainCfg::Get(), *m_project.Devices()[lastDevice].driver, variables);
+    plant::StoreChosenVariables(*KZMainCfg::Get(), m_project.Devices()[lastDevice].driverId, variables);
     ChooseDevice(lastDevice);
     const HWND list = Control(IDC_CHOSEN);
     ASSERT_EQ(::SendMessageW(list, LB_GETCOUNT, 0, 0), 118);
@@ -101,15 +102,15 @@ protected:
 
 TEST_P(ChildWindowLook, IsTidy)
 {
-    const Device& device = m_project.Devices().front();
-    const KZDriverCallbacks* callbacks = m_modules.CallbacksOf(device);
+    const std::unique_ptr<KZDriverDevice> driver = MakeDriver(m_project.Devices().front());
+    const KZDriverCallbacks* callbacks = m_modules.CallbacksOf(driver->TypeName());
     ASSERT_NE(callbacks, nullptr);
     kztest::ModalScript script([] {
         const HWND window = kztest::WaitForDialog();
         kztest::ExpectNothingClippedOrOverlapping(window);
         ::PostMessageW(window, WM_CLOSE, 0, 0);
     });
-    EXPECT_TRUE(ShowChildWindow(device.driver.get(), callbacks->createChildOptions));
+    EXPECT_TRUE(ShowChildWindow(driver.get(), callbacks->createChildOptions));
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, ChildWindowLook, testing::Values(KZLanguage::English, KZLanguage::Spanish),

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace plant {
+
 TEST(GroupMask, ReadsHexadecimalWithAndWithoutPrefixInEitherCase)
 {
     EXPECT_EQ(ParseGroupMask(L"0x74"), KZVariableGroups{0x74});
@@ -29,3 +31,5 @@ TEST(GroupMask, WritesWhatItReads)
     for (const wchar_t* text : {L"0x0", L"0x1", L"0x74", L"0x8B", L"0x3FFFFFFFF"})
         EXPECT_EQ(FormatGroupMask(*ParseGroupMask(text)), text);
 }
+
+}  // namespace plant

@@ -2,20 +2,22 @@
 
 #include <algorithm>
 
+namespace plant {
+
 namespace {
 
-XmlDocument::XmlNode* FindSelection(const XmlDocument& document, const KZDriver& driver)
+XmlDocument::XmlNode* FindSelection(const XmlDocument& document, const KZBasicString& driverId)
 {
-    return document.Root()->NodeV(L"selections/selection?driverId=%s?", driver.DriverId().c_str());
+    return document.Root()->NodeV(L"selections/selection?driverId=%s?", driverId.c_str());
 }
 
-XmlDocument::XmlNode* MakeSelection(XmlDocument& document, const KZDriver& driver)
+XmlDocument::XmlNode* MakeSelection(XmlDocument& document, const KZBasicString& driverId)
 {
     XmlDocument::XmlNode* selections = document.Node(L"selections");
     if (!selections)
         selections = document.Root()->NewChild(L"selections", nullptr);
     XmlDocument::XmlNode* selection = selections->NewChild(L"selection", nullptr);
-    selection->SetValue(L"driverId", driver.DriverId().c_str());
+    selection->SetValue(L"driverId", driverId.c_str());
     return selection;
 }
 
@@ -33,19 +35,19 @@ VariableList Lines(std::wstring_view text)
 
 }  // namespace
 
-VariableList ChosenVariables(const XmlDocument& document, const KZDriver& driver)
+VariableList ChosenVariables(const XmlDocument& document, const KZBasicString& driverId)
 {
-    const XmlDocument::XmlNode* selection = FindSelection(document, driver);
+    const XmlDocument::XmlNode* selection = FindSelection(document, driverId);
     return selection ? Lines(selection->Value(L"variables", L"")) : VariableList{};
 }
 
-void StoreChosenVariables(XmlDocument& document, const KZDriver& driver, const VariableList& variables)
+void StoreChosenVariables(XmlDocument& document, const KZBasicString& driverId, const VariableList& variables)
 {
-    if (ChosenVariables(document, driver) == variables)
+    if (ChosenVariables(document, driverId) == variables)
         return;
-    XmlDocument::XmlNode* selection = FindSelection(document, driver);
+    XmlDocument::XmlNode* selection = FindSelection(document, driverId);
     if (!selection)
-        selection = MakeSelection(document, driver);
+        selection = MakeSelection(document, driverId);
     std::wstring text;
     for (const KZBasicString& variable : variables) {
         text += text.empty() ? L"" : L"\n";
@@ -64,3 +66,5 @@ VariableList MergeChoices(const VariableList& earlier, const VariableList& added
     }
     return merged;
 }
+
+}  // namespace plant

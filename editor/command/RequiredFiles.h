@@ -2,10 +2,10 @@
 // they say when a script runs the command.
 #pragma once
 
-#include "KZDriver.h"
+#include "project/Project.h"
 
-// Throws EditorError when the device's document is missing or broken. The file is only read.
-void RequireDeviceDocument(const KZDriver& driver);
+// Throws EditorError when the device's document is missing and plant::Refusal when it is broken.
+void RequireDeviceDocument(plant::Project& project, const KZBasicString& driverId);
 
 // Throws EditorError when one of the host's pictures is missing.
 void RequirePictures();

@@ -5,7 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "KZDriver.h"
+#include "KZVariableGroups.h"
+
+namespace plant {
 
 // The groups of measured quantities, bits 2, 4, 5 and 6. A device that has none of them says so when it is asked.
 inline constexpr KZVariableGroups MeasuredGroups{0x74};
@@ -20,3 +22,5 @@ inline constexpr KZVariableGroups MeasuredGroups{0x74};
 {
     return KZVariableGroups{}.set();
 }
+
+}  // namespace plant

@@ -28,3 +28,9 @@ const DeviceType* FindDeviceType(std::wstring_view name)
     }
     return nullptr;
 }
+
+std::unique_ptr<KZDriverDevice> MakeDriver(const KZDeviceIdentity& identity)
+{
+    const DeviceType* type = FindDeviceType(identity.typeName.View());
+    return type ? type->make(identity) : std::make_unique<KZDriverDevice>(identity);
+}

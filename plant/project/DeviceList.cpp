@@ -3,18 +3,21 @@
 #include <algorithm>
 #include <charconv>
 #include <cwctype>
+#include <unordered_set>
 
 #include "GroupMask.h"
-#include "text/EditorError.h"
-#include "text/EditorText.h"
+#include "KZUtf8.h"
+#include "text/Refusal.h"
+
+namespace plant {
 
 namespace {
 
 class DeviceReader {
 public:
-    explicit DeviceReader(const std::filesystem::path& file) : m_file(file.wstring()) {}
+    explicit DeviceReader(std::wstring file) : m_file(std::move(file)) {}
 
-    Device Read(const XmlDocument::XmlNode& element);
+    KZDeviceIdentity Read(const XmlDocument::XmlNode& element);
 
 private:
     [[noreturn]] void Fail(unsigned textId, const wchar_t* value) const;
@@ -28,8 +31,8 @@ private:
     std::wstring m_file;
     int m_position = 0;
     std::wstring m_device;  // what errors call the device that is being read
-    std::vector<std::wstring> m_driverIds;
-    std::vector<std::wstring> m_names;
+    std::unordered_set<std::wstring> m_driverIds;
+    std::unordered_set<std::wstring> m_names;
 };
 
 // The driverId names the device's document, and file names differ by more than case.
@@ -44,17 +47,9 @@ bool HasControlCharacter(const std::wstring& text)
     return std::any_of(text.begin(), text.end(), [](wchar_t c) { return c < L' '; });
 }
 
-bool AddOnce(std::vector<std::wstring>& seen, std::wstring text)
-{
-    if (std::find(seen.begin(), seen.end(), text) != seen.end())
-        return false;
-    seen.push_back(std::move(text));
-    return true;
-}
-
 void DeviceReader::Fail(unsigned textId, const wchar_t* value) const
 {
-    throw EditorError(FormatEditorText(textId, m_file.c_str(), m_device.c_str(), value));
+    throw Refusal(textId, {m_file, m_device, value});
 }
 
 std::wstring DeviceReader::Label(const XmlDocument::XmlNode& element) const
@@ -63,14 +58,14 @@ std::wstring DeviceReader::Label(const XmlDocument::XmlNode& element) const
         if (const wchar_t* value = element.Value(valueName, L""); *value)
             return value;
     }
-    return FormatEditorText(IDS_DEVICE_AT_POSITION, m_position);
+    return L"#" + std::to_wstring(m_position);
 }
 
 std::wstring DeviceReader::Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const
 {
     std::wstring value = element.Value(valueName, L"");
     if (value.empty())
-        Fail(IDS_DEVICE_VALUE_MISSING, valueName);
+        Fail(IDS_PLANT_DEVICE_VALUE_MISSING, valueName);
     return value;
 }
 
@@ -78,17 +73,17 @@ void DeviceReader::CheckIdentifier(const std::wstring& driverId)
 {
     // In a query path "?" ends the text that is looked for.
     if (HasControlCharacter(driverId) || driverId.find(L'?') != std::wstring::npos)
-        Fail(IDS_DEVICE_BAD_DRIVER_ID, driverId.c_str());
-    if (!AddOnce(m_driverIds, FoldCase(driverId)))
-        Fail(IDS_DEVICE_DOUBLE_DRIVER_ID, driverId.c_str());
+        Fail(IDS_PLANT_DEVICE_BAD_DRIVER_ID, driverId.c_str());
+    if (!m_driverIds.insert(FoldCase(driverId)).second)
+        Fail(IDS_PLANT_DEVICE_DOUBLE_DRIVER_ID, driverId.c_str());
 }
 
 void DeviceReader::CheckName(const std::wstring& name)
 {
     if (HasControlCharacter(name))
-        Fail(IDS_DEVICE_BAD_NAME, L"name");
-    if (!AddOnce(m_names, name))
-        Fail(IDS_DEVICE_DOUBLE_NAME, name.c_str());
+        Fail(IDS_PLANT_DEVICE_BAD_NAME, L"name");
+    if (!m_names.insert(name).second)
+        Fail(IDS_PLANT_DEVICE_DOUBLE_NAME, name.c_str());
 }
 
 int DeviceReader::Number(const XmlDocument::XmlNode& element) const
@@ -98,7 +93,7 @@ int DeviceReader::Number(const XmlDocument::XmlNode& element) const
     int number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc{} || end != digits.data() + digits.size() || number < 0)
-        Fail(IDS_DEVICE_BAD_NUMBER, text);
+        Fail(IDS_PLANT_DEVICE_BAD_NUMBER, text);
     return number;
 }
 
@@ -107,11 +102,11 @@ KZVariableGroups DeviceReader::Groups(const XmlDocument::XmlNode& element) const
     const wchar_t* text = element.Value(L"groups", L"0x0");
     const auto groups = ParseGroupMask(text);
     if (!groups)
-        Fail(IDS_DEVICE_BAD_GROUPS, text);
+        Fail(IDS_PLANT_DEVICE_BAD_GROUPS, text);
     return *groups;
 }
 
-Device DeviceReader::Read(const XmlDocument::XmlNode& element)
+KZDeviceIdentity DeviceReader::Read(const XmlDocument::XmlNode& element)
 {
     ++m_position;
     m_device = Label(element);
@@ -128,16 +123,14 @@ Device DeviceReader::Read(const XmlDocument::XmlNode& element)
     identity.description = element.Value(L"description", L"");
     identity.groups = Groups(element);
 
-    const DeviceType* type = FindDeviceType(identity.typeName.View());
-    auto driver = type ? type->make(std::move(identity)) : std::make_unique<KZDriverDevice>(std::move(identity));
-    return {std::move(driver), type};
+    return identity;
 }
 
 }  // namespace
 
-std::vector<Device> ReadDevices(const XmlDocument& document, const std::filesystem::path& file)
+DeviceList ReadDevices(const XmlDocument& document, const std::wstring& file)
 {
-    std::vector<Device> devices;
+    DeviceList devices;
     DeviceReader reader(file);
     const XmlDocument::XmlNode* list = document.Node(L"devices");
     for (const auto* element = list ? list->FirstChild(L"device") : nullptr; element;
@@ -145,3 +138,5 @@ std::vector<Device> ReadDevices(const XmlDocument& document, const std::filesyst
         devices.push_back(reader.Read(*element));
     return devices;
 }
+
+}  // namespace plant

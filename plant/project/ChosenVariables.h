@@ -5,16 +5,20 @@
 
 #include <list>
 
-#include "KZDriver.h"
+#include "KZBasicString.h"
 #include "KZXmlDocument.h"
+
+namespace plant {
 
 using VariableList = std::list<KZBasicString>;
 
 // In the order in which they were chosen; empty when there are none.
-[[nodiscard]] VariableList ChosenVariables(const XmlDocument& document, const KZDriver& driver);
+[[nodiscard]] VariableList ChosenVariables(const XmlDocument& document, const KZBasicString& driverId);
 
 // Replaces the driver's chosen variables and marks the document dirty. Nothing happens when they are the same.
-void StoreChosenVariables(XmlDocument& document, const KZDriver& driver, const VariableList& variables);
+void StoreChosenVariables(XmlDocument& document, const KZBasicString& driverId, const VariableList& variables);
 
 // A select-variables dialog hands back the new choices only; the earlier ones stay chosen too. No name comes twice.
 [[nodiscard]] VariableList MergeChoices(const VariableList& earlier, const VariableList& added);
+
+}  // namespace plant

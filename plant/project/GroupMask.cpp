@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace plant {
+
 namespace {
 
 int HexDigit(wchar_t character) noexcept
@@ -45,3 +47,5 @@ std::wstring FormatGroupMask(const KZVariableGroups& groups)
     } while (mask != 0);
     return L"0x" + digits;
 }
+
+}  // namespace plant

@@ -17,3 +17,6 @@ struct DeviceType {
 
 // Null for a type without a device class.
 [[nodiscard]] const DeviceType* FindDeviceType(std::wstring_view name);
+
+// The host's driver object for a device; of a type without a class of its own a plain one. Never null.
+[[nodiscard]] std::unique_ptr<KZDriverDevice> MakeDriver(const KZDeviceIdentity& identity);

@@ -3,24 +3,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "KZDriverDeviceZEP.h"
+namespace plant {
 
 namespace {
 
 using testing::HasSubstr;
 
-KZDeviceIdentity Identity(const wchar_t* driverId)
-{
-    KZDeviceIdentity identity;
-    identity.driverId = driverId;
-    identity.name = L"DEV";
-    return identity;
-}
-
 class ChosenVariablesTest : public testing::Test {
 protected:
-    KZDriverDeviceZEP m_driver{Identity(L"zep-1")};
-    KZDriverDeviceZEP m_other{Identity(L"zep-2")};
+    const KZBasicString m_driver = L"zep-1";
+    const KZBasicString m_other = L"zep-2";
     XmlDocument m_document{L"configuration"};
 };
 
@@ -96,3 +88,5 @@ TEST(MergedChoices, KeepTheEarlierOnesAndAddTheNewOnesOnce)
     EXPECT_EQ(MergeChoices({}, {}), VariableList{});
     EXPECT_EQ(MergeChoices({L"A.1"}, {}), (VariableList{L"A.1"}));
 }
+
+}  // namespace plant

@@ -2,24 +2,24 @@
 
 #include <filesystem>
 
-#include "DeviceDocument.h"
 #include "KZPictures.h"
 #include "KZQuorvelantaSetup.h"
+#include "project/DocumentName.h"
 #include "resources/EditorIds.h"
 #include "text/EditorError.h"
 #include "text/EditorText.h"
 
 namespace fs = std::filesystem;
 
-void RequireDeviceDocument(const KZDriver& driver)
+void RequireDeviceDocument(plant::Project& project, const KZBasicString& driverId)
 {
-    const fs::path file = DeviceDocumentFile(driver);
+    const std::string name = plant::DeviceDocumentName(driverId);
+    const fs::path file = plant::FileOf(project.Folder(), name);
     std::error_code ignored;
     if (!fs::exists(file, ignored))
-        throw EditorError(FormatEditorText(IDS_DEVICE_NO_DOCUMENT, file.c_str()));
+        throw EditorError(FormatEditorText(IDS_DEVICE_NO_DOCUMENT, plant::Shown(file).c_str()));
     XmlDocument document(L"device");
-    if (const KZDocumentResult read = ReadDeviceDocument(driver, document); !read)
-        throw EditorError(FormatEditorText(IDS_DEVICE_BROKEN_DOCUMENT, read.message.c_str()));
+    project.ReadDeviceDocument(name, document);
 }
 
 void RequirePictures()

@@ -1,0 +1,80 @@
+#include "ProjectCommands.h"
+
+#include "Console.h"
+#include "KZUtf8.h"
+#include "project/DocumentName.h"
+#include "project/GroupMask.h"
+#include "text/EditorError.h"
+#include "text/EditorText.h"
+#include "text/PlantMessage.h"
+
+namespace {
+
+void TellOfUnsaved(plant::Project& project)
+{
+    const plant::Recoveries recoveries = project.FindUnsaved();
+    for (const plant::FoundRecovery& found : recoveries.found)
+        PrintErrorLine(ToUtf8(FormatEditorText(IDS_UNSAVED_FOUND, FromUtf8(plant::UtcText(found.unsaved.time)).c_str(),
+                                               plant::Shown(found.file).c_str())));
+    for (const plant::Message& refused : recoveries.refused)
+        PrintErrorLine(ToUtf8(PlantMessage(refused)));
+}
+
+}  // namespace
+
+std::unique_ptr<plant::Project> OpenProject(const Arguments& arguments)
+{
+    auto project = std::make_unique<plant::Project>(arguments.project);
+    TellOfUnsaved(*project);
+    return project;
+}
+
+ExitStatus ListDevices(const Arguments& arguments)
+{
+    const std::unique_ptr<plant::Project> project = OpenProject(arguments);
+    for (const KZDeviceIdentity& device : project->Devices()) {
+        std::wstring line(device.driverId.View());
+        line.append(L"\t").append(device.name.View()).append(L"\t").append(device.typeName.View());
+        PrintLine(ToUtf8(line.append(L"\t").append(plant::FormatGroupMask(device.groups))));
+    }
+    return ExitTrue;
+}
+
+ExitStatus ListHistory(const Arguments& arguments)
+{
+    for (const plant::HistoryEntry& entry : OpenProject(arguments)->Entries())
+        PrintLine(std::to_string(entry.number) + '\t' + entry.time + '\t' + entry.cause + '\t' +
+                  plant::Joined(entry.documents, ","));
+    return ExitTrue;
+}
+
+ExitStatus RestoreSave(const Arguments& arguments)
+{
+    const plant::Change change = OpenProject(arguments)->Restore(arguments.saveNumber, arguments.dryRun);
+    for (const auto& [name, bytes] : change)
+        PrintLine((bytes ? "back: " : "out: ") + name);
+    return ExitTrue;
+}
+
+ExitStatus RecoverUnsaved(const Arguments& arguments)
+{
+    plant::Project project(arguments.project);
+    plant::Recoveries recoveries = project.FindUnsaved();
+    for (plant::FoundRecovery& found : recoveries.found) {
+        const std::string names = plant::Joined(plant::NamesIn(found.unsaved.documents), ",");
+        if (arguments.discard) {
+            plant::Discard(found);
+        } else {
+            if (const std::vector<std::string> changed = project.ChangedSince(found); !changed.empty())
+                throw EditorError(FormatEditorText(IDS_RECOVER_CHANGED_SINCE,
+                                                   FromUtf8(plant::Joined(changed, ", ")).c_str(),
+                                                   plant::Shown(found.file).c_str()));
+            project.Recover(found);
+            project.Save("recover");
+        }
+        PrintLine((arguments.discard ? "discarded: " : "recovered: ") + names);
+    }
+    if (!recoveries.refused.empty())
+        throw EditorError(PlantMessage(recoveries.refused.front()));
+    return recoveries.found.empty() ? ExitFalse : ExitTrue;
+}

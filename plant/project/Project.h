@@ -1,0 +1,110 @@
+// A project: a folder with the main configuration document and one document per device, as saved and as changed since.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Change.h"
+#include "DeviceList.h"
+#include "Disk.h"
+#include "History.h"
+#include "ProjectLock.h"
+#include "Recovery.h"
+#include "SeenDocuments.h"
+#include "text/Refusal.h"
+
+namespace plant {
+
+// What only a person can decide.
+class ProjectUser {
+public:
+    enum class Answer { Overwrite, TakeTheirs, Cancel };
+    // Another program has changed these documents since they were read.
+    virtual Answer AskAboutForeignChanges(const std::vector<std::string>& documents) = 0;
+    // What is not saved yet could not be put into the recovery file: it would be lost with the process.
+    virtual void TellUnprotected(const Message& why) noexcept = 0;
+
+protected:
+    ~ProjectUser() = default;
+};
+
+class Project : private KZCommitListener {
+public:
+    // Opens DIR/main.xml as the process's main configuration document, so there is one project per process. What a
+    // killed process has left of a save is carried out first.
+    // Throws Refusal when the folder or the document is missing, broken, or lists devices that cannot be told apart.
+    explicit Project(const Path& folder, Disk& disk = RealDisk());
+    ~Project();
+    Project(const Project&) = delete;
+    Project& operator=(const Project&) = delete;
+
+    // The folder's name.
+    [[nodiscard]] const std::wstring& Name() const noexcept { return m_name; }
+    [[nodiscard]] const Path& Folder() const noexcept { return m_folder; }
+    [[nodiscard]] const DeviceList& Devices() const noexcept { return m_devices; }
+    // The place of the device in the list. Throws Refusal, naming the devices that there are, when none has the name.
+    [[nodiscard]] std::size_t DeviceByName(std::wstring_view name) const;
+
+    // Null, as at first: nobody is asked, and foreign changes are refused.
+    void SetUser(ProjectUser* user) noexcept { m_user = user; }
+
+    // Reads a device's document as it is now, saved or not, into one with the root element "device". A document that is
+    // missing or empty is that of a device that nobody has set up yet: it leaves the document as it is. Throws Refusal.
+    void ReadDeviceDocument(const std::string& name, XmlDocument& document);
+
+    enum class Outcome { Done, TookTheirs, Cancelled };
+    // Writes a document at once. The cause is for the history: the command, or "window".
+    Outcome WriteDocument(const std::string& name, const XmlDocument& document, const std::string& cause);
+
+    [[nodiscard]] bool IsDirty() const noexcept;
+    // Writes all that is not saved. On failure everything on disk is as it was and what was changed stays unsaved.
+    Outcome Save(const std::string& cause);
+    // What is not saved needs no protection any more: the user does not want it.
+    void Discard() noexcept;
+    // Puts what is not saved into the recovery file. Throws Refusal.
+    void Protect();
+
+    // The documents, among those that were read, that another program has changed since.
+    [[nodiscard]] std::vector<std::string> ForeignChanges() { return m_seen.Changed(); }
+    // Reads these documents anew; what was changed in them here is gone.
+    void TakeTheirs(const std::vector<std::string>& documents);
+    // Saving overwrites these foreign changes without asking again.
+    void KeepMine(const std::vector<std::string>& documents);
+
+    [[nodiscard]] std::vector<HistoryEntry> Entries();
+    // Brings every document back as it was before that save, which is itself a save; what is not saved is gone.
+    // Returns what it has changed; with dryRun it changes nothing.
+    Change Restore(int number, bool dryRun);
+
+    // What processes that are gone have left unsaved here.
+    [[nodiscard]] Recoveries FindUnsaved() { return FindRecoveries(m_disk, m_folder); }
+    // The documents of a find that somebody has changed since its owner read them.
+    [[nodiscard]] std::vector<std::string> ChangedSince(const FoundRecovery& found);
+    // Takes over what was found, unsaved, in place of what is unsaved here; the file of the find is gone afterwards.
+    void Recover(FoundRecovery& found);
+
+private:
+    [[nodiscard]] Change Waiting() const;
+    Outcome Write(Change change, const std::string& cause);
+    [[nodiscard]] std::vector<std::string> ForeignIn(Change& change);
+    void CommitUnderLock(const ProjectLock& lock, Change change, const std::string& cause);
+    [[nodiscard]] std::string ReadMain();
+    void Open(XmlDocument& document, const std::string& bytes, DeviceList& devices) const;
+    void ReplaceMain(const std::string& bytes);
+    void Written(const Change& documents) noexcept;
+    void ProtectOrTell() noexcept;
+    void OnCommit(XmlDocument& document) noexcept override;
+
+    Disk& m_disk;
+    Path m_folder;
+    std::wstring m_name;
+    DeviceList m_devices;
+    Change m_pending;  // device documents that are changed and not saved
+    SeenDocuments m_seen;
+    History m_history;
+    RecoveryFile m_recovery;
+    ProjectUser* m_user = nullptr;
+};
+
+}  // namespace plant
