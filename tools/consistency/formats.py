@@ -4,7 +4,7 @@ import re
 import texts
 from tree import CODE, line_at, place, text_of, tree, without_comments
 
-FOLDERS = ("host", "module", "editor")
+FOLDERS = ("host", "module", "plant", "editor")
 # "%d %d: the lowest and the highest value" behind an id
 PROMISE = re.compile(r"^#define (\w+)[ \t]+\d+[ \t]*//[ \t]*((?:%[ds][ \t]*)+):", re.M)
 ID = r"(?:KZS|KZ_IDS|IDS)_\w+"

@@ -4,9 +4,10 @@ import re
 from tree import CODE, ROOT, line_at, place, text_of, tree, without_comments
 
 # The first folder that contains a file is its area.
+FOLDERS = ("mfc", "host", "module", "plant", "editor")
 AREAS = [
     "mfc", "host/include", "host", "module/entry", "module/device", "module/options", "module/limits",
-    "module/variables", "module/resources", "module/shared", "editor",
+    "module/variables", "module/resources", "module/shared", "plant", "editor",
 ]
 PUBLIC = {"mfc", "host/include"}
 BASE = PUBLIC | {"module/shared", "module/resources"}
@@ -21,7 +22,9 @@ ALLOWED = {
     "module/variables": BASE,
     "module/options": BASE | {"module/device", "module/limits"},
     "module/entry": BASE | {"module/options", "module/variables"},
-    "editor": PUBLIC,
+    # What of the module is rules and records, native_sources says.
+    "plant": {"host/include", "module/device", "module/limits", "module/options", "module/shared", "module/variables"},
+    "editor": PUBLIC | {"plant"},
 }
 WINDOW_HEADERS = re.compile(r"windows\.h|windowsx\.h|commctrl\.h|win\w+\.h|afx\w*\.h", re.I)
 
@@ -39,7 +42,7 @@ def includes_of(path):
 
 def project_headers():
     headers = {}
-    for path in tree("mfc", "host", "module", "editor"):
+    for path in tree(*FOLDERS):
         if path.suffix in CODE | {".rc"}:
             headers.setdefault(path.name, []).append(path)
     return headers
@@ -57,7 +60,7 @@ def candidates(headers, including, name):
 def check():
     headers = project_headers()
     findings = []
-    for path in tree("mfc", "host", "module", "editor"):
+    for path in tree(*FOLDERS):
         area = area_of(path)
         if path.suffix not in CODE | {".rc"} or area is None:
             continue
@@ -73,29 +76,29 @@ def check():
 
 def native_sources():
     """The sources that CMake's lists of rules name: they are built without windows too."""
-    for path in tree("host", "module"):
+    for path in tree("host", "module", "plant"):
         if path.name != "CMakeLists.txt":
             continue
         text = re.sub(r"#[^\n]*", "", text_of(path))
-        for block in re.finditer(r"(?:KZ_MODULE_RULES|KZ_HOST_CORE)\b([^)]*)\)", text):
+        for block in re.finditer(r"(?:KZ_MODULE_RULES|KZ_HOST_CORE|kz_plant STATIC)\b([^)]*)\)", text):
             for name in re.findall(r"[\w/.-]+\.cpp", block.group(1)):
                 if (path.parent / name).is_file():
                     yield path.parent / name
 
 
 def window_free(headers):
-    """No rule or record reaches a window header, through its own headers either."""
+    """No rule, record or part of the plant reaches a window header, through its own headers either."""
     findings, seen = [], set()
     waiting = sorted(set(native_sources()))
     if not waiting:
         return ["module/CMakeLists.txt: no list of rules found (KZ_MODULE_RULES)"]
     while waiting:
         path = waiting.pop()
-        if path in seen or not (path.is_relative_to(ROOT / "module")):
+        if path in seen or not any(path.is_relative_to(ROOT / folder) for folder in ("module", "plant")):
             continue
         seen.add(path)
         for name, line in includes_of(path):
             if WINDOW_HEADERS.fullmatch(name):
-                findings.append(f"{place(path, line)}: a rule or record must not include {name}")
+                findings.append(f"{place(path, line)}: what has no window must not include {name}")
             waiting += candidates(headers, path, name)
     return findings

@@ -4,6 +4,7 @@ import re
 from tree import CODE, definitions, line_at, place, text_of, tree, without_comments, words
 
 TABLES = ("host", "editor")
+SOURCES = ("host", "module", "plant", "editor")
 PREFIX = r"(?:KZS|KZ_IDS|IDS)_"
 CONVERSION = re.compile(r"%(?:%|[-+ #0]*\d*(?:\.\d+)?(?:hh|h|ll|l|I64)?([diouxXeEfgGscp]))")
 LANGUAGE = re.compile(r"^[ \t]*LANGUAGE[ \t]+(LANG_\w+)", re.M)
@@ -38,9 +39,9 @@ def check():
     languages = {language for found in texts.values() for language in found} - {"LANG_NEUTRAL"}
     if len(languages) != 2:
         findings.append(f"the texts are in {len(languages)} languages, not in 2: {', '.join(sorted(languages))}")
-    defined = definitions(PREFIX, ("host", "module", "editor"))
+    defined = definitions(PREFIX, SOURCES)
     used = set()
-    for path in tree("host", "module", "editor"):
+    for path in tree(*SOURCES):
         if path.suffix in CODE:
             used |= words(path)
     for name, (path, line, _) in sorted(defined.items()):
