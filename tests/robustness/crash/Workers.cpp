@@ -1,8 +1,10 @@
 #include "Workers.h"
 
+#include "CommittedChanges.h"
 #include "KZXmlDocument.h"
 #include "SavedContent.h"
 #include "StoredChanges.h"
+#include "project/Commit.h"
 #include "project/Recovery.h"
 
 namespace crash {
@@ -25,9 +27,26 @@ void StoreChanges(const std::filesystem::path& folder, long last, const Report& 
     }
 }
 
+void CommitChanges(const std::filesystem::path& project, long last, const Report& report)
+{
+    plant::Disk& disk = plant::RealDisk();
+    plant::History history(disk, project, CommittedHistory);
+    for (long number = last + 1;; ++number) {
+        const plant::ProjectLock lock(disk, project);
+        plant::FinishCommit(disk, project, lock);
+        plant::Change change = CommittedChange(number, DocumentsIn(disk, project));
+        plant::History::NewEntry entry = history.Keep("worker", change);
+        change[entry.name] = std::move(entry.bytes);
+        plant::Commit(disk, project, lock, change);
+        report(number);
+        history.Prune();
+    }
+}
+
 }  // namespace
 
 const Worker DocumentSaver{"save", SaveDocuments};
 const Worker ChangeStorer{"store", StoreChanges};
+const Worker ChangeCommitter{"commit", CommitChanges};
 
 }  // namespace crash

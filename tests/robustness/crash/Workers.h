@@ -22,7 +22,10 @@ extern const Worker DocumentSaver;
 // Stores unsaved changes (StoredChanges.h) in a project's folder.
 extern const Worker ChangeStorer;
 
-inline const std::array AllWorkers{&DocumentSaver, &ChangeStorer};
+// Commits changes of several documents (CommittedChanges.h) to a project, with its history.
+extern const Worker ChangeCommitter;
+
+inline const std::array AllWorkers{&DocumentSaver, &ChangeStorer, &ChangeCommitter};
 
 // Starts a process with this work, kills it so long after it has begun, and gives the number of the last piece of work
 // that it has told of, the given one when there was none. Throws std::runtime_error when it could not be started or has
