@@ -7,6 +7,7 @@
 #include "DocumentSource.h"
 #include "KZXmlDocument.h"
 #include "TreeEdit.h"
+#include "ValueIndex.h"
 
 struct XmlDocument::State {
     DocumentSource source;
@@ -18,6 +19,8 @@ struct XmlDocument::State {
     // The elements that somebody has asked for. Their addresses stay as long as the document's content.
     std::unordered_map<const void*, std::unique_ptr<XmlNode>> nodes;
 
+    ValueIndexes indexes;
+
     // Runs a part of an edit. When it throws, the whole edit is taken back.
     template <class Part>
     auto Edit(Part part)
@@ -25,6 +28,7 @@ struct XmlDocument::State {
         try {
             return part();
         } catch (...) {
+            indexes.Clear();
             edit.Undo([this](const void* element) { nodes.erase(element); });
             changed = wasChanged;
             throw;

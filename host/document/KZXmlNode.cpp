@@ -41,13 +41,13 @@ const wchar_t* XmlDocument::XmlNode::Name() const noexcept
 
 const wchar_t* XmlDocument::XmlNode::Value(const wchar_t* path, const wchar_t* defaultText) const noexcept
 {
-    const pugi::xml_node value = FindElement(Element(m_element), path);
+    const pugi::xml_node value = FindElement(Element(m_element), path, m_document->m_state->indexes);
     return value ? TextOf(value) : defaultText;
 }
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::Node(const wchar_t* path) const
 {
-    return Wrap(FindElement(Element(m_element), path).internal_object());
+    return Wrap(FindElement(Element(m_element), path, m_document->m_state->indexes).internal_object());
 }
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::NodeV(const wchar_t* format, ...) const
@@ -68,6 +68,7 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::NewChild(const wchar_t* name, XmlNod
         if (!name || !IsElementName(name) || (before && successor.parent() != parent) || !MayHaveChildren(parent))
             return nullptr;
         XmlNode* const node = state.NodeOf(*m_document, state.edit.AddElement(parent, name, successor));
+        state.indexes.Changed(parent, name);
         state.changed = true;
         return node;
     });
@@ -79,14 +80,19 @@ bool XmlDocument::XmlNode::SetValue(const wchar_t* name, const wchar_t* text)
     return state.Edit([&] {
         if (!name || !IsElementName(name))
             return false;
-        pugi::xml_node value = ChildElement(Element(m_element), name);
+        const pugi::xml_node element = Element(m_element);
+        pugi::xml_node value = ChildElement(element, name);
         const bool isNew = !value;
-        if (isNew && !MayHaveChildren(Element(m_element)))
+        if (isNew && !MayHaveChildren(element))
             return false;
         if (isNew)
-            value = state.edit.AddElement(Element(m_element), name, {});
-        if (state.edit.SetText(value, text ? text : L"") || isNew)
-            state.changed = true;
+            value = state.edit.AddElement(element, name, {});
+        const bool isOther = state.edit.SetText(value, text ? text : L"");
+        if (isNew)
+            state.indexes.GotFirst(element, name);
+        else if (isOther)
+            state.indexes.Changed(element, name);
+        state.changed = state.changed || isNew || isOther;
         return true;
     });
 }

@@ -2,6 +2,8 @@
 
 #include <cwchar>
 
+#include "ValueIndex.h"
+
 namespace {
 
 // "name" or "name?value=text?"
@@ -11,20 +13,10 @@ struct Step {
     std::wstring_view text;
 };
 
-// Comparing as views would measure the text first, which makes finding a driver among a hundred thousand half as slow
-// again.
-bool Equals(const wchar_t* text, std::wstring_view other) noexcept
-{
-    for (const wchar_t character : other)
-        if (*text++ != character)
-            return false;
-    return *text == L'\0';
-}
-
 // The node itself or the next of its siblings that is an element of the name.
 pugi::xml_node FirstElementFrom(pugi::xml_node node, std::wstring_view name) noexcept
 {
-    while (node && (node.type() != pugi::node_element || !Equals(node.name(), name)))
+    while (node && (node.type() != pugi::node_element || name != node.name()))
         node = node.next_sibling();
     return node;
 }
@@ -34,14 +26,22 @@ bool Fits(pugi::xml_node element, const Step& step) noexcept
     if (step.value.empty())
         return true;
     const pugi::xml_node value = ChildElement(element, step.value);
-    return value && Equals(TextOf(value), step.text);
+    return value && step.text == TextOf(value);
 }
 
-pugi::xml_node FirstFitting(pugi::xml_node parent, const Step& step) noexcept
+// So many children are looked at one by one sooner than any place of an index.
+constexpr int LongList = 64;
+
+pugi::xml_node FirstFitting(pugi::xml_node parent, const Step& step, ValueIndexes& indexes) noexcept
 {
+    if (const auto* const index = indexes.Of(parent, step.name, step.value))
+        return index->Find(step.text);
+    int passed = 0;
     pugi::xml_node child = ChildElement(parent, step.name);
-    while (child && !Fits(child, step))
-        child = NextElement(child, step.name);
+    for (; child && !Fits(child, step); child = NextElement(child, step.name))
+        if (++passed == LongList)
+            if (const auto* const index = indexes.Make(parent, step.name, step.value))
+                return index->Find(step.text);
     return child;
 }
 
@@ -97,7 +97,7 @@ pugi::xml_node NextElement(pugi::xml_node from, std::wstring_view name) noexcept
     return FirstElementFrom(from.next_sibling(), name);
 }
 
-pugi::xml_node FindElement(pugi::xml_node from, const wchar_t* path) noexcept
+pugi::xml_node FindElement(pugi::xml_node from, const wchar_t* path, ValueIndexes& indexes) noexcept
 {
     if (!path || !*path)
         return {};
@@ -105,7 +105,7 @@ pugi::xml_node FindElement(pugi::xml_node from, const wchar_t* path) noexcept
     while (from && *path) {
         if (!TakeStep(path, step))
             return {};
-        from = FirstFitting(from, step);
+        from = FirstFitting(from, step, indexes);
     }
     return from;
 }

@@ -4,9 +4,11 @@
 #include <pugixml.hpp>
 #include <string_view>
 
-// The element that a path names below the given one, or an empty handle. A malformed path names nothing. Nothing is
-// allocated, however many elements are looked at.
-[[nodiscard]] pugi::xml_node FindElement(pugi::xml_node from, const wchar_t* path) noexcept;
+class ValueIndexes;
+
+// The element that a path names below the given one, or an empty handle. A malformed path names nothing. A long list
+// gets an index when it is first searched.
+[[nodiscard]] pugi::xml_node FindElement(pugi::xml_node from, const wchar_t* path, ValueIndexes& indexes) noexcept;
 
 // The first child and the next sibling that is an element of a name, or an empty handle. Processing instructions have
 // names too, so that pugixml's own look-ups by name find them as well.
