@@ -4,10 +4,9 @@
 #include <new>
 
 #include "../text/Utf8.h"
+#include "KZUtf8.h"
 
 namespace {
-
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 
 SourceFault FaultAt(const std::wstring& text, std::size_t offset, std::wstring reason)
 {
@@ -22,23 +21,21 @@ SourceFault FaultAt(const std::wstring& text, std::size_t offset, std::wstring r
     return fault;
 }
 
-std::optional<SourceFault> Decode(std::string_view utf8, DocumentSource& source)
+// The first fault of a text that expat refuses. That it is not UTF-8 comes before all else, wherever that is.
+SourceFault FirstFault(std::string_view utf8, SourceFault other)
 {
-    if (DecodeUtf8(utf8, source.text) != utf8.size())
-        return FaultAt(source.text, source.text.size(), L"the text is not UTF-8");
-    if (std::all_of(source.text.begin(), source.text.end(), [](wchar_t c) { return c <= L' '; }))
-        return SourceFault{L"the document is empty"};
-    const std::size_t lineEnd = source.text.find(L'\n');
-    source.windowsLineEnds = lineEnd != std::wstring::npos && lineEnd > 0 && source.text[lineEnd - 1] == L'\r';
-    return std::nullopt;
+    std::wstring text;
+    if (DecodeUtf8(utf8, text) != utf8.size())
+        return FaultAt(text, text.size(), L"the text is not UTF-8");
+    return other;
 }
 
 // pugixml takes many texts besides the well-formed ones, which are all that comes here.
 std::optional<SourceFault> Parse(DocumentSource& source)
 {
-    const pugi::xml_parse_result result =
-        source.tree.load_buffer(source.text.data(), source.text.size() * sizeof(wchar_t),
-                                pugi::parse_full | pugi::parse_ws_pcdata, pugi::encoding_wchar);
+    const std::string_view text = source.Text();
+    const pugi::xml_parse_result result = source.tree.load_buffer(
+        text.data(), text.size(), pugi::parse_full | pugi::parse_ws_pcdata, pugi::encoding_utf8);
     if (result.status == pugi::status_out_of_memory)
         throw std::bad_alloc();
     return result ? std::nullopt : std::optional(SourceFault{L"the text cannot be read"});
@@ -49,22 +46,20 @@ std::optional<SourceFault> CheckRoot(const DocumentSource& source, std::wstring_
     const pugi::xml_node root = source.tree.document_element();
     if (rootName == root.name())
         return std::nullopt;
-    return FaultAt(source.text, static_cast<std::size_t>(std::max<std::ptrdiff_t>(root.offset_debug() - 1, 0)),
-                   L"the root element is \"" + std::wstring(root.name()) + L"\" instead of \"" +
-                       std::wstring(rootName) + L"\"");
+    return FaultAt(
+        FromUtf8(source.Text()), static_cast<std::size_t>(std::max<std::ptrdiff_t>(root.offset_debug() - 1, 0)),
+        L"the root element is \"" + std::wstring(root.name()) + L"\" instead of \"" + std::wstring(rootName) + L"\"");
 }
 
 }  // namespace
 
-std::optional<SourceFault> ReadSource(std::string_view utf8, const wchar_t* rootName, DocumentSource& source)
+std::optional<SourceFault> ReadSource(DocumentSource& source, const wchar_t* rootName)
 {
-    source.byteOrderMark = utf8.starts_with(Utf8Mark);
-    if (source.byteOrderMark)
-        utf8.remove_prefix(Utf8Mark.size());
-    if (std::optional<SourceFault> fault = Decode(utf8, source))
-        return fault;
-    if (std::optional<SourceFault> fault = CheckWellFormedness(utf8))
-        return fault;
+    const std::string_view text = source.Text();
+    if (std::all_of(text.begin(), text.end(), [](unsigned char c) { return c <= ' '; }))
+        return SourceFault{L"the document is empty"};
+    if (std::optional<SourceFault> fault = CheckWellFormedness(text))
+        return FirstFault(text, std::move(*fault));
     if (std::optional<SourceFault> fault = Parse(source))
         return fault;
     return CheckRoot(source, rootName);

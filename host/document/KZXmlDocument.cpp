@@ -50,7 +50,8 @@ XmlDocument::~XmlDocument() = default;
 KZDocumentResult XmlDocument::Replace(std::string_view utf8, const wchar_t* rootName)
 {
     auto state = std::make_unique<State>();
-    if (const std::optional<SourceFault> fault = ReadSource(utf8, rootName, state->source))
+    state->source.utf8 = utf8;
+    if (const std::optional<SourceFault> fault = ReadSource(state->source, rootName))
         return {false, KZBasicString(Describe(*fault))};
     state->root = state->NodeOf(*this, state->source.tree.document_element());
     m_state = std::move(state);
@@ -59,8 +60,7 @@ KZDocumentResult XmlDocument::Replace(std::string_view utf8, const wchar_t* root
 
 KZDocumentResult XmlDocument::Parse(std::string_view utf8)
 {
-    const std::wstring rootName = Root()->Name();
-    return Replace(utf8, rootName.c_str());
+    return Replace(utf8, Root()->Name());
 }
 
 KZDocumentResult XmlDocument::Load(const std::filesystem::path& file)
@@ -90,10 +90,10 @@ KZDocumentResult XmlDocument::Save(const std::filesystem::path& file)
 std::string XmlDocument::Serialize() const
 {
     const DocumentSource& source = m_state->source;
-    const std::string mark = source.byteOrderMark ? "\xEF\xBB\xBF" : "";
     if (!m_state->changed)
-        return mark + ToUtf8(source.text);
-    return mark + ToUtf8(SourceWriter(source, m_state->edit.Replaced()).Write());
+        return source.utf8;
+    const std::string text = ToUtf8(SourceWriter(source, m_state->edit.Replaced()).Write());
+    return source.HasByteOrderMark() ? "\xEF\xBB\xBF" + text : text;
 }
 
 XmlDocument::XmlNode* XmlDocument::Root() const noexcept

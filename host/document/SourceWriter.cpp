@@ -2,6 +2,8 @@
 
 #include <cwchar>
 
+#include "KZUtf8.h"
+
 namespace {
 
 class Appender : public pugi::xml_writer {
@@ -30,6 +32,13 @@ std::size_t PrefixLength(pugi::xml_node_type type) noexcept
 }
 
 }  // namespace
+
+SourceWriter::SourceWriter(const DocumentSource& source, const ReplacedTexts& replaced)
+    : m_source(source), m_text(FromUtf8(source.Text())), m_replaced(replaced)
+{
+    const std::size_t lineEnd = m_text.find(L'\n');
+    m_windowsLineEnds = lineEnd != std::wstring::npos && lineEnd > 0 && m_text[lineEnd - 1] == L'\r';
+}
 
 std::wstring SourceWriter::Write()
 {
@@ -79,7 +88,7 @@ void SourceWriter::WriteNew(pugi::xml_node node)
     Appender appender(text);
     node.print(appender, L"", pugi::format_raw, pugi::encoding_wchar);
     for (const wchar_t character : text) {
-        if (character == L'\n' && m_source.windowsLineEnds)
+        if (character == L'\n' && m_windowsLineEnds)
             m_out += L'\r';
         m_out += character;
     }

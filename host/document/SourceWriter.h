@@ -9,10 +9,7 @@
 
 class SourceWriter {
 public:
-    SourceWriter(const DocumentSource& source, const ReplacedTexts& replaced) noexcept
-        : m_source(source), m_text(source.text), m_replaced(replaced)
-    {
-    }
+    SourceWriter(const DocumentSource& source, const ReplacedTexts& replaced);
 
     // The document's text, without the byte order mark.
     [[nodiscard]] std::wstring Write();
@@ -35,7 +32,8 @@ private:
     void CopyTo(std::size_t end);
 
     const DocumentSource& m_source;
-    const std::wstring& m_text;
+    const std::wstring m_text;  // in which the tree's nodes have their places
+    bool m_windowsLineEnds = false;
     const ReplacedTexts& m_replaced;
     std::wstring m_out;
     std::size_t m_copied = 0;

@@ -131,6 +131,7 @@ std::string ToUtf8(std::wstring_view text)
 std::wstring FromUtf8(std::string_view bytes)
 {
     std::wstring text;
+    text.reserve(bytes.size());
     while (!bytes.empty()) {
         const Decoded decoded = DecodeOne(bytes);
         AppendWide(text, decoded.length ? decoded.character : Replacement);
