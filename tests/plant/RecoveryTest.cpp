@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "FaultyDisk.h"
 #include "KZXmlDocument.h"
 #include "RecoveryStates.h"
 #include "TemporaryFolder.h"
@@ -128,6 +129,29 @@ TEST_F(Recovery, LeavesWhatAnEarlierProcessOfTheSameNumberHasLeft)
     RecoveryFile(RealDisk(), m_folder.Path()).Store(StateOf(3));
     EXPECT_EQ(kztest::BytesOf(File("-3")), "") << "an empty one is not this process's either";
     EXPECT_EQ(Find().found.size(), 3U);
+}
+
+// A process of another machine, with the same number, comes between the look at a name and the hold of the file.
+TEST_F(Recovery, LeavesWhatAppearsWhileItTakesAName)
+{
+    class BlindDisk : public kztest::FaultyDisk {
+    public:
+        using FaultyDisk::FaultyDisk;
+        std::optional<KZFileEntry> Find(const Path&) override { return std::nullopt; }
+    };
+    BlindDisk blind(RealDisk());
+    Leave(1);
+    RecoveryFile living(RealDisk(), m_folder.Path());
+    living.Store(StateOf(2));
+    const std::string before = kztest::BytesOf(File());
+    RecoveryFile late(blind, m_folder.Path());
+    late.Store(StateOf(3));
+    EXPECT_EQ(kztest::BytesOf(File()), before);
+    EXPECT_TRUE(exists(File("-3")));
+    EXPECT_EQ(m_folder.Count(), 3U);
+    const Recoveries all = Find();
+    ASSERT_EQ(all.found.size(), 1U);
+    EXPECT_EQ(all.found[0].unsaved, StateOf(1));
 }
 
 TEST_F(Recovery, IsFoundOldestFirst)
