@@ -191,6 +191,14 @@ TEST(ForgedRecovery, IsRefusedWhenItsDataIsNotInTheFile)
         EXPECT_EQ(RefusalOf(Forged({1, RecoveryData, length, HashOf(data)}, data)), unsigned{IDS_PLANT_DAMAGED});
 }
 
+TEST(ForgedRecovery, CountsNoNewerRecordOfDataBehindTheEnd)
+{
+    const std::string data = "1\n";
+    const std::string file = Forged(data);
+    const RecoveryRecord behind{2, file.size() + 1, 1, HashOf("")};
+    EXPECT_TRUE(ReadRecovery(kztest::Overwritten(file, PlaceOfRecord(2), RecordText(behind)), File));
+}
+
 TEST(ForgedRecovery, IsRefusedWhenItNamesWhatIsNoDocument)
 {
     for (const std::string name : {"../main.xml", "devices/../main.xml", "/etc/passwd", "C:\\main.xml", "project.lock",
