@@ -1,9 +1,6 @@
 #include "History.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cstdio>
 #include <set>
 
 #include "KeptFolder.h"
@@ -16,148 +13,57 @@ namespace {
 
 using Kind = KZFileEntry::Kind;
 
-constexpr std::string_view HistoryFolder = "history";
-constexpr std::string_view EntryFile = "entry";
-// What is left of the entries that were let go of.
-constexpr int Base = 0;
-constexpr int LastNumber = 999'999'999;
-
-std::string NumberName(int number)
+// The numbers of an entry's predecessors, the base aside.
+std::vector<int> TakeBelow(std::vector<int>& numbers, int entry)
 {
-    std::array<char, 16> text;
-    return {text.data(), static_cast<std::size_t>(std::snprintf(text.data(), text.size(), "%06d", number))};
-}
-
-std::optional<int> NumberOf(std::string_view name)
-{
-    int number = 0;
-    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
-    const bool isOurs = error == std::errc{} && number >= 0 && number <= LastNumber && NumberName(number) == name;
-    return isOurs ? std::optional(number) : std::nullopt;
+    const auto end = std::lower_bound(numbers.begin(), numbers.end(), entry);
+    std::vector<int> taken(numbers.begin(), end);
+    numbers.erase(numbers.begin(), end);
+    std::erase(taken, HistoryFolders::Base);
+    return taken;
 }
 
 }  // namespace
 
 History::History(Disk& disk, Path project, HistoryLimits limits)
-    : m_disk(disk), m_project(std::move(project)), m_folder(m_project / HistoryFolder), m_limits(limits)
+    : m_disk(disk), m_project(std::move(project)), m_folders(disk, m_project), m_limits(limits)
 {
 }
 
-Path History::FolderOf(int number) const
-{
-    return m_folder / NumberName(number);
-}
-
-Path History::EntryOf(int number) const
-{
-    return FolderOf(number) / EntryFile;
-}
-
-std::vector<int> History::Numbers()
-{
-    const auto found = m_disk.Find(m_folder);
-    if (found && found->kind != Kind::Folder)
-        throw Refusal(IDS_PLANT_NOT_A_FOLDER, {Shown(m_folder)});
-    std::vector<int> numbers;
-    for (const KZFileEntry& entry : m_disk.List(m_folder)) {
-        const std::optional<int> number = NumberOf(NameOf(entry.name));
-        if (number && entry.kind != Kind::Folder)
-            throw Refusal(IDS_PLANT_NOT_A_FOLDER, {Shown(m_folder / entry.name)});
-        if (number)
-            numbers.push_back(*number);
-    }
-    std::sort(numbers.begin(), numbers.end());
-    return numbers;
-}
-
-History::Folders History::Look()
-{
-    Folders folders;
-    for (const int number : Numbers()) {
-        const auto entry = number == Base ? std::nullopt : m_disk.Find(EntryOf(number));
-        if (!entry) {
-            (folders.entries.empty() ? folders.before : folders.after).push_back(number);
-            continue;
-        }
-        // A manifest that is missing between others will be refused when it is read.
-        for (const int missing : folders.after)
-            folders.entries.emplace(missing, 0);
-        folders.after.clear();
-        folders.entries.emplace(number, entry->size);
-    }
-    if (folders.entries.empty())
-        folders.before.swap(folders.after);
-    return folders;
-}
-
-std::uint64_t History::BytesIn(const Folders& folders)
+std::uint64_t History::BytesIn(const HistoryFolders::Found& folders)
 {
     std::uint64_t bytes = 0;
-    const auto addDocuments = [&](int number) {
-        for (const auto& [name, file] : DocumentFilesIn(m_disk, FolderOf(number)))
-            bytes += file.size;
-    };
-    std::for_each(folders.before.begin(), folders.before.end(), addDocuments);
-    for (const auto& [number, size] : folders.entries) {
+    for (const auto& [number, size] : folders.entries)
         bytes += size;
-        addDocuments(number);
+    for (const int number : folders.numbers) {
+        for (const auto& [name, file] : DocumentFilesIn(m_disk, m_folders.Of(number)))
+            bytes += file.size;
     }
     return bytes;
-}
-
-Manifest History::Read(int number)
-{
-    const Path file = EntryOf(number);
-    const std::wstring shown = Shown(file);
-    constexpr std::uint64_t longest = 64 << 20;
-    const auto found = m_disk.Find(file);
-    if (!found || found->kind != Kind::File || found->size > longest)
-        throw Refusal(IDS_PLANT_DAMAGED, {shown});
-    Manifest manifest = ReadManifest(m_disk.Read(file).value_or(""), shown);
-    if (manifest.entry.number != number)
-        throw Refusal(IDS_PLANT_DAMAGED, {shown});
-    return manifest;
 }
 
 std::vector<HistoryEntry> History::Entries()
 {
     std::vector<HistoryEntry> entries;
-    for (const auto& [number, size] : Look().entries)
-        entries.push_back(Read(number).entry);
+    for (const auto& [number, size] : m_folders.Look().entries)
+        entries.push_back(m_folders.Read(number).entry);
     return entries;
-}
-
-// What the history has put there goes; what is anybody else's stays.
-void History::Clear(int number)
-{
-    const Path folder = FolderOf(number);
-    for (const auto& [name, file] : DocumentFilesIn(m_disk, folder))
-        m_disk.Remove(FileOf(folder, name));
-    RemoveIfEmpty(folder);
-}
-
-void History::RemoveIfEmpty(const Path& folder)
-{
-    for (const Path& path : {folder / DeviceFolder, folder}) {
-        const auto found = m_disk.Find(path);
-        if (found && found->kind == Kind::Folder && m_disk.List(path).empty())
-            m_disk.Remove(path);
-    }
 }
 
 History::NewEntry History::Keep(const std::string& cause, const Change& change)
 {
-    const Folders folders = Look();
+    const HistoryFolders::Found folders = m_folders.Look();
     const int last = folders.entries.empty() ? 0 : folders.entries.rbegin()->first;
     const int number = last + 1;
-    for (const int unfinished : folders.after) {
-        if (unfinished != number)
-            throw Refusal(IDS_PLANT_DAMAGED, {Shown(EntryOf(unfinished))});
+    if (last == HistoryFolders::LastNumber)
+        throw Refusal(IDS_PLANT_DAMAGED, {Shown(m_folders.EntryOf(last))});
+    for (const int left : folders.numbers) {
+        // A save that did not take place leaves the folder of its number; what is above has lost its manifest.
+        if (left > number)
+            throw Refusal(IDS_PLANT_DAMAGED, {Shown(m_folders.Of(left))});
     }
-    if (last == LastNumber)
-        throw Refusal(IDS_PLANT_DAMAGED, {Shown(EntryOf(last))});
-    const Manifest before = last == 0 ? Manifest{} : Read(last);
-    Clear(number);
+    const Manifest before = last == 0 ? Manifest{} : m_folders.Read(last);
+    m_folders.Clear(number);
 
     Manifest manifest{{number, UtcText(m_disk.Now()), cause, {}}, {}};
     for (const auto& [name, bytes] : change)
@@ -166,20 +72,19 @@ History::NewEntry History::Keep(const std::string& cause, const Change& change)
         KeepProject(manifest, before, change);
     } catch (...) {
         try {
-            Clear(number);
+            m_folders.Clear(number);
         } catch (const std::exception&) {
             // The next call clears it.
         }
         throw;
     }
-    std::string name = std::string(HistoryFolder) + '/' + NumberName(number) + '/' + std::string(EntryFile);
-    return {number, std::move(name), WriteManifest(manifest)};
+    return {number, HistoryFolders::NameOfEntry(number), WriteManifest(manifest)};
 }
 
 void History::KeepProject(Manifest& manifest, const Manifest& before, const Change& change)
 {
-    m_disk.MakeFolder(m_folder);
-    KeptFolder folder(m_disk, m_project, FolderOf(manifest.entry.number), before);
+    m_disk.MakeFolder(m_folders.Root());
+    KeptFolder folder(m_disk, m_project, m_folders.Of(manifest.entry.number), before);
     std::set<std::string_view, NameLess> replaced;
     for (const auto& [name, bytes] : change)
         replaced.insert(name);
@@ -196,61 +101,59 @@ void History::KeepProject(Manifest& manifest, const Manifest& before, const Chan
 
 void History::Prune()
 {
-    Folders folders = Look();
-    if (folders.entries.empty())
+    auto [numbers, entries] = m_folders.Look();
+    if (entries.empty())
         return;
-    std::uint64_t bytes = BytesIn(folders);
-    std::erase(folders.before, Base);
-    if (!folders.before.empty()) {
-        const int oldest = folders.entries.begin()->first;
-        bytes -= std::min(bytes, Release(folders.before, oldest, Read(oldest)));
-    }
-    while (folders.entries.size() > 1 && (folders.entries.size() > m_limits.entries || bytes > m_limits.bytes)) {
-        const auto [oldest, size] = *folders.entries.begin();
-        folders.entries.erase(folders.entries.begin());
-        const int next = folders.entries.begin()->first;
-        const Manifest needed = Read(next);
-        m_disk.Remove(EntryOf(oldest));
-        bytes -= std::min(bytes, size + Release({oldest}, next, needed));
+    std::uint64_t bytes = BytesIn({numbers, entries});
+    const auto let = [&](std::uint64_t freed) { bytes -= std::min(bytes, freed); };
+    // What a process that has ended here has not finished.
+    const int oldest = entries.begin()->first;
+    if (const std::vector<int> left = TakeBelow(numbers, oldest); !left.empty())
+        let(Release(left, m_folders.Read(oldest)));
+    while (entries.size() > 1 && (entries.size() > m_limits.entries || bytes > m_limits.bytes)) {
+        const auto [number, size] = *entries.begin();
+        entries.erase(entries.begin());
+        const Manifest next = m_folders.Read(entries.begin()->first);
+        m_disk.Remove(m_folders.EntryOf(number));
+        let(size + Release(TakeBelow(numbers, next.entry.number), next));
     }
 }
 
-// Empties folders below the oldest entry. What this entry needs of them goes to the base, which then holds nothing
-// else. Returns how many bytes less there are.
-std::uint64_t History::Release(const std::vector<int>& numbers, int next, const Manifest& needed)
+// Empties folders below the oldest entry. What the entry needs of them goes to the base, which then holds nothing else.
+// Returns how many bytes less there are.
+std::uint64_t History::Release(const std::vector<int>& numbers, const Manifest& oldest)
 {
+    const Path baseFolder = m_folders.Of(HistoryFolders::Base);
+    const DocumentFiles own = DocumentFilesIn(m_disk, m_folders.Of(oldest.entry.number));
+    const auto isNeeded = [&](const std::string& name) { return oldest.project.contains(name) && !own.contains(name); };
     std::uint64_t freed = 0;
-    const DocumentFiles nearer = DocumentFilesIn(m_disk, FolderOf(next));
-    const auto isNeeded = [&](const std::string& name) {
-        return needed.project.contains(name) && !nearer.contains(name);
-    };
-    const auto remove = [&](int number, const std::string& name, const KZFileEntry& file) {
-        m_disk.Remove(FileOf(FolderOf(number), name));
-        freed += file.size;
-    };
-    DocumentFiles base = DocumentFilesIn(m_disk, FolderOf(Base));
-    std::erase_if(base, [&](const auto& document) {
-        const bool goes = !isNeeded(document.first);
-        if (goes)
-            remove(Base, document.first, document.second);
-        return goes;
-    });
-    m_disk.MakeFolder(FolderOf(Base));
-    m_disk.MakeFolder(FolderOf(Base) / DeviceFolder);
-    for (const int number : numbers) {
-        for (const auto& [name, file] : DocumentFilesIn(m_disk, FolderOf(number))) {
-            if (!isNeeded(name)) {
-                remove(number, name, file);
-                continue;
-            }
-            m_disk.Move(FileOf(FolderOf(number), name), FileOf(FolderOf(Base), name));
-            KZFileEntry& left = base[name];
-            freed += left.size;
-            left = file;
+    DocumentFiles base;
+    for (const auto& [name, file] : DocumentFilesIn(m_disk, baseFolder)) {
+        if (isNeeded(name)) {
+            base.emplace(name, file);
+        } else {
+            m_disk.Remove(FileOf(baseFolder, name));
+            freed += file.size;
         }
-        RemoveIfEmpty(FolderOf(number));
     }
-    RemoveIfEmpty(FolderOf(Base));
+    m_disk.MakeFolder(baseFolder);
+    m_disk.MakeFolder(baseFolder / DeviceFolder);
+    for (const int number : numbers) {
+        for (const auto& [name, file] : DocumentFilesIn(m_disk, m_folders.Of(number))) {
+            const Path from = FileOf(m_folders.Of(number), name);
+            if (isNeeded(name)) {
+                m_disk.Move(from, FileOf(baseFolder, name));
+                KZFileEntry& replaced = base[name];
+                freed += replaced.size;
+                replaced = file;
+            } else {
+                m_disk.Remove(from);
+                freed += file.size;
+            }
+        }
+        m_folders.RemoveIfEmpty(number);
+    }
+    m_folders.RemoveIfEmpty(HistoryFolders::Base);
     return freed;
 }
 
@@ -267,14 +170,14 @@ std::optional<std::string> History::ReadIfSame(const Path& folder, const Documen
 
 Change History::Restoring(int number)
 {
-    const Folders folders = Look();
+    const HistoryFolders::Found folders = m_folders.Look();
     if (folders.entries.empty())
-        throw Refusal(IDS_PLANT_HISTORY_EMPTY, {Shown(m_folder)});
+        throw Refusal(IDS_PLANT_HISTORY_EMPTY, {Shown(m_folders.Root())});
     if (!folders.entries.contains(number))
         throw Refusal(IDS_PLANT_HISTORY_NO_ENTRY,
                       {std::to_wstring(number), std::to_wstring(folders.entries.begin()->first),
                        std::to_wstring(folders.entries.rbegin()->first)});
-    const Manifest manifest = Read(number);
+    const Manifest manifest = m_folders.Read(number);
 
     Change change;
     std::vector<std::string> wanted;
@@ -288,19 +191,17 @@ Change History::Restoring(int number)
         if (file == live.end() || !ReadIfSame(m_project, *file, document))
             wanted.push_back(name);
     }
-    AddKept(change, std::move(wanted), manifest, folders);
+    AddKept(change, std::move(wanted), manifest, folders.numbers);
     return change;
 }
 
-void History::AddKept(Change& change, std::vector<std::string> wanted, const Manifest& manifest, const Folders& folders)
+// Adds the documents that are wanted with the content that the entry has of them.
+void History::AddKept(Change& change, std::vector<std::string> wanted, const Manifest& manifest,
+                      std::vector<int> numbers)
 {
-    std::vector<int> numbers = folders.before;
-    for (const auto& [number, size] : folders.entries) {
-        if (number <= manifest.entry.number)
-            numbers.push_back(number);
-    }
+    std::erase_if(numbers, [&](int number) { return number > manifest.entry.number; });
     for (; !numbers.empty() && !wanted.empty(); numbers.pop_back()) {
-        const Path folder = FolderOf(numbers.back());
+        const Path folder = m_folders.Of(numbers.back());
         const DocumentFiles files = DocumentFilesIn(m_disk, folder);
         std::erase_if(wanted, [&](const std::string& name) {
             const auto file = files.find(name);
@@ -314,7 +215,7 @@ void History::AddKept(Change& change, std::vector<std::string> wanted, const Man
         });
     }
     if (!wanted.empty())
-        throw Refusal(IDS_PLANT_HISTORY_CHANGED, {Shown(FileOf(FolderOf(manifest.entry.number), wanted.front()))});
+        throw Refusal(IDS_PLANT_HISTORY_CHANGED, {Shown(FileOf(m_folders.Of(manifest.entry.number), wanted.front()))});
 }
 
 }  // namespace plant

@@ -12,7 +12,6 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +20,7 @@
 #include "Disk.h"
 #include "DocumentFiles.h"
 #include "HistoryEntry.h"
+#include "HistoryFolders.h"
 
 namespace plant {
 
@@ -59,29 +59,16 @@ public:
     [[nodiscard]] Change Restoring(int number);
 
 private:
-    struct Folders {
-        std::vector<int> before;               // below the oldest entry
-        std::map<int, std::uint64_t> entries;  // with the sizes of their manifests
-        std::vector<int> after;                // above the newest entry
-    };
-
-    [[nodiscard]] Path FolderOf(int number) const;
-    [[nodiscard]] Path EntryOf(int number) const;
-    [[nodiscard]] std::vector<int> Numbers();
-    [[nodiscard]] Folders Look();
-    [[nodiscard]] std::uint64_t BytesIn(const Folders& folders);
-    [[nodiscard]] Manifest Read(int number);
-    void Clear(int number);
-    void RemoveIfEmpty(const Path& folder);
+    [[nodiscard]] std::uint64_t BytesIn(const HistoryFolders::Found& folders);
     void KeepProject(Manifest& manifest, const Manifest& before, const Change& change);
-    [[nodiscard]] std::uint64_t Release(const std::vector<int>& numbers, int next, const Manifest& needed);
+    [[nodiscard]] std::uint64_t Release(const std::vector<int>& numbers, const Manifest& oldest);
     [[nodiscard]] std::optional<std::string> ReadIfSame(const Path& folder, const DocumentFiles::value_type& document,
                                                         const KeptDocument& kept);
-    void AddKept(Change& change, std::vector<std::string> wanted, const Manifest& manifest, const Folders& folders);
+    void AddKept(Change& change, std::vector<std::string> wanted, const Manifest& manifest, std::vector<int> numbers);
 
     Disk& m_disk;
     Path m_project;
-    Path m_folder;
+    HistoryFolders m_folders;
     HistoryLimits m_limits;
 };
 

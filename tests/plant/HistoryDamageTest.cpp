@@ -99,16 +99,20 @@ TEST_F(DamagedHistory, IsRefusedWhereTheManifestNamesAnotherFolder)
     RefusesEverything(IDS_PLANT_STRANGE_NAME, Newest);
 }
 
-TEST_F(DamagedHistory, IsRefusedWhereAManifestBetweenOthersIsMissing)
+// Whoever takes a damaged manifest out of the history loses that entry alone.
+TEST_F(DamagedHistory, DoesWithoutAnEntryWhoseManifestWasTakenOut)
 {
     m_project.Save({{"main.xml", "four"}});
+    const State first = m_project.Before(1);
+    const State third = m_project.Before(3);
     m_project.Remove(Newest);
-    EXPECT_EQ(EntriesRefused().text, IDS_PLANT_DAMAGED);
-    EXPECT_THAT(EntriesRefused().arguments, ElementsAre(Shown(Newest)));
-    EXPECT_EQ(RestoringRefused(2).text, IDS_PLANT_DAMAGED);
-    // The others are still of use.
-    EXPECT_EQ(m_project.Before(1).at("main.xml"), "one");
-    EXPECT_EQ(m_project.Before(3).at("main.xml"), "three");
+    EXPECT_EQ(m_project.History().Entries().size(), 2U);
+    EXPECT_EQ(RestoringRefused(2).text, IDS_PLANT_HISTORY_NO_ENTRY);
+    EXPECT_EQ(m_project.Before(1), first);
+    EXPECT_EQ(m_project.Before(3), third);
+    plant::History(plant::RealDisk(), m_project.Path(), plant::HistoryLimits{1, 1'000'000}).Prune();
+    EXPECT_FALSE(m_project.Has("history/000002"));
+    EXPECT_EQ(m_project.Before(3), third);
     EXPECT_EQ(m_project.Save({{"main.xml", "five"}}), 4);
 }
 
@@ -119,7 +123,7 @@ TEST_F(DamagedHistory, IsRefusedWhereTheLastManifestsAreMissing)
     m_project.Remove(Newest);
     const State tree = m_project.Tree();
     EXPECT_EQ(KeepRefused().text, IDS_PLANT_DAMAGED);
-    EXPECT_THAT(KeepRefused().arguments, ElementsAre(Shown(Newest)));
+    EXPECT_THAT(KeepRefused().arguments, ElementsAre(Shown("history/000002")));
     EXPECT_EQ(m_project.Tree(), tree);
 }
 

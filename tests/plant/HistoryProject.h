@@ -20,7 +20,12 @@ public:
     explicit HistoryProject(plant::HistoryLimits limits = {}) : m_limits(limits) {}
     HistoryProject(const HistoryProject& other) : m_limits(other.m_limits)
     {
-        std::filesystem::copy(other.Path(), Path(), std::filesystem::copy_options::recursive);
+        for (const auto& [name, bytes] : other.Tree()) {
+            if (name.ends_with('/'))
+                std::filesystem::create_directory(FileOf(name.substr(0, name.size() - 1)));
+            else
+                Write(name, bytes);
+        }
     }
 
     [[nodiscard]] const plant::Path& Path() const noexcept { return m_folder.Path(); }
