@@ -49,7 +49,7 @@ void Print(DWORD which, std::string_view utf8)
     }
 }
 
-// Handing on each line by itself takes half of the time of listing many devices.
+// Handing on a line by itself is a request to the system, and a list may have very many.
 constexpr std::size_t WaitingAtMost = 16384;
 std::string waiting;
 

@@ -1,7 +1,6 @@
 // What a document consists of.
 #pragma once
 
-#include <memory>
 #include <unordered_map>
 
 #include "DocumentSource.h"
@@ -17,7 +16,10 @@ struct XmlDocument::State {
     bool dirty = false;
     XmlNode* root = nullptr;
     // The elements that somebody has asked for. Their addresses stay as long as the document's content.
-    std::unordered_map<const void*, std::unique_ptr<XmlNode>> nodes;
+    struct Asked : XmlNode {
+        Asked(XmlDocument& document, void* element) noexcept : XmlNode(document, element) {}
+    };
+    std::unordered_map<const void*, Asked> nodes;
 
     ValueIndexes indexes;
 

@@ -31,10 +31,8 @@ XmlDocument::XmlNode* XmlDocument::State::NodeOf(XmlDocument& document, pugi::xm
 {
     if (!element)
         return nullptr;
-    std::unique_ptr<XmlNode>& node = nodes[element.internal_object()];
-    if (!node)
-        node.reset(new XmlNode(document, element.internal_object()));
-    return node.get();
+    void* const object = element.internal_object();
+    return &nodes.try_emplace(object, document, object).first->second;
 }
 
 XmlDocument::XmlDocument(const wchar_t* rootName)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cwchar>
 #include <cwctype>
 #include <unordered_set>
 
@@ -21,69 +22,74 @@ public:
 
 private:
     [[noreturn]] void Fail(unsigned textId, const wchar_t* value) const;
-    std::wstring Label(const XmlDocument::XmlNode& element) const;
-    std::wstring Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const;
-    void CheckIdentifier(const std::wstring& driverId);
-    void CheckName(const std::wstring& name);
+    std::wstring Label() const;
+    const wchar_t* Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const;
+    void CheckIdentifier(const wchar_t* driverId);
+    void CheckName(const wchar_t* name);
     int Number(const XmlDocument::XmlNode& element) const;
     KZVariableGroups Groups(const XmlDocument::XmlNode& element) const;
 
     std::wstring m_file;
     int m_position = 0;
-    std::wstring m_device;  // what errors call the device that is being read
+    const XmlDocument::XmlNode* m_device = nullptr;  // that is being read
     std::unordered_set<std::wstring> m_driverIds;
-    std::unordered_set<std::wstring> m_names;
+    std::unordered_set<std::wstring_view> m_names;
 };
 
 // The driverId names the device's document, and file names differ by more than case.
 std::wstring FoldCase(std::wstring text)
 {
-    std::transform(text.begin(), text.end(), text.begin(), [](wchar_t c) { return static_cast<wchar_t>(towlower(c)); });
+    std::transform(text.begin(), text.end(), text.begin(), [](wchar_t c) {
+        const bool isAscii = c <= L'~';  // nearly all of it is, and the library is slow to ask
+        const bool isCapital = c >= L'A' && c <= L'Z';
+        return isAscii ? static_cast<wchar_t>(isCapital ? c - L'A' + L'a' : c) : static_cast<wchar_t>(towlower(c));
+    });
     return text;
 }
 
-bool HasControlCharacter(const std::wstring& text)
+bool HasControlCharacter(std::wstring_view text)
 {
     return std::any_of(text.begin(), text.end(), [](wchar_t c) { return c < L' '; });
 }
 
 void DeviceReader::Fail(unsigned textId, const wchar_t* value) const
 {
-    throw Refusal(textId, {m_file, m_device, value});
+    throw Refusal(textId, {m_file, Label(), value});
 }
 
-std::wstring DeviceReader::Label(const XmlDocument::XmlNode& element) const
+// What errors call the device.
+std::wstring DeviceReader::Label() const
 {
     for (const wchar_t* valueName : {L"name", L"driverId"}) {
-        if (const wchar_t* value = element.Value(valueName, L""); *value)
+        if (const wchar_t* value = m_device->Value(valueName, L""); *value)
             return value;
     }
     return L"#" + std::to_wstring(m_position);
 }
 
-std::wstring DeviceReader::Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const
+const wchar_t* DeviceReader::Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const
 {
-    std::wstring value = element.Value(valueName, L"");
-    if (value.empty())
+    const wchar_t* const value = element.Value(valueName, L"");
+    if (!*value)
         Fail(IDS_PLANT_DEVICE_VALUE_MISSING, valueName);
     return value;
 }
 
-void DeviceReader::CheckIdentifier(const std::wstring& driverId)
+void DeviceReader::CheckIdentifier(const wchar_t* driverId)
 {
     // In a query path "?" ends the text that is looked for.
-    if (HasControlCharacter(driverId) || driverId.find(L'?') != std::wstring::npos)
-        Fail(IDS_PLANT_DEVICE_BAD_DRIVER_ID, driverId.c_str());
+    if (HasControlCharacter(driverId) || std::wcschr(driverId, L'?'))
+        Fail(IDS_PLANT_DEVICE_BAD_DRIVER_ID, driverId);
     if (!m_driverIds.insert(FoldCase(driverId)).second)
-        Fail(IDS_PLANT_DEVICE_DOUBLE_DRIVER_ID, driverId.c_str());
+        Fail(IDS_PLANT_DEVICE_DOUBLE_DRIVER_ID, driverId);
 }
 
-void DeviceReader::CheckName(const std::wstring& name)
+void DeviceReader::CheckName(const wchar_t* name)
 {
     if (HasControlCharacter(name))
         Fail(IDS_PLANT_DEVICE_BAD_NAME, L"name");
     if (!m_names.insert(name).second)
-        Fail(IDS_PLANT_DEVICE_DOUBLE_NAME, name.c_str());
+        Fail(IDS_PLANT_DEVICE_DOUBLE_NAME, name);
 }
 
 int DeviceReader::Number(const XmlDocument::XmlNode& element) const
@@ -109,9 +115,9 @@ KZVariableGroups DeviceReader::Groups(const XmlDocument::XmlNode& element) const
 KZDeviceIdentity DeviceReader::Read(const XmlDocument::XmlNode& element)
 {
     ++m_position;
-    m_device = Label(element);
-    const std::wstring driverId = Required(element, L"driverId");
-    const std::wstring name = Required(element, L"name");
+    m_device = &element;
+    const wchar_t* const driverId = Required(element, L"driverId");
+    const wchar_t* const name = Required(element, L"name");
     CheckIdentifier(driverId);
     CheckName(name);
 
