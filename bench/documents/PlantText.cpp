@@ -14,6 +14,15 @@ std::string PlainDriverId(int place)
     return "plant/hall 3/zep-" + std::string(digits.size() < 6 ? 6 - digits.size() : 0, '0') + digits;
 }
 
+void AppendDevice(std::string& text, int device)
+{
+    const std::string number = std::to_string(device + 1);
+    text += "    <device>\n      <driverId>" + PlainDriverId(device) + "</driverId>\n      <name>FILTER." + number +
+            "</name>\n      <number>" + number +
+            "</number>\n      <type>ZEP</type>\n      <description>Rolling mill, cell " + number +
+            "</description>\n      <groups>0x74</groups>\n    </device>\n";
+}
+
 void AppendUnits(std::string& text, int driver)
 {
     text += "    <unitSetup>\n      <driverId>" + PlainDriverId(driver) + "</driverId>\n";
@@ -37,6 +46,7 @@ void AppendCheck(std::string& text, const zep::LimitVariable& variable)
     text += "      </check>\n";
 }
 
+// The limits of all variables or of one.
 void AppendLimits(std::string& text, int driver, bool all)
 {
     text += "    <viewSetup>\n      <driverId>" + PlainDriverId(driver) + "</driverId>\n";
@@ -66,6 +76,20 @@ std::string ConfigurationText(int drivers, int driversWithLimits)
     text += "  </unitSetups>\n  <viewSetups>\n";
     for (int driver = 0; driver < drivers; ++driver)
         AppendLimits(text, driver, driver >= drivers - driversWithLimits);
+    return text + "  </viewSetups>\n</configuration>\n";
+}
+
+std::string ProjectText(int devices, Settings settings)
+{
+    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<configuration>\n  <devices>\n";
+    for (int device = 0; device < devices; ++device)
+        AppendDevice(text, device);
+    text += "  </devices>\n  <unitSetups>\n";
+    for (int device = 0; device < devices && settings == Settings::All; ++device)
+        AppendUnits(text, device);
+    text += "  </unitSetups>\n  <viewSetups>\n";
+    for (int device = 0; device < devices; ++device)
+        AppendLimits(text, device, settings == Settings::All);
     return text + "  </viewSetups>\n</configuration>\n";
 }
 

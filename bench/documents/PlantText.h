@@ -14,6 +14,11 @@ namespace kzbench {
 // variables, the others that of one.
 [[nodiscard]] std::string ConfigurationText(int drivers, int driversWithLimits);
 
+// The main configuration document of a whole project. What each device has set: everything, which is its units and the
+// limits of all 30 variables, or the limits of one variable.
+enum class Settings { All, OneLimit };
+[[nodiscard]] std::string ProjectText(int devices, Settings settings);
+
 // A device configuration document with every child of its record.
 [[nodiscard]] std::string DeviceText();
 

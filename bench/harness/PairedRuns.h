@@ -38,10 +38,20 @@ double Milliseconds(Operation& operation, int repeats)
 // What is over sooner is repeated for this long: enough for the clock, and too short to be interrupted each time.
 inline constexpr double SampleMilliseconds = 0.2;
 
-// How long all pairs together take at least, and how many there are.
+// How long all pairs together take at least, and how many there are. What takes seconds is run as often as a long
+// budget allows.
 inline constexpr double BudgetMilliseconds = 1500;
+inline constexpr double LongBudgetMilliseconds = 12000;
+inline constexpr std::size_t FewestLongPairs = 5;
 inline constexpr std::size_t FewestPairs = 25;
 inline constexpr std::size_t MostPairs = 2000;
+
+inline bool IsEnough(std::size_t pairs, double spent)
+{
+    if (pairs >= FewestPairs)
+        return spent >= BudgetMilliseconds || pairs >= MostPairs;
+    return pairs >= FewestLongPairs && spent >= LongBudgetMilliseconds;
+}
 
 // The first pair warms up and does not count; afterwards the two take turns in going first. With prepare(), which is
 // not timed, there is no repeating: it precedes every single run.
@@ -61,7 +71,7 @@ PairedTimes RunInTurn(Operation operation, Floor floor, Prepare prepare = {})
         into.push_back(Milliseconds(timed, repeats));
     };
     double spent = 0;
-    while (times.floor.size() < FewestPairs || (spent < BudgetMilliseconds && times.floor.size() < MostPairs)) {
+    while (!IsEnough(times.floor.size(), spent)) {
         const bool operationFirst = times.floor.size() % 2 == 0;
         if (operationFirst)
             run(operation, times.operation);

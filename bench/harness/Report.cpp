@@ -93,6 +93,11 @@ void Report::Add(const Quantity& quantity)
     std::fflush(stdout);
 }
 
+double Median(const std::vector<double>& values)
+{
+    return QuartilesOf(values).median;
+}
+
 std::string Kilobytes(double bytes)
 {
     return Format("%.0f KB", bytes / 1024);

@@ -39,6 +39,8 @@ private:
     bool m_within = true;
 };
 
+[[nodiscard]] double Median(const std::vector<double>& values);
+
 // "380 KB"
 [[nodiscard]] std::string Kilobytes(double bytes);
 

@@ -1,0 +1,120 @@
+// Opening the main window on a large project, and showing another of its devices, beside the same with six devices.
+#include <afxwin.h>
+
+#include <commctrl.h>
+
+#include <chrono>
+
+#include "ProjectFolder.h"
+#include "Report.h"
+#include "main/ProjectStore.h"
+#include "modules/ModuleLoader.h"
+#include "resources/EditorIds.h"
+#include "window/MainWindow.h"
+
+namespace {
+
+using kzbench::ProjectFolder;
+using kzbench::Settings;
+
+CWinApp application;
+
+constexpr int Many = 10'000;
+constexpr int Few = 6;
+constexpr int Pairs = 5;
+constexpr int Shows = 20;
+
+void TakeMessages()
+{
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) && message.message != WM_QUIT)
+        ::DispatchMessageW(&message);
+}
+
+class OpenWindow {
+public:
+    OpenWindow(plant::Project& project, const ModuleLoader& modules) : m_window(project, modules)
+    {
+        m_window.Create();
+        Paint();
+    }
+    ~OpenWindow()
+    {
+        m_window.DestroyWindow();
+        TakeMessages();
+    }
+    OpenWindow(const OpenWindow&) = delete;
+    OpenWindow& operator=(const OpenWindow&) = delete;
+
+    void Press(WPARAM key)
+    {
+        ::SendMessageW(::GetDlgItem(m_window.m_hWnd, IDC_DEVICES), WM_KEYDOWN, key, 0);
+        Paint();
+    }
+
+private:
+    void Paint()
+    {
+        TakeMessages();
+        ::RedrawWindow(m_window.m_hWnd, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+
+    MainWindow m_window;
+};
+
+using Clock = std::chrono::steady_clock;
+
+double MillisecondsSince(Clock::time_point start)
+{
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+struct Sample {
+    double loading;
+    double opening;
+    double showing;  // of another device, near the end of the list
+};
+
+Sample Measure(const ProjectFolder& folder, const ModuleLoader& modules)
+{
+    Sample sample{};
+    auto start = Clock::now();
+    plant::Project project(folder.Path());
+    ProjectStore store(project, "window");
+    sample.loading = MillisecondsSince(start);
+
+    start = Clock::now();
+    OpenWindow window(project, modules);
+    window.Press(VK_DOWN);
+    sample.opening = MillisecondsSince(start);
+
+    window.Press(VK_END);
+    start = Clock::now();
+    for (int show = 0; show < Shows; ++show)
+        window.Press(show % 2 == 0 ? VK_UP : VK_DOWN);
+    sample.showing = MillisecondsSince(start) / Shows;
+    return sample;
+}
+
+}  // namespace
+
+int main()
+{
+    const ProjectFolder many(Many, Settings::All);
+    const ProjectFolder few(Few, Settings::All);
+    const ModuleLoader modules(ProgramFolder().parent_path() / "bin");
+    kzbench::PairedTimes opening;
+    kzbench::PairedTimes showing;
+    for (int pair = 0; pair < Pairs; ++pair) {
+        const Sample large = Measure(many, modules);
+        const Sample small = Measure(few, modules);
+        opening.operation.push_back(large.loading + large.opening);
+        opening.floor.push_back(large.loading + small.opening);
+        showing.operation.push_back(large.showing);
+        showing.floor.push_back(small.showing);
+    }
+    kzbench::Report report;
+    report.Add({"open the main window of 10⁴ devices, take a key", "load them, open the window of six", 1.30}, opening);
+    report.Add({"show another of 10⁴ devices", "another of six", 1.30}, showing);
+    return report.ExitCode();
+}
