@@ -47,7 +47,9 @@ std::wstring DeviceListView::Text(int row, int column) const
 
 void DeviceListView::GiveText(LVITEMW& item) const
 {
-    if ((item.mask & LVIF_TEXT) != 0)
+    // A question about what was just read anew comes before the list knows of it.
+    const bool isThere = item.iItem < static_cast<int>(m_pProject->Devices().size());
+    if ((item.mask & LVIF_TEXT) != 0 && isThere)
         ::lstrcpynW(item.pszText, Text(item.iItem, item.iSubItem).c_str(), item.cchTextMax);
 }
 

@@ -58,7 +58,7 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
 END_MESSAGE_MAP()
 
 MainWindow::MainWindow(plant::Project& project, const ModuleLoader& modules)
-    : m_project(project), m_modules(modules), m_drivers(project.Devices()), m_questions(*this)
+    : m_project(project), m_modules(modules), m_drivers(project.Devices()), m_questions(*this, project)
 {
     m_project.SetUser(&m_questions);
 }
@@ -151,6 +151,8 @@ void MainWindow::ShowDevice()
 {
     m_nShownRow = m_lstDevices.Selected();
     const KZDeviceIdentity* device = SelectedDevice();
+    if (device)
+        m_shownDevice = device->driverId;
     ShowChosenVariables();
     ShowSummary();
     SetDlgItemText(IDC_PANE_LABEL, device ? FormatEditorText(IDS_PANE_LABEL, device->name.c_str()).c_str()

@@ -79,6 +79,7 @@ private:
     bool SaveOrSayWhy();
     bool MayClose();
     void OfferRecoveries();
+    void TakeOver(plant::FoundRecovery& found);
     void LookForForeignChanges();
     void ShowProject();
 
@@ -105,8 +106,10 @@ private:
     SummaryView m_lstSummary;
     ChildPane m_pane;
     HACCEL m_hAccelerators = nullptr;
-    int m_nShownRow = -1;  // of the device that everything below the list is about
-    bool m_bRecoveriesOffered = false;
-    std::vector<std::string> m_refusedChanges;  // of other programs: the user keeps his own
-    bool m_bUnwanted = false;                   // what is not saved: the user has said so
+    int m_nShownRow = -1;                    // of the device that everything below the list is about
+    KZBasicString m_shownDevice;             // its driverId
+    bool m_bDamageTold = false;              // of what other editors have left
+    bool m_bRecoveriesOffered = false;       // all of them
+    plant::ForeignChanges m_refusedChanges;  // the user keeps his own
+    bool m_bUnwanted = false;                // what is not saved: the user has said so
 };

@@ -10,15 +10,21 @@
 bool MainWindow::SaveOrSayWhy()
 {
     auto outcome = plant::Project::Outcome::Cancelled;
+    std::wstring failure;
     try {
         outcome = m_project.Save("window");
     } catch (const plant::Refusal& refusal) {
-        AfxMessageBox(FormatEditorText(IDS_SAVE_FAILED, PlantMessage(refusal.What()).c_str()).c_str(),
-                      MB_OK | MB_ICONERROR);
+        failure = FormatEditorText(IDS_SAVE_FAILED, PlantMessage(refusal.What()).c_str());
     }
-    if (outcome == plant::Project::Outcome::TookTheirs)
+    // What has been taken from another program stays, also when the rest could not be saved.
+    if (outcome != plant::Project::Outcome::Done)
         ShowProject();
     ShowState();
+    if (!failure.empty())
+        AfxMessageBox(failure.c_str(), MB_OK | MB_ICONERROR);
+    // What other editors have left is offered while nothing is unsaved.
+    if (!m_bRecoveriesOffered && outcome == plant::Project::Outcome::Done)
+        PostMessage(WM_KZ_LOOK_AT_FILES);
     return outcome != plant::Project::Outcome::Cancelled;
 }
 
@@ -39,43 +45,72 @@ bool MainWindow::MayClose()
     }
 }
 
-// The project has been read anew.
+// The project has been read anew: the selected device may be in another place, or gone.
 void MainWindow::ShowProject()
 {
-    const int row = std::exchange(m_nShownRow, -1);
+    const bool focusGoes = ::IsChild(m_pane, ::GetFocus()) != FALSE;
+    m_nShownRow = -1;
     m_pane.ShowText({});  // the embedded dialog works on a driver
     m_drivers.Reset();
     m_lstDevices.Refresh();
-    const int last = static_cast<int>(m_project.Devices().size()) - 1;
-    m_lstDevices.Select(std::max(0, std::min(row, last)));
+    const plant::DeviceList& devices = m_project.Devices();
+    const auto shown = std::find_if(devices.begin(), devices.end(),
+                                    [this](const auto& device) { return device.driverId == m_shownDevice; });
+    m_lstDevices.Select(shown == devices.end() ? 0 : static_cast<int>(shown - devices.begin()));
     ShowDevice();
+    if (focusGoes)
+        m_lstDevices.SetFocus();
 }
 
+// One is taken over at a time: the next would take its place. It is offered when the first is saved.
 void MainWindow::OfferRecoveries()
 {
     plant::Recoveries recoveries = m_project.FindUnsaved();
-    for (const plant::Message& refused : recoveries.refused)
-        AfxMessageBox(PlantMessage(refused).c_str(), MB_OK | MB_ICONWARNING);
-    for (plant::FoundRecovery& found : recoveries.found) {
-        if (ProjectQuestions::OfferRecovery(m_project, found))
-            m_project.Recover(found);
-        else
-            plant::Discard(found);
+    if (!std::exchange(m_bDamageTold, true)) {
+        for (const plant::Message& refused : recoveries.refused)
+            AfxMessageBox(PlantMessage(refused).c_str(), MB_OK | MB_ICONWARNING);
     }
-    if (!recoveries.found.empty())
-        ShowProject();
+    for (plant::FoundRecovery& found : recoveries.found) {
+        switch (m_questions.OfferRecovery(found.unsaved, m_project.ChangedSince(found))) {
+        case ProjectQuestions::Offer::TakeOver:
+            TakeOver(found);
+            return;
+        case ProjectQuestions::Offer::ThrowAway:
+            plant::Discard(found);
+            break;
+        default:
+            return;
+        }
+    }
+    m_bRecoveriesOffered = true;
+}
+
+void MainWindow::TakeOver(plant::FoundRecovery& found)
+{
+    std::wstring failure;
+    try {
+        m_project.Recover(found);
+    } catch (const plant::Refusal& refusal) {
+        failure = PlantMessage(refusal.What());
+    }
+    ShowProject();
+    if (!failure.empty())
+        AfxMessageBox(failure.c_str(), MB_OK | MB_ICONERROR);
 }
 
 void MainWindow::LookForForeignChanges()
 {
-    const std::vector<std::string> changed = m_project.ForeignChanges();
-    if (changed.empty() || changed == m_refusedChanges)
+    plant::ForeignChanges changed = m_project.FindForeignChanges();
+    std::vector<std::string> unasked;
+    for (const auto& change : changed) {
+        const auto refused = m_refusedChanges.find(change.first);
+        if (refused == m_refusedChanges.end() || *refused != change)
+            unasked.push_back(change.first);
+    }
+    m_refusedChanges = std::move(changed);
+    if (unasked.empty() || !m_questions.AskToLoadAnew(unasked))
         return;
-    m_refusedChanges = changed;
-    if (!ProjectQuestions::AskToLoadAnew(m_project, changed))
-        return;
-    m_refusedChanges.clear();
-    m_project.TakeTheirs(changed);
+    m_project.TakeTheirs(unasked);
     ShowProject();
 }
 
@@ -93,7 +128,7 @@ LRESULT MainWindow::OnLookAtFiles(WPARAM, LPARAM)
     if (!IsWindowEnabled())
         return 0;
     try {
-        if (!std::exchange(m_bRecoveriesOffered, true))
+        if (!m_bRecoveriesOffered && !IsDirty())
             OfferRecoveries();
         LookForForeignChanges();
     } catch (const plant::Refusal& refusal) {
@@ -117,10 +152,13 @@ LRESULT MainWindow::OnQueryEndOfSession(WPARAM, LPARAM)
 // Another program may have kept the session from ending, so that what the user does not want may still be wanted.
 LRESULT MainWindow::OnEndOfSession(WPARAM wParam, LPARAM)
 {
+    const bool isUnwanted = std::exchange(m_bUnwanted, false);
     if (!wParam)
         return 0;
-    if (m_bUnwanted)
+    if (isUnwanted)
         m_project.Discard();
-    DestroyWindow();
+    // What a dialog in front of the window would do without it is nothing that anybody wants; Windows ends the program.
+    if (IsWindowEnabled())
+        DestroyWindow();
     return 0;
 }

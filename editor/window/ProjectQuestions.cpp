@@ -1,5 +1,6 @@
 #include "ProjectQuestions.h"
 
+#include <algorithm>
 #include <array>
 
 #include "KZUtf8.h"
@@ -8,21 +9,6 @@
 #include "text/PlantMessage.h"
 
 namespace {
-
-// Documents in the words of the user: the name of the device, where it is a device's.
-std::wstring Listed(const plant::Project& project, const std::vector<std::string>& documents)
-{
-    std::wstring list;
-    for (const std::string& document : documents) {
-        list += list.empty() ? L"" : L", ";
-        list += FromUtf8(document);
-        for (const KZDeviceIdentity& device : project.Devices()) {
-            if (plant::DeviceDocumentName(device.driverId) == document)
-                list.append(L" (").append(device.name.View()).append(L")");
-        }
-    }
-    return list;
-}
 
 // In the user's time zone and way of writing.
 std::wstring LocalTime(std::int64_t since1970)
@@ -43,9 +29,26 @@ std::wstring LocalTime(std::int64_t since1970)
 
 }  // namespace
 
+// Documents in the words of the user: with the name of the device, where it is a device's. Of many only the first.
+std::wstring ProjectQuestions::Listed(const std::vector<std::string>& documents) const
+{
+    constexpr std::size_t most = 10;
+    std::wstring list;
+    for (std::size_t index = 0; index < std::min(documents.size(), most); ++index) {
+        list.append(list.empty() ? L"" : L", ").append(FromUtf8(documents[index]));
+        for (const KZDeviceIdentity& device : m_project.Devices()) {
+            if (plant::DeviceDocumentName(device.driverId) == documents[index])
+                list.append(L" (").append(device.name.View()).append(L")");
+        }
+    }
+    if (documents.size() <= most)
+        return list;
+    return FormatEditorText(IDS_AND_MORE, list.c_str(), static_cast<int>(documents.size() - most));
+}
+
 plant::ProjectUser::Answer ProjectQuestions::AskAboutForeignChanges(const std::vector<std::string>& documents)
 {
-    const std::wstring question = FormatEditorText(IDS_ASK_FOREIGN, FromUtf8(plant::Joined(documents, ", ")).c_str());
+    const std::wstring question = FormatEditorText(IDS_ASK_FOREIGN, Listed(documents).c_str());
     switch (AfxMessageBox(question.c_str(), MB_YESNOCANCEL | MB_ICONWARNING | MB_DEFBUTTON3)) {
     case IDYES:
         return Answer::Overwrite;
@@ -69,19 +72,29 @@ void ProjectQuestions::TellUnprotected(const plant::Message& why) noexcept
     }
 }
 
-bool ProjectQuestions::AskToLoadAnew(const plant::Project& project, const std::vector<std::string>& documents)
+bool ProjectQuestions::AskToLoadAnew(const std::vector<std::string>& documents) const
 {
-    const unsigned text = project.IsDirty() ? IDS_FOREIGN_NOTICED_DIRTY : IDS_FOREIGN_NOTICED;
-    const std::wstring question = FormatEditorText(text, Listed(project, documents).c_str());
-    const UINT preset = project.IsDirty() ? MB_DEFBUTTON2 : MB_DEFBUTTON1;
-    return AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION | preset) == IDYES;
+    const bool loses = std::any_of(documents.begin(), documents.end(),
+                                   [this](const std::string& name) { return m_project.IsUnsaved(name); });
+    const std::wstring question =
+        FormatEditorText(loses ? IDS_FOREIGN_NOTICED_DIRTY : IDS_FOREIGN_NOTICED, Listed(documents).c_str());
+    return AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION | (loses ? MB_DEFBUTTON2 : MB_DEFBUTTON1)) ==
+           IDYES;
 }
 
-bool ProjectQuestions::OfferRecovery(plant::Project& project, const plant::FoundRecovery& found)
+ProjectQuestions::Offer ProjectQuestions::OfferRecovery(const plant::Unsaved& unsaved,
+                                                        const std::vector<std::string>& changedSince) const
 {
-    std::wstring question = FormatEditorText(IDS_OFFER_RECOVERY, LocalTime(found.unsaved.time).c_str(),
-                                             Listed(project, plant::NamesIn(found.unsaved.documents)).c_str());
-    if (const std::vector<std::string> changed = project.ChangedSince(found); !changed.empty())
-        question += FormatEditorText(IDS_OFFER_CHANGED_SINCE, Listed(project, changed).c_str());
-    return AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION) == IDYES;
+    std::wstring question = FormatEditorText(IDS_OFFER_RECOVERY, LocalTime(unsaved.time).c_str(),
+                                             Listed(plant::NamesIn(unsaved.documents)).c_str());
+    if (!changedSince.empty())
+        question += FormatEditorText(IDS_OFFER_CHANGED_SINCE, Listed(changedSince).c_str());
+    switch (AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION)) {
+    case IDYES:
+        return Offer::TakeOver;
+    case IDNO:
+        return Offer::ThrowAway;
+    default:  // the box went with its window
+        return Offer::Unanswered;
+    }
 }

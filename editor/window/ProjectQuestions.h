@@ -5,13 +5,15 @@
 
 #include "project/Project.h"
 
-// To the main window: tell the user what ProjectQuestions::TakeWarning gives.
+// To the main window: tell the user what ProjectQuestions::Warning gives.
 inline constexpr UINT WM_KZ_UNPROTECTED = WM_APP + 0x130;
 
 class ProjectQuestions : public plant::ProjectUser {
 public:
-    // The window that gets WM_KZ_UNPROTECTED; not owned.
-    explicit ProjectQuestions(const CWnd& window) noexcept : m_window(window) {}
+    // The window that gets WM_KZ_UNPROTECTED, and the project; not owned.
+    ProjectQuestions(const CWnd& window, const plant::Project& project) noexcept : m_window(window), m_project(project)
+    {
+    }
 
     Answer AskAboutForeignChanges(const std::vector<std::string>& documents) override;
     // The message may come out of the middle of a dialog's work, so the window is told later, and once for each reason.
@@ -19,12 +21,17 @@ public:
     [[nodiscard]] const std::wstring& Warning() const noexcept { return m_warning; }
 
     // Whether to load these documents anew. Without an answer of yes the user's own stay.
-    [[nodiscard]] static bool AskToLoadAnew(const plant::Project& project, const std::vector<std::string>& documents);
+    [[nodiscard]] bool AskToLoadAnew(const std::vector<std::string>& documents) const;
 
-    // Whether to take over what an editor left unsaved; no throws it away.
-    [[nodiscard]] static bool OfferRecovery(plant::Project& project, const plant::FoundRecovery& found);
+    enum class Offer { TakeOver, ThrowAway, Unanswered };
+    // Whether to take over what an editor left unsaved, of which some documents may have been changed since.
+    [[nodiscard]] Offer OfferRecovery(const plant::Unsaved& unsaved,
+                                      const std::vector<std::string>& changedSince) const;
 
 private:
+    [[nodiscard]] std::wstring Listed(const std::vector<std::string>& documents) const;
+
     const CWnd& m_window;
+    const plant::Project& m_project;
     std::wstring m_warning;
 };

@@ -37,7 +37,7 @@ Project::Project(const Path& folder, Disk& disk)
 {
     if (HasJournal(m_disk, m_folder))
         FinishCommit(m_disk, m_folder, ProjectLock(m_disk, m_folder));
-    Open(*KZMainCfg::Get(), ReadMain(), m_devices);
+    Open(*KZMainCfg::Get(), ReadMain(m_seen), m_devices);
     KZMainCfg::SetProjectFolder(KZBasicString(Shown(m_folder)));
     KZMainCfg::Get()->SetCommitListener(this);
 }
@@ -52,9 +52,9 @@ void Project::OnCommit(XmlDocument&) noexcept
     ProtectOrTell();
 }
 
-std::string Project::ReadMain()
+std::string Project::ReadMain(SeenDocuments& seen) const
 {
-    std::optional<std::string> bytes = m_seen.Read(Main);
+    std::optional<std::string> bytes = seen.Read(Main);
     if (!bytes)
         throw Refusal(IDS_PLANT_NO_MAIN, {Shown(m_folder / MainDocument)});
     return std::move(*bytes);
@@ -67,12 +67,18 @@ void Project::Open(XmlDocument& document, const std::string& bytes, DeviceList& 
     devices = ReadDevices(document, Shown(file));
 }
 
-// A document that is refused must not take the place of the one that is shown, hence the rehearsal.
-void Project::ReplaceMain(const std::string& bytes)
+DeviceList Project::Rehearse(const std::string& mainBytes) const
 {
     XmlDocument rehearsal(L"configuration");
     DeviceList devices;
-    Open(rehearsal, bytes, devices);
+    Open(rehearsal, mainBytes, devices);
+    return devices;
+}
+
+// A document that is refused must not take the place of the one that is shown, hence the rehearsal.
+void Project::ReplaceMain(const std::string& bytes)
+{
+    DeviceList devices = Rehearse(bytes);
     Parse(*KZMainCfg::Get(), bytes, m_folder / MainDocument);
     m_devices = std::move(devices);
 }
@@ -100,6 +106,11 @@ void Project::ReadDeviceDocument(const std::string& name, XmlDocument& document)
 bool Project::IsDirty() const noexcept
 {
     return KZMainCfg::Get()->IsDirty() || !m_pending.empty();
+}
+
+bool Project::IsUnsaved(const std::string& name) const noexcept
+{
+    return name == MainDocument ? KZMainCfg::Get()->IsDirty() : m_pending.contains(name);
 }
 
 Change Project::Waiting() const
@@ -231,13 +242,22 @@ void Project::ProtectOrTell() noexcept
 
 void Project::TakeTheirs(const std::vector<std::string>& documents)
 {
+    SeenDocuments seen = m_seen;
+    std::optional<std::string> main;
     for (const std::string& name : documents) {
-        if (name == MainDocument)
-            ReplaceMain(ReadMain());
-        else
-            m_seen.Read(name);
-        m_pending.erase(name);
+        if (name == MainDocument) {
+            main = ReadMain(seen);
+            continue;
+        }
+        XmlDocument rehearsal(L"device");
+        if (const std::optional<std::string> bytes = seen.Read(name); bytes && !bytes->empty())
+            Parse(rehearsal, *bytes, FileOf(m_folder, name));
     }
+    if (main)
+        ReplaceMain(*main);
+    m_seen = std::move(seen);
+    for (const std::string& name : documents)
+        m_pending.erase(name);
     ProtectOrTell();
 }
 
@@ -249,7 +269,23 @@ void Project::KeepMine(const std::vector<std::string>& documents)
 
 std::vector<HistoryEntry> Project::Entries()
 {
-    return m_history.Entries();
+    try {
+        return m_history.Entries();
+    } catch (const Refusal&) {
+        // Another program's save may have let go of an entry meanwhile. Whoever may only read has no lock to take.
+        const ProjectLock lock(m_disk, m_folder);
+        return m_history.Entries();
+    }
+}
+
+// A project that no editor can open would be out of reach of the next restore too.
+void Project::RequireOpenable(const std::string& mainBytes, int number) const
+{
+    try {
+        Rehearse(mainBytes);
+    } catch (const Refusal&) {
+        throw Refusal(IDS_PLANT_HISTORY_BROKEN, {std::to_wstring(number)});
+    }
 }
 
 Change Project::Restore(int number, bool dryRun)
@@ -257,11 +293,13 @@ Change Project::Restore(int number, bool dryRun)
     const ProjectLock lock(m_disk, m_folder);
     FinishCommit(m_disk, m_folder, lock);
     const Change change = m_history.Restoring(number);
+    if (const auto main = change.find(Main); main != change.end() && main->second)
+        RequireOpenable(*main->second, number);
     if (dryRun)
         return change;
     CommitUnderLock(lock, change, "restore");
     m_pending.clear();
-    ReplaceMain(ReadMain());
+    ReplaceMain(ReadMain(m_seen));
     ProtectOrTell();
     return change;
 }
@@ -280,15 +318,16 @@ std::vector<std::string> Project::ChangedSince(const FoundRecovery& found)
 void Project::Recover(FoundRecovery& found)
 {
     Change documents = found.unsaved.documents;
-    const auto main = documents.find(Main);
-    if (main != documents.end()) {
-        if (!main->second)
-            throw Refusal(IDS_PLANT_DAMAGED, {Shown(found.file)});
-        ReplaceMain(*main->second);
-        documents.erase(main);
-        KZMainCfg::Get()->SetDirty(true);
-    }
+    auto main = documents.extract(Main);
+    if (!main.empty() && !main.mapped())
+        throw Refusal(IDS_PLANT_DAMAGED, {Shown(found.file)});
+    // The user knows what has become of the documents since: only later changes are foreign.
+    KeepMine(NamesIn(found.unsaved.documents));
+    if (!main.empty())
+        ReplaceMain(*main.mapped());
     m_pending = std::move(documents);
+    if (!main.empty())
+        KZMainCfg::Get()->SetDirty(true);
     Protect();
     plant::Discard(found);
 }

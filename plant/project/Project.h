@@ -58,6 +58,8 @@ public:
     Outcome WriteDocument(const std::string& name, const XmlDocument& document, const std::string& cause);
 
     [[nodiscard]] bool IsDirty() const noexcept;
+    // Whether there are changes of this document that are not saved.
+    [[nodiscard]] bool IsUnsaved(const std::string& name) const noexcept;
     // Writes all that is not saved. On failure everything on disk is as it was and what was changed stays unsaved.
     Outcome Save(const std::string& cause);
     // What is not saved needs no protection any more: the user does not want it.
@@ -66,22 +68,25 @@ public:
     void Protect();
 
     // The documents, among those that were read, that another program has changed since.
-    [[nodiscard]] std::vector<std::string> ForeignChanges() { return m_seen.Changed(); }
-    // Reads these documents anew; what was changed in them here is gone.
+    [[nodiscard]] ForeignChanges FindForeignChanges() { return m_seen.Changed(); }
+    // Reads these documents anew; what was changed in them here is gone. Throws Refusal when one of them cannot be read
+    // or is broken; all is then as it was, and saving over them still asks.
     void TakeTheirs(const std::vector<std::string>& documents);
     // Saving overwrites these foreign changes without asking again.
     void KeepMine(const std::vector<std::string>& documents);
 
     [[nodiscard]] std::vector<HistoryEntry> Entries();
     // Brings every document back as it was before that save, which is itself a save; what is not saved is gone.
-    // Returns what it has changed; with dryRun it changes nothing.
+    // Returns what it has changed; with dryRun it changes nothing. Refuses a save whose main configuration document
+    // could not be opened afterwards.
     Change Restore(int number, bool dryRun);
 
     // What processes that are gone have left unsaved here.
     [[nodiscard]] Recoveries FindUnsaved() { return FindRecoveries(m_disk, m_folder); }
     // The documents of a find that somebody has changed since its owner read them.
     [[nodiscard]] std::vector<std::string> ChangedSince(const FoundRecovery& found);
-    // Takes over what was found, unsaved, in place of what is unsaved here; the file of the find is gone afterwards.
+    // Takes over what was found, unsaved; the file of the find is gone afterwards. Only while nothing is unsaved here,
+    // whose place it would take. Throws Refusal; the file is then still there.
     void Recover(FoundRecovery& found);
 
 private:
@@ -89,8 +94,10 @@ private:
     Outcome Write(Change change, const std::string& cause);
     [[nodiscard]] std::vector<std::string> ForeignIn(Change& change);
     void CommitUnderLock(const ProjectLock& lock, Change change, const std::string& cause);
-    [[nodiscard]] std::string ReadMain();
+    [[nodiscard]] std::string ReadMain(SeenDocuments& seen) const;
     void Open(XmlDocument& document, const std::string& bytes, DeviceList& devices) const;
+    DeviceList Rehearse(const std::string& mainBytes) const;
+    void RequireOpenable(const std::string& mainBytes, int number) const;
     void ReplaceMain(const std::string& bytes);
     void Written(const Change& documents) noexcept;
     void ProtectOrTell() noexcept;

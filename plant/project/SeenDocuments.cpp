@@ -48,20 +48,20 @@ std::optional<std::uint64_t> SeenDocuments::HashSeen(const std::string& name) co
     return seen == m_seen.end() ? std::nullopt : seen->second.hash;
 }
 
-bool SeenDocuments::HasChanged(const std::string& name, Seen& seen) const
+void SeenDocuments::LookAgain(const std::string& name, Seen& seen, ForeignChanges& changed) const
 {
     const Path file = FileOf(m_project, name);
     const auto found = m_disk->Find(file);
-    if (!found)
-        return seen.hash.has_value();
-    if (seen.settled && found->size == seen.size && found->time == seen.time)
-        return false;
+    if (!found && !seen.hash)
+        return;
+    if (found && seen.settled && found->size == seen.size && found->time == seen.time)
+        return;
     std::optional<std::string> bytes;
     const Seen now = Look(file, bytes);
-    if (now.hash != seen.hash)
-        return true;
-    seen = now;
-    return false;
+    if (now.hash == seen.hash)
+        seen = now;
+    else
+        changed[name] = now.hash;
 }
 
 bool SeenDocuments::Differs(const std::string& name, const std::optional<std::string>& bytes) const
@@ -72,13 +72,11 @@ bool SeenDocuments::Differs(const std::string& name, const std::optional<std::st
     return bytes ? seen->second.hash != HashOf(*bytes) : seen->second.hash.has_value();
 }
 
-std::vector<std::string> SeenDocuments::Changed()
+ForeignChanges SeenDocuments::Changed()
 {
-    std::vector<std::string> changed;
-    for (auto& [name, seen] : m_seen) {
-        if (HasChanged(name, seen))
-            changed.push_back(name);
-    }
+    ForeignChanges changed;
+    for (auto& [name, seen] : m_seen)
+        LookAgain(name, seen, changed);
     return changed;
 }
 

@@ -1,14 +1,17 @@
 // What the project's files were when they were last read or written, so that another program's changes are noticed.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "Disk.h"
 
 namespace plant {
+
+// Documents that another program has changed, with the hash of what they are now; nothing: they are gone.
+using ForeignChanges = std::map<std::string, std::optional<std::uint64_t>>;
 
 class SeenDocuments {
 public:
@@ -26,7 +29,7 @@ public:
     // not differ.
     [[nodiscard]] bool Differs(const std::string& name, const std::optional<std::string>& bytes) const;
     // The documents that have changed, of all that were seen.
-    [[nodiscard]] std::vector<std::string> Changed();
+    [[nodiscard]] ForeignChanges Changed();
 
 private:
     struct Seen {
@@ -36,7 +39,7 @@ private:
         bool settled = false;  // a later change would show in the time
     };
     [[nodiscard]] Seen Look(const Path& file, std::optional<std::string>& bytes) const;
-    [[nodiscard]] bool HasChanged(const std::string& name, Seen& seen) const;
+    void LookAgain(const std::string& name, Seen& seen, ForeignChanges& changed) const;
 
     Disk* m_disk;
     Path m_project;

@@ -20,6 +20,7 @@
 #define IDS_PLANT_HISTORY_CHANGED 3022   // %s: the kept document that is not what it was
 #define IDS_PLANT_NOT_A_FOLDER 3023      // %s: the link or file in the place of a folder
 #define IDS_PLANT_DOCUMENT_IS_LINK 3024  // %s: the document
+#define IDS_PLANT_HISTORY_BROKEN 3025    // %s: the number of the save
 
 #define IDS_PLANT_RECOVERY_TOO_LARGE 3030  // %s: the project's folder
 

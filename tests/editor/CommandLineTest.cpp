@@ -10,8 +10,8 @@ using editor_tests::DeviceXml;
 using editor_tests::EditorProcess;
 using editor_tests::EditorTest;
 using editor_tests::MainXml;
+using editor_tests::MessageOf;
 using editor_tests::Press;
-using editor_tests::TextOf;
 using editor_tests::WaitUntil;
 using testing::HasSubstr;
 
@@ -22,23 +22,6 @@ protected:
         const HWND box = editor.WindowTitled(title);
         ASSERT_NE(box, nullptr);
         Press(box, button);
-    }
-
-    // The text that a message box shows.
-    static std::wstring Message(HWND box)
-    {
-        std::wstring text;
-        ::EnumChildWindows(
-            box,
-            [](HWND child, LPARAM parameter) {
-                wchar_t name[16] = L"";
-                ::GetClassNameW(child, name, 16);
-                if (lstrcmpiW(name, L"Static") == 0 && !TextOf(child).empty())
-                    *reinterpret_cast<std::wstring*>(parameter) = TextOf(child);
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&text));
-        return text;
     }
 };
 
@@ -114,7 +97,7 @@ TEST_F(CommandLine, SelectHandsTheArgumentsOverAndPrintsTheListAsTheCallbackLeft
         {"select", "GRÚA.1", "--groups", "0x70", "--max", "3", "--list", "GRÚA.1.AI1N,X.HZIN", "--text", "¿Cuáles?"});
     const HWND box = editor.WindowTitled(L"test select");
     ASSERT_NE(box, nullptr);
-    EXPECT_EQ(Message(box), L"70|3|¿Cuáles?|GRÚA.1.AI1N|X.HZIN");
+    EXPECT_EQ(MessageOf(box), L"70|3|¿Cuáles?|GRÚA.1.AI1N|X.HZIN");
     Press(box, IDOK);
     EXPECT_EQ(editor.Wait(), 0);
     EXPECT_EQ(editor.Output(), "select: true\nvariable: GRÚA.1.HZIN\nvariable: GRÚA.1.VI1N\n");
@@ -127,7 +110,7 @@ TEST_F(CommandLine, SelectAsksForAllGroupsWithoutLimitUnlessToldAndKeepsTheListO
     EditorProcess& editor = Start({"select", "GRÚA.1", "--list", "A.B"});
     const HWND box = editor.WindowTitled(L"test select");
     ASSERT_NE(box, nullptr);
-    EXPECT_EQ(Message(box), L"3FFFFFFFF|0|(null)|A.B");
+    EXPECT_EQ(MessageOf(box), L"3FFFFFFFF|0|(null)|A.B");
     Press(box, IDCANCEL);
     EXPECT_EQ(editor.Wait(), 1);
     EXPECT_EQ(editor.Output(), "select: false\nvariable: A.B\n");

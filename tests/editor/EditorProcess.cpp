@@ -25,21 +25,35 @@ std::wstring Quoted(const std::string& argument)
     return L"\"" + FromUtf8(argument) + L"\"";
 }
 
-struct TitleSearch {
+struct WindowSearch {
     DWORD process;
-    const std::wstring* title;
-    HWND found;
+    std::function<bool(HWND)> matches;
+    HWND found = nullptr;
 };
 
-BOOL CALLBACK MatchTitle(HWND window, LPARAM parameter)
+BOOL CALLBACK Match(HWND window, LPARAM parameter)
 {
-    auto& search = *reinterpret_cast<TitleSearch*>(parameter);
+    auto& search = *reinterpret_cast<WindowSearch*>(parameter);
     DWORD process = 0;
     ::GetWindowThreadProcessId(window, &process);
-    if (process != search.process || !::IsWindowVisible(window) || TextOf(window) != *search.title)
+    if (process != search.process || !::IsWindowVisible(window) || !search.matches(window))
         return TRUE;
     search.found = window;
     return FALSE;
+}
+
+// The visible top-level window of the process that matches; null when there is none now.
+HWND FindWindowOf(DWORD process, std::function<bool(HWND)> matches)
+{
+    WindowSearch search{process, std::move(matches)};
+    ::EnumWindows(Match, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+HWND WaitForWindowOf(DWORD process, const std::function<bool(HWND)>& matches)
+{
+    HWND found = nullptr;
+    return WaitUntil([&] { return (found = FindWindowOf(process, matches)) != nullptr; }) ? found : nullptr;
 }
 
 // Memory in another process, for messages that Windows does not carry over.
@@ -90,6 +104,11 @@ EditorFolder::EditorFolder(const fs::path& folder) : m_folder(folder)
 fs::path EditorFolder::ModuleFile(const std::string& kind)
 {
     return BuildFolder() / "tests" / "editor_modules" / kind / "KZUsrZEP.dll";
+}
+
+void EditorFolder::AddRealModule() const
+{
+    fs::copy_file(BuildFolder() / "bin" / "KZUsrZEP.dll", m_folder / "KZUsrZEP.dll");
 }
 
 void EditorFolder::AddModule(const std::string& kind, const std::string& model) const
@@ -147,10 +166,8 @@ EditorProcess::EditorProcess(const EditorFolder& folder, const std::vector<std::
 
 EditorProcess::~EditorProcess()
 {
-    if (::WaitForSingleObject(m_process.hProcess, 0) == WAIT_TIMEOUT) {
-        ::TerminateProcess(m_process.hProcess, 99);
-        ::WaitForSingleObject(m_process.hProcess, INFINITE);
-    }
+    if (::WaitForSingleObject(m_process.hProcess, 0) == WAIT_TIMEOUT)
+        Kill();
     m_output.Close();
     m_errors.Close();
     ::CloseHandle(m_process.hThread);
@@ -171,12 +188,25 @@ int EditorProcess::Wait()
 
 HWND EditorProcess::WindowTitled(const std::wstring& title) const
 {
-    TitleSearch search{m_process.dwProcessId, &title, nullptr};
-    const bool appeared = WaitUntil([&] {
-        ::EnumWindows(MatchTitle, reinterpret_cast<LPARAM>(&search));
-        return search.found != nullptr;
+    return WaitForWindowOf(m_process.dwProcessId, [&](HWND window) { return TextOf(window) == title; });
+}
+
+bool EditorProcess::HasWindowTitled(const std::wstring& title) const
+{
+    return FindWindowOf(m_process.dwProcessId, [&](HWND window) { return TextOf(window) == title; }) != nullptr;
+}
+
+HWND EditorProcess::WindowWith(int control) const
+{
+    return WaitForWindowOf(m_process.dwProcessId, [&](HWND window) {
+        return ::IsWindowEnabled(window) && ::GetDlgItem(window, control) != nullptr;
     });
-    return appeared ? search.found : nullptr;
+}
+
+void EditorProcess::Kill()
+{
+    ::TerminateProcess(m_process.hProcess, 99);
+    ::WaitForSingleObject(m_process.hProcess, INFINITE);
 }
 
 std::wstring TextOf(HWND window)
@@ -186,6 +216,12 @@ std::wstring TextOf(HWND window)
     ::SendMessageTimeoutW(window, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG, 2000,
                           &length);
     return text;
+}
+
+std::wstring MessageOf(HWND box)
+{
+    constexpr int MessageText = 0xFFFF;
+    return TextOf(::GetDlgItem(box, MessageText));
 }
 
 void Press(HWND window, int id)

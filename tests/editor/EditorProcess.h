@@ -23,6 +23,8 @@ class EditorFolder {
 public:
     explicit EditorFolder(const std::filesystem::path& folder);
 
+    // Copies the real module.
+    void AddRealModule() const;
     // Copies one of the test modules ("ready", "noentry", "refusing") to KZUsr<model>.dll.
     void AddModule(const std::string& kind, const std::string& model = "ZEP") const;
     [[nodiscard]] const std::filesystem::path& Path() const noexcept { return m_folder; }
@@ -51,6 +53,12 @@ public:
 
     // The visible top-level window with this title; null when none appears in time.
     [[nodiscard]] HWND WindowTitled(const std::wstring& title) const;
+    // Whether there is one now.
+    [[nodiscard]] bool HasWindowTitled(const std::wstring& title) const;
+    // The top-level window that takes input and has a control of this id; null when none appears in time.
+    [[nodiscard]] HWND WindowWith(int control) const;
+    // Ends it as a failure of the computer would: nothing of its own runs any more.
+    void Kill();
     [[nodiscard]] HANDLE Process() const noexcept { return m_process.hProcess; }
 
 private:
@@ -72,6 +80,8 @@ private:
 
 // Text of a window or control of any process.
 [[nodiscard]] std::wstring TextOf(HWND window);
+// The text that a message box shows.
+[[nodiscard]] std::wstring MessageOf(HWND box);
 // Presses a button of the window by its id, without waiting for what it starts.
 void Press(HWND window, int id);
 // One cell of a report list of another process.
