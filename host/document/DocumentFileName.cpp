@@ -21,25 +21,12 @@ void AppendEscaped(std::wstring& text, unsigned char byte)
     text += Digits[byte & 0xF];
 }
 
-// Windows reserves these names whatever extension follows.
-bool IsReserved(std::wstring_view name)
-{
-    std::wstring stem(name.substr(0, name.find_first_of(L". ")));
-    std::transform(stem.begin(), stem.end(), stem.begin(),
-                   [](wchar_t c) { return std::towupper(static_cast<wint_t>(c)); });
-    constexpr std::wstring_view Devices[] = {L"CON", L"PRN", L"AUX", L"NUL"};
-    if (std::find(std::begin(Devices), std::end(Devices), stem) != std::end(Devices))
-        return true;
-    return stem.size() == 4 && (stem.starts_with(L"COM") || stem.starts_with(L"LPT")) && stem[3] >= L'0' &&
-           stem[3] <= L'9';
-}
-
 std::wstring StemFor(std::wstring_view name)
 {
     if (name.empty())
         return L"%";  // what no other name becomes
     std::wstring file;
-    bool escapeNext = IsReserved(name);
+    bool escapeNext = KZIsReservedFileName(name);
     while (!name.empty()) {
         const bool plain = IsPlain(name.front()) && !escapeNext;
         std::string bytes;
@@ -56,6 +43,18 @@ std::wstring StemFor(std::wstring_view name)
 }
 
 }  // namespace
+
+bool KZIsReservedFileName(std::wstring_view name)
+{
+    std::wstring stem(name.substr(0, name.find_first_of(L". ")));
+    std::transform(stem.begin(), stem.end(), stem.begin(),
+                   [](wchar_t c) { return std::towupper(static_cast<wint_t>(c)); });
+    constexpr std::wstring_view Devices[] = {L"CON", L"PRN", L"AUX", L"NUL"};
+    if (std::find(std::begin(Devices), std::end(Devices), stem) != std::end(Devices))
+        return true;
+    return stem.size() == 4 && (stem.starts_with(L"COM") || stem.starts_with(L"LPT")) && stem[3] >= L'0' &&
+           stem[3] <= L'9';
+}
 
 KZBasicString KZDocumentFileName(const KZBasicString& driverId)
 {

@@ -8,3 +8,6 @@
 // name that Windows reserves for a device ("CON"): no two ids share a name, case aside, which Windows' file names do
 // not tell apart either.
 [[nodiscard]] KZ_API KZBasicString KZDocumentFileName(const KZBasicString& driverId);
+
+// Whether Windows reserves a file name for a device, such as "CON", whatever extension it has.
+[[nodiscard]] KZ_API bool KZIsReservedFileName(std::wstring_view name);

@@ -30,7 +30,7 @@ constexpr unsigned char Folded(char character) noexcept
 
 }  // namespace
 
-bool IsDocumentName(std::string_view name) noexcept
+bool IsDocumentName(std::string_view name)
 {
     if (name == MainDocument)
         return true;
@@ -39,7 +39,7 @@ bool IsDocumentName(std::string_view name) noexcept
         return false;
     name.remove_prefix(DeviceFolder.size());
     return name.starts_with('/') && name.ends_with(Extension) && name.size() > 1 + Extension.size() &&
-           std::all_of(name.begin() + 1, name.end(), IsPlain);
+           std::all_of(name.begin() + 1, name.end(), IsPlain) && !KZIsReservedFileName(FromUtf8(name.substr(1)));
 }
 
 std::string DeviceDocumentName(const KZBasicString& driverId)

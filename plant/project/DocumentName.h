@@ -14,7 +14,7 @@ inline constexpr std::string_view DeviceFolder = "devices";
 
 // Whether a text that came from a file is such a name: it then stands for a file in the project's folder or in its
 // "devices", whatever the system makes of file names.
-[[nodiscard]] bool IsDocumentName(std::string_view name) noexcept;
+[[nodiscard]] bool IsDocumentName(std::string_view name);
 
 // The name of the document of a device.
 [[nodiscard]] std::string DeviceDocumentName(const KZBasicString& driverId);

@@ -147,7 +147,7 @@ TEST_F(Commits, KilledWhileTheyAreTakenBackLeaveNoMixture)
             WriteOld();
             FaultyDisk inner(RealDisk());
             inner.FailAt(failing);
-            FaultyDisk disk(inner);
+            FaultyDisk disk(static_cast<Disk&>(inner));
             disk.DieAt(dies);
             Refused([&] { Run(disk); });
             Finish();
@@ -196,7 +196,8 @@ TEST_F(Commits, RefuseAJournalThatNamesAnythingButDocuments)
 {
     LeaveJournal();
     for (const char* name : {"../main.xml", "devices/../../x.xml", "devices/a/b.xml", "devices\\x.xml", "/etc/x.xml",
-                             "C:x.xml", "main.xml:s", "devices/x.txt", "history/entry", "history/1/main.xml", ""})
+                             "C:x.xml", "main.xml:s", "devices/CON.xml", "devices/lpt1.a.xml", "devices/x.txt",
+                             "history/entry", "history/1/main.xml", ""})
         EXPECT_EQ(RefusedJournal(WriteJournal({{name, "1", 8, HashOf("new main")}})), IDS_PLANT_STRANGE_NAME) << name;
     for (const char* staged : {"../1", "journal", "1.old.old", "x", ".old"})
         EXPECT_EQ(RefusedJournal(WriteJournal({{"main.xml", staged, 8, HashOf("new main")}})), IDS_PLANT_STRANGE_NAME)

@@ -20,6 +20,8 @@ namespace kztest {
 class FaultyDisk : public plant::Disk {
 public:
     explicit FaultyDisk(plant::Disk& disk) noexcept : m_disk(disk) {}
+    FaultyDisk(const FaultyDisk&) = delete;
+    FaultyDisk& operator=(const FaultyDisk&) = delete;
 
     // Counts operations from now on; the one with that number, from 1, throws Refusal, and those behind it succeed.
     // What it was to write is half written. 0 lets all succeed.
