@@ -224,7 +224,7 @@ std::optional<SourceFault> CheckWellFormedness(std::string_view utf8)
     if (utf8.starts_with("\xEF\xBB\xBF"))
         return SourceFault{L"a second byte order mark stands here", 1, 1};
     // Nor is it for expat to take UTF-16 for what it is, which it tells by these bytes.
-    const auto ofUtf16 = [](unsigned char byte) { return byte == 0 || byte >= 0xFE; };
+    const auto ofUtf16 = [](char byte) { return byte == '\0' || byte == '\xFE' || byte == '\xFF'; };
     if (utf8.size() > 1 && (ofUtf16(utf8[0]) || ofUtf16(utf8[1])))
         return SourceFault{L"the text is not UTF-8", 1, 1};
     return Check().Run(utf8);
