@@ -14,7 +14,7 @@ void AddDevice(SummaryRows& rows, plant::Project& project, const KZBasicString& 
 {
     XmlDocument document(L"device");
     try {
-        project.ReadDeviceDocument(plant::DeviceDocumentName(driverId), document);
+        project.ReadDeviceToShow(plant::DeviceDocumentName(driverId), document);
         AddSettings(rows, *document.Root());
     } catch (const plant::Refusal& refusal) {
         rows.push_back(

@@ -67,6 +67,7 @@ void Project::Open(XmlDocument& document, const std::string& bytes, DeviceList& 
     devices = ReadDevices(document, Shown(file));
 }
 
+// A document that is refused must not take the place of the one that is shown.
 DeviceList Project::Rehearse(const std::string& mainBytes) const
 {
     XmlDocument rehearsal(L"configuration");
@@ -75,10 +76,16 @@ DeviceList Project::Rehearse(const std::string& mainBytes) const
     return devices;
 }
 
-// A document that is refused must not take the place of the one that is shown, hence the rehearsal.
-void Project::ReplaceMain(const std::string& bytes)
+void Project::RehearseDevice(const std::string& name, const std::optional<std::string>& bytes) const
 {
-    DeviceList devices = Rehearse(bytes);
+    XmlDocument rehearsal(L"device");
+    if (bytes && !bytes->empty())
+        Parse(rehearsal, *bytes, FileOf(m_folder, name));
+}
+
+// Without memory the document stays what it is.
+void Project::ReplaceMain(const std::string& bytes, DeviceList devices)
+{
     Parse(*KZMainCfg::Get(), bytes, m_folder / MainDocument);
     m_devices = std::move(devices);
 }
@@ -95,12 +102,27 @@ std::size_t Project::DeviceByName(std::wstring_view name) const
     throw Refusal(IDS_PLANT_NO_DEVICE, {std::wstring(name), Shown(m_folder / MainDocument), known});
 }
 
-void Project::ReadDeviceDocument(const std::string& name, XmlDocument& document)
+void Project::ReadDevice(const std::string& name, XmlDocument& document, SeenDocuments& seen) const
 {
     const auto pending = m_pending.find(name);
-    const std::optional<std::string> bytes = pending == m_pending.end() ? m_seen.Read(name) : pending->second;
+    const std::optional<std::string> bytes = pending == m_pending.end() ? seen.Read(name) : pending->second;
     if (bytes && !bytes->empty())
         Parse(document, *bytes, FileOf(m_folder, name));
+}
+
+void Project::ReadDeviceDocument(const std::string& name, XmlDocument& document)
+{
+    SeenDocuments seen(m_disk, m_folder);
+    ReadDevice(name, document, seen);
+    m_seen.Replace(std::move(seen));
+}
+
+// Who has the document open may have read an earlier content, and is asked before he writes over this one.
+void Project::ReadDeviceToShow(const std::string& name, XmlDocument& document)
+{
+    SeenDocuments seen(m_disk, m_folder);
+    ReadDevice(name, document, seen);
+    m_seen.Complete(std::move(seen));
 }
 
 bool Project::IsDirty() const noexcept
@@ -131,68 +153,91 @@ Project::Outcome Project::WriteDocument(const std::string& name, const XmlDocume
     return Write({{name, document.Serialize()}}, cause);
 }
 
-// Takes out of the change what the files hold already.
-// Returns the documents of the rest that another program has changed since they were read.
-std::vector<std::string> Project::ForeignIn(Change& change)
+Project::Outcome Project::Write(Change change, const std::string& cause)
 {
-    std::vector<std::string> foreign;
+    ForeignChanges overwritten;  // what the user lets go of
+    Theirs theirs{{}, SeenDocuments(m_disk, m_folder), {}, {}};
+    for (;;) {
+        const ForeignChanges foreign = WriteUnlessForeign(change, cause, overwritten);
+        if (foreign.empty())
+            break;
+        std::vector<std::string> names;
+        for (const auto& [name, hash] : foreign)
+            names.push_back(name);
+        if (!m_user)
+            throw Refusal(IDS_PLANT_FOREIGN_CHANGES, {FromUtf8(Joined(names, ", "))});
+        switch (m_user->AskAboutForeignChanges(names)) {
+        case ProjectUser::Answer::Overwrite:
+            for (const auto& [name, hash] : foreign)
+                overwritten[name] = hash;
+            break;
+        case ProjectUser::Answer::TakeTheirs:
+            for (const std::string& name : names)
+                change.erase(name);
+            names.insert(names.end(), theirs.names.begin(), theirs.names.end());
+            theirs = LookAt(names);
+            break;
+        default:
+            return Outcome::Cancelled;
+        }
+    }
+    if (theirs.names.empty())
+        return Outcome::Done;
+    Take(std::move(theirs));
+    return Outcome::TookTheirs;
+}
+
+// Writes nothing when another program has changed some of the documents since they were read, other than to what may be
+// overwritten, and returns these. Nobody waits for the lock while a person thinks.
+ForeignChanges Project::WriteUnlessForeign(const Change& change, const std::string& cause,
+                                           const ForeignChanges& overwritten)
+{
+    if (!change.empty()) {
+        const ProjectLock lock(m_disk, m_folder);
+        FinishCommit(m_disk, m_folder, lock);
+        Change differing = change;
+        ForeignChanges foreign = ForeignIn(differing, overwritten);
+        if (!foreign.empty())
+            return foreign;
+        CommitUnderLock(lock, std::move(differing), cause);
+    }
+    Written(change);
+    return {};
+}
+
+// Takes out of the change what the files hold already.
+ForeignChanges Project::ForeignIn(Change& change, const ForeignChanges& overwritten)
+{
+    ForeignChanges foreign;
     for (auto document = change.begin(); document != change.end();) {
-        const std::optional<std::string> bytes = m_disk.Read(FileOf(m_folder, document->first));
-        if (bytes == document->second) {
-            m_seen.Wrote(document->first, bytes);
+        const auto& [name, bytes] = *document;
+        const std::optional<std::string> present = m_disk.Read(FileOf(m_folder, name));
+        if (present == bytes) {
+            m_seen.Wrote(name, bytes);
             document = change.erase(document);
             continue;
         }
-        if (m_seen.Differs(document->first, bytes))
-            foreign.push_back(document->first);
+        const auto hash = DocumentHash(present);
+        const auto known = overwritten.find(name);
+        if (m_seen.Differs(name, hash) && (known == overwritten.end() || known->second != hash))
+            foreign[name] = hash;
         ++document;
     }
     return foreign;
-}
-
-Project::Outcome Project::Write(Change change, const std::string& cause)
-{
-    const Change whole = change;
-    std::vector<std::string> foreign;
-    {
-        const ProjectLock lock(m_disk, m_folder);
-        FinishCommit(m_disk, m_folder, lock);
-        foreign = ForeignIn(change);
-        if (foreign.empty()) {
-            CommitUnderLock(lock, std::move(change), cause);
-            Written(whole);
-            return Outcome::Done;
-        }
-    }
-    // Nobody waits for the lock while a person thinks.
-    if (!m_user)
-        throw Refusal(IDS_PLANT_FOREIGN_CHANGES, {FromUtf8(Joined(foreign, ", "))});
-    switch (m_user->AskAboutForeignChanges(foreign)) {
-    case ProjectUser::Answer::Overwrite:
-        KeepMine(foreign);
-        return Write(whole, cause);
-    case ProjectUser::Answer::TakeTheirs:
-        TakeTheirs(foreign);
-        for (const std::string& name : foreign)
-            change.erase(name);
-        return change.empty() || Write(std::move(change), cause) != Outcome::Cancelled ? Outcome::TookTheirs
-                                                                                       : Outcome::Cancelled;
-    default:
-        return Outcome::Cancelled;
-    }
 }
 
 void Project::CommitUnderLock(const ProjectLock& lock, Change change, const std::string& cause)
 {
     if (change.empty())
         return;
-    SeenDocuments seen = m_seen;
-    for (const auto& [name, bytes] : change)
-        seen.Wrote(name, bytes);
     History::NewEntry entry = m_history.Keep(cause, change);
-    change[entry.name] = std::move(entry.bytes);
-    Commit(m_disk, m_folder, lock, change);
-    m_seen = std::move(seen);
+    Change whole = change;
+    whole[entry.name] = std::move(entry.bytes);
+    for (const auto& [name, bytes] : change)
+        m_seen.WillWrite(name, bytes);
+    Commit(m_disk, m_folder, lock, whole);
+    for (const auto& [name, bytes] : change)
+        m_seen.Wrote(name, bytes);
     try {
         m_history.Prune();
     } catch (const std::exception&) {
@@ -219,52 +264,62 @@ void Project::Discard() noexcept
 
 void Project::Protect()
 {
-    Change waiting = Waiting();
+    Protect(Waiting(), m_seen);
+}
+
+void Project::Protect(Change waiting, const SeenDocuments& seen)
+{
     if (waiting.empty())
         return m_recovery.Remove();
     Unsaved unsaved{m_disk.Now(), std::move(waiting), {}};
     for (const auto& [name, bytes] : unsaved.documents)
-        unsaved.before[name] = m_seen.HashSeen(name);
+        unsaved.before[name] = seen.HashSeen(name);
     m_recovery.Store(unsaved);
 }
 
 void Project::ProtectOrTell() noexcept
 {
+    Message why{IDS_PLANT_NO_MEMORY, {}};
     try {
-        Protect();
-    } catch (const Refusal& refusal) {
-        if (m_user)
-            m_user->TellUnprotected(refusal.What());
+        try {
+            return Protect();
+        } catch (const Refusal& refusal) {
+            why = refusal.What();
+        }
     } catch (const std::exception&) {
-        // Without memory for the file there is none for a message: what is unsaved is what it was.
+        // The message for that needs no memory.
     }
+    if (m_user)
+        m_user->TellUnprotected(why);
 }
 
-void Project::TakeTheirs(const std::vector<std::string>& documents)
+Project::Theirs Project::LookAt(const std::vector<std::string>& documents) const
 {
-    SeenDocuments seen = m_seen;
-    std::optional<std::string> main;
+    Theirs theirs{documents, SeenDocuments(m_disk, m_folder), {}, {}};
     for (const std::string& name : documents) {
         if (name == MainDocument) {
-            main = ReadMain(seen);
-            continue;
+            theirs.main = ReadMain(theirs.seen);
+            theirs.devices = Rehearse(*theirs.main);
+        } else {
+            RehearseDevice(name, theirs.seen.Read(name));
         }
-        XmlDocument rehearsal(L"device");
-        if (const std::optional<std::string> bytes = seen.Read(name); bytes && !bytes->empty())
-            Parse(rehearsal, *bytes, FileOf(m_folder, name));
     }
-    if (main)
-        ReplaceMain(*main);
-    m_seen = std::move(seen);
-    for (const std::string& name : documents)
+    return theirs;
+}
+
+void Project::Take(Theirs theirs)
+{
+    if (theirs.main)
+        ReplaceMain(*theirs.main, std::move(theirs.devices));
+    m_seen.Replace(std::move(theirs.seen));
+    for (const std::string& name : theirs.names)
         m_pending.erase(name);
     ProtectOrTell();
 }
 
-void Project::KeepMine(const std::vector<std::string>& documents)
+void Project::TakeTheirs(const std::vector<std::string>& documents)
 {
-    for (const std::string& name : documents)
-        m_seen.Read(name);
+    Take(LookAt(documents));
 }
 
 std::vector<HistoryEntry> Project::Entries()
@@ -279,10 +334,10 @@ std::vector<HistoryEntry> Project::Entries()
 }
 
 // A project that no editor can open would be out of reach of the next restore too.
-void Project::RequireOpenable(const std::string& mainBytes, int number) const
+DeviceList Project::RequireOpenable(const std::string& mainBytes, int number) const
 {
     try {
-        Rehearse(mainBytes);
+        return Rehearse(mainBytes);
     } catch (const Refusal&) {
         throw Refusal(IDS_PLANT_HISTORY_BROKEN, {std::to_wstring(number)});
     }
@@ -293,24 +348,35 @@ Change Project::Restore(int number, bool dryRun)
     const ProjectLock lock(m_disk, m_folder);
     FinishCommit(m_disk, m_folder, lock);
     const Change change = m_history.Restoring(number);
-    if (const auto main = change.find(Main); main != change.end() && main->second)
-        RequireOpenable(*main->second, number);
+    const auto main = change.find(Main);
+    SeenDocuments seen(m_disk, m_folder);
+    // Without a document it is as one that is broken.
+    const std::string bytes = main == change.end() ? ReadMain(seen) : main->second.value_or("");
+    DeviceList devices = RequireOpenable(bytes, number);
     if (dryRun)
         return change;
     CommitUnderLock(lock, change, "restore");
     m_pending.clear();
-    ReplaceMain(ReadMain(m_seen));
+    try {
+        ReplaceMain(bytes, std::move(devices));
+    } catch (...) {
+        // What is shown is not what the file holds: saving over it asks.
+        m_seen.Forget(Main);
+        throw;
+    }
+    m_seen.Replace(std::move(seen));
     ProtectOrTell();
     return change;
 }
 
-std::vector<std::string> Project::ChangedSince(const FoundRecovery& found)
+std::vector<std::string> Project::ChangedSince(FoundRecovery& found)
 {
     std::vector<std::string> changed;
-    for (const auto& [name, hash] : found.unsaved.before) {
-        const std::optional<std::string> bytes = m_disk.Read(FileOf(m_folder, name));
-        if ((bytes ? std::optional(HashOf(*bytes)) : std::nullopt) != hash)
+    for (auto& [name, hash] : found.unsaved.before) {
+        const auto present = DocumentHash(m_disk.Read(FileOf(m_folder, name)));
+        if (present != hash)
             changed.push_back(name);
+        hash = present;
     }
     return changed;
 }
@@ -318,17 +384,30 @@ std::vector<std::string> Project::ChangedSince(const FoundRecovery& found)
 void Project::Recover(FoundRecovery& found)
 {
     Change documents = found.unsaved.documents;
-    auto main = documents.extract(Main);
-    if (!main.empty() && !main.mapped())
+    const auto main = documents.extract(Main);
+    if (main && !main.mapped())
         throw Refusal(IDS_PLANT_DAMAGED, {Shown(found.file)});
-    // The user knows what has become of the documents since: only later changes are foreign.
-    KeepMine(NamesIn(found.unsaved.documents));
-    if (!main.empty())
-        ReplaceMain(*main.mapped());
+    DeviceList devices = main ? Rehearse(*main.mapped()) : DeviceList{};
+    for (const auto& [name, bytes] : documents)
+        RehearseDevice(name, bytes);
+    documents.merge(Change(m_pending));
+    SeenDocuments seen = m_seen;
+    for (const auto& [name, hash] : found.unsaved.before)
+        seen.Assume(name, hash);
+    Change waiting = found.unsaved.documents;
+    waiting.merge(Waiting());
+    Protect(std::move(waiting), seen);
+    try {
+        if (main)
+            ReplaceMain(*main.mapped(), std::move(devices));
+    } catch (...) {
+        ProtectOrTell();
+        throw;
+    }
     m_pending = std::move(documents);
-    if (!main.empty())
+    m_seen = std::move(seen);
+    if (main)
         KZMainCfg::Get()->SetDirty(true);
-    Protect();
     plant::Discard(found);
 }
 

@@ -52,9 +52,12 @@ public:
     // Reads a device's document as it is now, saved or not, into one with the root element "device". A document that is
     // missing or empty is that of a device that nobody has set up yet: it leaves the document as it is. Throws Refusal.
     void ReadDeviceDocument(const std::string& name, XmlDocument& document);
+    // The same for somebody who will not write it.
+    void ReadDeviceToShow(const std::string& name, XmlDocument& document);
 
     enum class Outcome { Done, TookTheirs, Cancelled };
-    // Writes a document at once. The cause is for the history: the command, or "window".
+    // Writes a document at once; what else is not saved stays so. The cause is for the history: the command, or
+    // "window". On failure everything on disk is as it was.
     Outcome WriteDocument(const std::string& name, const XmlDocument& document, const std::string& cause);
 
     [[nodiscard]] bool IsDirty() const noexcept;
@@ -70,37 +73,51 @@ public:
     // The documents, among those that were read, that another program has changed since.
     [[nodiscard]] ForeignChanges FindForeignChanges() { return m_seen.Changed(); }
     // Reads these documents anew; what was changed in them here is gone. Throws Refusal when one of them cannot be read
-    // or is broken; all is then as it was, and saving over them still asks.
+    // or is broken; all is then as it was, and saving over them asks.
     void TakeTheirs(const std::vector<std::string>& documents);
-    // Saving overwrites these foreign changes without asking again.
-    void KeepMine(const std::vector<std::string>& documents);
 
     [[nodiscard]] std::vector<HistoryEntry> Entries();
     // Brings every document back as it was before that save, which is itself a save; what is not saved is gone.
-    // Returns what it has changed; with dryRun it changes nothing. Refuses a save whose main configuration document
-    // could not be opened afterwards.
+    // Returns what it has changed; with dryRun it changes nothing. Refuses a save before which the main configuration
+    // document could not have been opened.
     Change Restore(int number, bool dryRun);
 
     // What processes that are gone have left unsaved here.
     [[nodiscard]] Recoveries FindUnsaved() { return FindRecoveries(m_disk, m_folder); }
-    // The documents of a find that somebody has changed since its owner read them.
-    [[nodiscard]] std::vector<std::string> ChangedSince(const FoundRecovery& found);
-    // Takes over what was found, unsaved; the file of the find is gone afterwards. Only while nothing is unsaved here,
-    // whose place it would take. Throws Refusal; the file is then still there.
+    // The documents of a find that somebody has changed since its owner read them, or since this was asked before:
+    // saving what was found does not ask about these again.
+    [[nodiscard]] std::vector<std::string> ChangedSince(FoundRecovery& found);
+    // Takes over what was found, unsaved, in place of what is unsaved here of the same documents; the file of the find
+    // is gone afterwards. Throws Refusal; the file is then still there, and nothing has changed here.
     void Recover(FoundRecovery& found);
 
 private:
-    [[nodiscard]] Change Waiting() const;
-    Outcome Write(Change change, const std::string& cause);
-    [[nodiscard]] std::vector<std::string> ForeignIn(Change& change);
-    void CommitUnderLock(const ProjectLock& lock, Change change, const std::string& cause);
+    // Documents as another program has written them, read and found in order.
+    struct Theirs {
+        std::vector<std::string> names;
+        SeenDocuments seen;
+        std::optional<std::string> main;
+        DeviceList devices;
+    };
+
     [[nodiscard]] std::string ReadMain(SeenDocuments& seen) const;
     void Open(XmlDocument& document, const std::string& bytes, DeviceList& devices) const;
-    DeviceList Rehearse(const std::string& mainBytes) const;
-    void RequireOpenable(const std::string& mainBytes, int number) const;
-    void ReplaceMain(const std::string& bytes);
+    [[nodiscard]] DeviceList Rehearse(const std::string& mainBytes) const;
+    [[nodiscard]] DeviceList RequireOpenable(const std::string& mainBytes, int number) const;
+    void RehearseDevice(const std::string& name, const std::optional<std::string>& bytes) const;
+    void ReplaceMain(const std::string& bytes, DeviceList devices);
+    void ReadDevice(const std::string& name, XmlDocument& document, SeenDocuments& seen) const;
+    [[nodiscard]] Change Waiting() const;
+    Outcome Write(Change change, const std::string& cause);
+    [[nodiscard]] ForeignChanges WriteUnlessForeign(const Change& change, const std::string& cause,
+                                                    const ForeignChanges& overwritten);
+    [[nodiscard]] ForeignChanges ForeignIn(Change& change, const ForeignChanges& overwritten);
+    void CommitUnderLock(const ProjectLock& lock, Change change, const std::string& cause);
     void Written(const Change& documents) noexcept;
+    void Protect(Change waiting, const SeenDocuments& seen);
     void ProtectOrTell() noexcept;
+    [[nodiscard]] Theirs LookAt(const std::vector<std::string>& documents) const;
+    void Take(Theirs theirs);
     void OnCommit(XmlDocument& document) noexcept override;
 
     Disk& m_disk;

@@ -12,6 +12,11 @@ constexpr std::int64_t Unsettled = 2 * 10'000'000;
 
 }  // namespace
 
+std::optional<std::uint64_t> DocumentHash(const std::optional<std::string>& bytes) noexcept
+{
+    return bytes ? std::optional(HashOf(*bytes)) : std::nullopt;
+}
+
 SeenDocuments::Seen SeenDocuments::Look(const Path& file, std::optional<std::string>& bytes) const
 {
     Seen seen;
@@ -22,8 +27,7 @@ SeenDocuments::Seen SeenDocuments::Look(const Path& file, std::optional<std::str
         seen.settled = m_disk->Now() - found->time > Unsettled;
     }
     bytes = m_disk->Read(file);
-    if (bytes)
-        seen.hash = HashOf(*bytes);
+    seen.hash = DocumentHash(bytes);
     return seen;
 }
 
@@ -36,10 +40,35 @@ std::optional<std::string> SeenDocuments::Read(const std::string& name)
 
 void SeenDocuments::Wrote(const std::string& name, const std::optional<std::string>& bytes)
 {
+    Assume(name, DocumentHash(bytes));
+}
+
+void SeenDocuments::WillWrite(const std::string& name, const std::optional<std::string>& bytes)
+{
+    m_seen[name].begun = DocumentHash(bytes);
+}
+
+void SeenDocuments::Assume(const std::string& name, const std::optional<std::uint64_t>& hash)
+{
     Seen& seen = m_seen[name];
     seen = {};
-    if (bytes)
-        seen.hash = HashOf(*bytes);
+    seen.hash = hash;
+}
+
+void SeenDocuments::Forget(const std::string& name) noexcept
+{
+    m_seen.erase(name);
+}
+
+void SeenDocuments::Replace(SeenDocuments newer) noexcept
+{
+    newer.m_seen.merge(m_seen);
+    m_seen.swap(newer.m_seen);
+}
+
+void SeenDocuments::Complete(SeenDocuments others) noexcept
+{
+    m_seen.merge(others.m_seen);
 }
 
 std::optional<std::uint64_t> SeenDocuments::HashSeen(const std::string& name) const
@@ -52,24 +81,24 @@ void SeenDocuments::LookAgain(const std::string& name, Seen& seen, ForeignChange
 {
     const Path file = FileOf(m_project, name);
     const auto found = m_disk->Find(file);
-    if (!found && !seen.hash)
+    if (!found && seen.Is(std::nullopt))
         return;
     if (found && seen.settled && found->size == seen.size && found->time == seen.time)
         return;
     std::optional<std::string> bytes;
-    const Seen now = Look(file, bytes);
-    if (now.hash == seen.hash)
-        seen = now;
-    else
+    Seen now = Look(file, bytes);
+    if (!seen.Is(now.hash)) {
         changed[name] = now.hash;
+        return;
+    }
+    now.begun = seen.begun;
+    seen = now;
 }
 
-bool SeenDocuments::Differs(const std::string& name, const std::optional<std::string>& bytes) const
+bool SeenDocuments::Differs(const std::string& name, const std::optional<std::uint64_t>& hash) const
 {
     const auto seen = m_seen.find(name);
-    if (seen == m_seen.end())
-        return false;
-    return bytes ? seen->second.hash != HashOf(*bytes) : seen->second.hash.has_value();
+    return seen == m_seen.end() ? hash.has_value() : !seen->second.Is(hash);
 }
 
 ForeignChanges SeenDocuments::Changed()

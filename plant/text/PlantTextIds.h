@@ -14,6 +14,7 @@
 #define IDS_PLANT_STRANGE_NAME 3011     // %s %s: the file, the name in it
 #define IDS_PLANT_HALF_DONE 3012        // %s: the journal
 #define IDS_PLANT_FOREIGN_CHANGES 3013  // %s: the documents
+#define IDS_PLANT_NO_MEMORY 3014
 
 #define IDS_PLANT_HISTORY_EMPTY 3020     // %s: the folder of the history
 #define IDS_PLANT_HISTORY_NO_ENTRY 3021  // %s %s %s: the number asked for, the lowest and the highest that there is
