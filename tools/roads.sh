@@ -126,6 +126,23 @@ click_close_box() {
   desktop_die "no window to close: $1"
 }
 
+# kill_editor: as a failure of the computer would
+kill_editor() {
+  pkill -KILL -P "$desktop_editor"
+  { wait "$desktop_editor" || true; } 2> /dev/null  # bash would report the kill
+  window_gone "$main_title"
+}
+
+# other_program SED_SCRIPT: another program comes to the front, changes main.xml, and gives way to the editor again
+other_program() {
+  "${wine_pin[@]}" wine "$desktop_bin/KZEditor.exe" --project "$project" options TREN1 > "$desktop_folder/other" 2>&1 &
+  local other=$!
+  window ' - TREN1'
+  sed -i "$1" "$project/main.xml"
+  click ' - TREN1' $IDCANCEL
+  wait "$other" || true
+}
+
 close_editor() {
   key alt+F4
   editor_ended

@@ -39,6 +39,9 @@ steps=(
   "refused           A limit beyond the range is refused"
   "harmonic_limits   Limits of the harmonics of the net side"
   "saved             Back in the main window; everything is saved"
+  "unsaved           An editor that was ended before it saved: the next one offers the changes"
+  "noticed           Another program has changed the project meanwhile"
+  "foreign           Saving over that change asks"
   "maximum           Asked for two variables at most, the dialog refuses the third"
   "spanish           The same dialog in Spanish"
 )
@@ -47,7 +50,7 @@ steps=(
 declare -A documented=(
   [plant]=editor [hub]=options [settings]=device-settings [confirmation]=question [units]=units [limits]=limits-powers
   [refused]=refused [harmonic_limits]=limits-harmonics [single_boxes]=selection-general [whole_row]=selection-power
-  [by_keyboard]=selection-harmonics
+  [by_keyboard]=selection-harmonics [unsaved]=unsaved [noticed]=changed-elsewhere [foreign]=save-over
 )
 
 step_plant() {
@@ -116,7 +119,34 @@ step_saved() {
   close_dialog "$dialog" $IDOK
   save_project
 }
+remove_first_variable() {
+  click "$main_title" $IDC_CHOSEN
+  until_control "$main_title" $IDC_CHOSEN focused
+  key Home Delete
+}
+step_unsaved() {
+  remove_first_variable
+  until_control "$main_title" $IDC_CHOSEN ITEMS=10
+  kill_editor
+  editor --project "$project"
+  until_control "$message_title" $IDYES shown
+}
+step_noticed() {
+  answer $IDYES
+  save_project
+  other_program 's/Planta de Sagunto/Planta de Sagunto, nave norte/'
+  until_control "$message_title" $IDYES shown
+}
+step_foreign() {
+  answer $IDNO
+  remove_first_variable
+  until_control "$main_title" $IDC_CHOSEN ITEMS=9
+  click "$main_title" $IDC_SAVE
+  until_control "$message_title" $IDCANCEL shown
+}
 step_maximum() {
+  answer $IDNO
+  until_control "$main_title" $IDC_CHOSEN ITEMS=10
   close_editor
   printed 'The exit status of the window' "$editor_status"
   open_command PINTURA select PINTURA --max 2

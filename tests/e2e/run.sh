@@ -15,6 +15,7 @@ desktop_probe=$build/tools/WindowProbe.exe
 . "$root/tests/e2e/settings.sh"
 . "$root/tests/e2e/units.sh"
 . "$root/tests/e2e/limits.sh"
+. "$root/tests/e2e/project.sh"
 
 project=$desktop_folder/plant
 pictures=$build/e2e/$test.$language

@@ -13,6 +13,7 @@
 #include "Controls.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
+#include "TemporaryFolder.h"
 #include "modules/ModuleLoader.h"
 #include "project/Project.h"
 #include "resources/EditorIds.h"
@@ -66,7 +67,16 @@ protected:
         }
     }
 
-    plant::Project m_project{std::filesystem::path(KZ_EXAMPLES) / "plant"};
+    // A copy, since a project that is changed leaves its unsaved changes beside it.
+    [[nodiscard]] std::filesystem::path CopyOfThePlant() const
+    {
+        std::filesystem::copy(std::filesystem::path(KZ_EXAMPLES) / "plant", m_copied.Path() / "plant",
+                              std::filesystem::copy_options::recursive);
+        return m_copied.Path() / "plant";
+    }
+
+    kztest::TemporaryFolder m_copied;
+    plant::Project m_project{CopyOfThePlant()};
     ModuleLoader m_modules{ProgramFolder().parent_path() / "bin"};
 };
 
