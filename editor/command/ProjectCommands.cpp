@@ -52,8 +52,8 @@ ExitStatus RestoreSave(const Arguments& arguments)
 {
     const plant::Change change = OpenProject(arguments)->Restore(arguments.saveNumber, arguments.dryRun);
     for (const auto& [name, bytes] : change)
-        PrintLine((bytes ? "back: " : "out: ") + name);
-    return ExitTrue;
+        PrintLine(name + (bytes ? "\trestored" : "\tremoved"));
+    return change.empty() ? ExitFalse : ExitTrue;
 }
 
 ExitStatus RecoverUnsaved(const Arguments& arguments)
@@ -61,7 +61,6 @@ ExitStatus RecoverUnsaved(const Arguments& arguments)
     plant::Project project(arguments.project);
     plant::Recoveries recoveries = project.FindUnsaved();
     for (plant::FoundRecovery& found : recoveries.found) {
-        const std::string names = plant::Joined(plant::NamesIn(found.unsaved.documents), ",");
         if (arguments.discard) {
             plant::Discard(found);
         } else {
@@ -72,7 +71,8 @@ ExitStatus RecoverUnsaved(const Arguments& arguments)
             project.Recover(found);
             project.Save("recover");
         }
-        PrintLine((arguments.discard ? "discarded: " : "recovered: ") + names);
+        for (const auto& [name, bytes] : found.unsaved.documents)
+            PrintLine(name + (arguments.discard ? "\tdiscarded" : "\trecovered"));
     }
     if (!recoveries.refused.empty())
         throw EditorError(PlantMessage(recoveries.refused.front()));

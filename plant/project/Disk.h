@@ -42,6 +42,8 @@ public:
 
     // Writes a file that is not there yet, to the disk itself. When it fails, a part may be left.
     virtual void Write(const Path& file, std::string_view bytes) = 0;
+    // The same without waiting for the disk: a power failure may take the file. For what is checked before it is used.
+    virtual void WriteLoosely(const Path& file, std::string_view bytes) = 0;
     // Moves a file to another name in one step, over the file of that name if there is one.
     virtual void Move(const Path& from, const Path& to) = 0;
     // Gives a file a second name, or a copy of that name where the file system knows no second names.

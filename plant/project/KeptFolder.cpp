@@ -46,7 +46,7 @@ void KeptFolder::Store(const std::string& name, const std::string& bytes, bool i
     if (isReplaced)
         m_disk.Link(FileOf(m_project, name), copy);
     else
-        m_disk.Write(copy, bytes);
+        m_disk.WriteLoosely(copy, bytes);
 }
 
 }  // namespace plant

@@ -1,5 +1,6 @@
 #include <array>
 #include <chrono>
+#include <fstream>
 
 #include "Disk.h"
 #include "DocumentName.h"
@@ -131,6 +132,15 @@ public:
         CheckLength(file);
         KZSystemFile created = KZSystemFile::Create(file, Usual);
         Check(created.IsOpen() && created.Write(bytes) && created.Close(), file);
+    }
+
+    void WriteLoosely(const Path& file, std::string_view bytes) override
+    {
+        CheckLength(file);
+        std::ofstream stream(file, std::ios::binary | std::ios::trunc);
+        stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        stream.close();
+        Check(stream.good(), file);
     }
 
     void Move(const Path& from, const Path& to) override

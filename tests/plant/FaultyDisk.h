@@ -54,6 +54,14 @@ public:
         Require(step, file);
         m_disk.Write(file, bytes);
     }
+    void WriteLoosely(const plant::Path& file, std::string_view bytes) override
+    {
+        const Step step = Next();
+        if (step == Step::Fails)
+            m_disk.WriteLoosely(file, bytes.substr(0, bytes.size() / 2));
+        Require(step, file);
+        m_disk.WriteLoosely(file, bytes);
+    }
     void Move(const plant::Path& from, const plant::Path& to) override
     {
         Check(to);
