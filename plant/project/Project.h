@@ -29,7 +29,7 @@ protected:
     ~ProjectUser() = default;
 };
 
-class Project : private KZCommitListener {
+class Project final : private KZCommitListener {
 public:
     // Opens DIR/main.xml as the process's main configuration document, so there is one project per process. What a
     // killed process has left of a save is carried out first.
