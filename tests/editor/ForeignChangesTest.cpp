@@ -161,7 +161,7 @@ TEST_F(ForeignChanges, TheDeviceDialogStaysOnCancelAndCanWriteLater)
 {
     const HWND dialog = ConfirmDeviceSettings();
     AnswerBox(IDCANCEL);
-    EXPECT_THAT(AnswerBox(IDOK), HasSubstr("you have cancelled"));
+    EXPECT_THAT(AnswerBox(IDOK), HasSubstr("You have cancelled"));
     EXPECT_EQ(m_folder.Read(DeviceFile), Theirs);
     ASSERT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(dialog) != FALSE; }));
     Press(dialog, IDOK);
