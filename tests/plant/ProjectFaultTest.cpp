@@ -6,6 +6,7 @@
 #include "ProjectFixture.h"
 #include "project/Commit.h"
 #ifndef _WIN32
+#include "Endurance.h"
 #include "FailingMemory.h"
 #endif
 
@@ -182,10 +183,10 @@ protected:
     }
 
     // Arms the fault of a number and returns how many points there were, once disarmed.
-    void Walk(const std::function<void(long)>& arm, const std::function<long()>& disarm, bool sameProcess)
+    void Walk(const std::function<void(long)>& arm, const std::function<long()>& disarm, bool sameProcess, int step = 1)
     {
         long failures = 0;
-        for (long number = 1;; ++number) {
+        for (long number = 1;; number += step) {
             Prepare();
             ASSERT_TRUE(m_found.found.size() == 1 && m_project->IsDirty());
             arm(number);
@@ -237,6 +238,12 @@ TEST_P(FaultyProject, IsOldOrNewWhereverItsProcessEnds)
 
 #ifndef _WIN32
 
+// The test run takes a sample: a full walk takes a minute and more.
+int Step()
+{
+    return endurance::IsLong() ? 1 : 23;
+}
+
 long DisarmMemory()
 {
     const long allocations = CountAllocations();
@@ -246,17 +253,17 @@ long DisarmMemory()
 
 TEST_P(FaultyProject, IsOldOrNewWhereverMemoryRunsOut)
 {
-    Walk(FailAllocation, DisarmMemory, false);
+    Walk(FailAllocation, DisarmMemory, false, Step());
 }
 
 TEST_P(FaultyProject, GoesOnWhereverMemoryRanOut)
 {
-    Walk(FailAllocation, DisarmMemory, true);
+    Walk(FailAllocation, DisarmMemory, true, Step());
 }
 
 TEST_P(FaultyProject, GoesOnWhereverMemoryRanOutForGood)
 {
-    Walk(FailAllocationsFrom, DisarmMemory, true);
+    Walk(FailAllocationsFrom, DisarmMemory, true, Step());
 }
 
 #endif

@@ -280,7 +280,7 @@ private:
 
 TEST_F(TwoEditors, LoseNoUpdateWithoutAQuestion)
 {
-    const long steps = endurance::Rounds(400, 100'000);
+    const long steps = endurance::Rounds(400, 20'000);
     const std::uint64_t seed = endurance::Seed();
     Begin(seed);
     for (long step = 0; step < steps; ++step) {
