@@ -62,8 +62,11 @@ void SeenDocuments::Forget(const std::string& name) noexcept
 
 void SeenDocuments::Replace(SeenDocuments newer) noexcept
 {
-    newer.m_seen.merge(m_seen);
-    m_seen.swap(newer.m_seen);
+    while (!newer.m_seen.empty()) {
+        const auto inserted = m_seen.insert(newer.m_seen.extract(newer.m_seen.begin()));
+        if (!inserted.inserted)
+            inserted.position->second = inserted.node.mapped();
+    }
 }
 
 void SeenDocuments::Complete(SeenDocuments others) noexcept
