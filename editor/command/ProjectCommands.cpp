@@ -22,9 +22,9 @@ void TellOfUnsaved(plant::Project& project)
 
 }  // namespace
 
-std::unique_ptr<plant::Project> OpenProject(const Arguments& arguments)
+std::unique_ptr<plant::Project> OpenProject(const Arguments& arguments, plant::Project::MainIs main)
 {
-    auto project = std::make_unique<plant::Project>(arguments.project);
+    auto project = std::make_unique<plant::Project>(arguments.project, plant::RealDisk(), main);
     TellOfUnsaved(*project);
     return project;
 }
@@ -42,7 +42,8 @@ ExitStatus ListDevices(const Arguments& arguments)
 
 ExitStatus ListHistory(const Arguments& arguments)
 {
-    for (const plant::HistoryEntry& entry : OpenProject(arguments)->Entries())
+    // The history is most needed when main.xml cannot be opened.
+    for (const plant::HistoryEntry& entry : OpenProject(arguments, plant::Project::MainIs::NotNeeded)->Entries())
         PrintLine(std::to_string(entry.number) + '\t' + entry.time + '\t' + entry.cause + '\t' +
                   plant::Joined(entry.documents, ","));
     return ExitTrue;
@@ -50,7 +51,8 @@ ExitStatus ListHistory(const Arguments& arguments)
 
 ExitStatus RestoreSave(const Arguments& arguments)
 {
-    const plant::Change change = OpenProject(arguments)->Restore(arguments.saveNumber, arguments.dryRun);
+    const std::unique_ptr<plant::Project> project = OpenProject(arguments, plant::Project::MainIs::NotNeeded);
+    const plant::Change change = project->Restore(arguments.saveNumber, arguments.dryRun);
     for (const auto& [name, bytes] : change)
         PrintLine(name + (bytes ? "\trestored" : "\tremoved"));
     return change.empty() ? ExitFalse : ExitTrue;

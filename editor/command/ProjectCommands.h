@@ -8,7 +8,8 @@
 
 // Opens the project of a command. When editors that are gone have left unsaved changes in it, a line on standard error
 // says so. Throws plant::Refusal.
-[[nodiscard]] std::unique_ptr<plant::Project> OpenProject(const Arguments& arguments);
+[[nodiscard]] std::unique_ptr<plant::Project> OpenProject(const Arguments& arguments,
+                                                          plant::Project::MainIs main = plant::Project::MainIs::Needed);
 
 // All of them throw plant::Refusal when the command cannot be carried out.
 [[nodiscard]] ExitStatus ListDevices(const Arguments& arguments);

@@ -29,13 +29,18 @@ void Parse(XmlDocument& document, const std::string& bytes, const Path& file)
 
 }  // namespace
 
-Project::Project(const Path& folder, Disk& disk)
+Project::Project(const Path& folder, Disk& disk, MainIs main)
     : m_disk(disk), m_folder(ExistingFolder(folder)), m_name(Shown(m_folder.filename())), m_seen(disk, m_folder),
       m_history(disk, m_folder), m_recovery(disk, m_folder)
 {
     if (HasJournal(m_disk, m_folder))
         FinishCommit(m_disk, m_folder, ProjectLock(m_disk, m_folder));
-    Open(*KZMainCfg::Get(), ReadMain(m_seen), m_devices);
+    try {
+        Open(*KZMainCfg::Get(), ReadMain(m_seen), m_devices);
+    } catch (const Refusal&) {
+        if (main == MainIs::Needed)
+            throw;
+    }
     KZMainCfg::SetProjectFolder(KZBasicString(Shown(m_folder)));
     KZMainCfg::Get()->SetCommitListener(this);
 }

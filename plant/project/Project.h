@@ -33,8 +33,10 @@ class Project final : private KZCommitListener {
 public:
     // Opens DIR/main.xml as the process's main configuration document, so there is one project per process. What a
     // killed process has left of a save is carried out first.
-    // Throws Refusal when the folder or the document is missing, broken, or lists devices that cannot be told apart.
-    explicit Project(const Path& folder, Disk& disk = RealDisk());
+    // Throws Refusal when the folder is missing, and when the document is missing, broken, or lists devices that cannot
+    // be told apart; where it is not needed, since the history is to bring it back, there are no devices then.
+    enum class MainIs { Needed, NotNeeded };
+    explicit Project(const Path& folder, Disk& disk = RealDisk(), MainIs main = MainIs::Needed);
     ~Project();
     Project(const Project&) = delete;
     Project& operator=(const Project&) = delete;

@@ -174,6 +174,22 @@ TEST_F(ProjectCommands, RestoreRefusesAProjectThatCouldNotBeOpened)
     EXPECT_EQ(ProjectFiles(), before);
 }
 
+TEST_F(ProjectCommands, RestoreMendsAProjectThatCannotBeOpened)
+{
+    const std::string first = Main();
+    RunOptions("GRÚA.1");
+    for (const char* broken :
+         {"<configuration><broken>", "<configuration><devices><device/></devices></configuration>"}) {
+        m_folder.Write("plant/main.xml", broken);
+        EXPECT_FALSE(Run({"history"}).empty()) << broken;
+        EXPECT_THAT(Run({"restore", "1"}), ElementsAre("main.xml\trestored")) << broken;
+        EXPECT_EQ(Main(), first) << broken;
+    }
+    fs::remove(m_folder.Path() / "plant" / "main.xml");
+    EXPECT_THAT(Run({"restore", "1"}), ElementsAre("main.xml\trestored"));
+    EXPECT_EQ(Main(), first);
+}
+
 TEST_F(ProjectCommands, AHistoryThatCannotBeWrittenRefusesTheSave)
 {
     const std::string main = Main();
