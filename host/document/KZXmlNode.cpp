@@ -26,8 +26,6 @@ XmlDocument::XmlNode::XmlNode(XmlDocument& document, void* element) noexcept : m
 {
 }
 
-XmlDocument::XmlNode::~XmlNode() = default;
-
 XmlDocument::XmlNode* XmlDocument::XmlNode::Wrap(void* element) const
 {
     State& state = *m_document->m_state;

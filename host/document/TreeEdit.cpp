@@ -24,7 +24,7 @@ bool IsAllowed(wchar_t character) noexcept
 
 bool IsPieceOf(std::wstring_view text, std::wstring_view whole) noexcept
 {
-    constexpr std::less_equal<const wchar_t*> inOrder;
+    constexpr std::less_equal<> inOrder;
     return inOrder(whole.data(), text.data()) && inOrder(text.data(), whole.data() + whole.size());
 }
 

@@ -70,7 +70,7 @@ public:
 
         XmlNode(const XmlNode&) = delete;
         XmlNode& operator=(const XmlNode&) = delete;
-        ~XmlNode();
+        ~XmlNode() = default;
 
     private:
         friend class XmlDocument;

@@ -16,7 +16,7 @@ public:
 class CPoint : public POINT {
 public:
     constexpr CPoint() noexcept : POINT{0, 0} {}
-    constexpr CPoint(int initX, int initY) noexcept : POINT{initX, initY} {}
+    constexpr CPoint(int initX, int initY) noexcept : CPoint(POINT{initX, initY}) {}
     constexpr CPoint(POINT initPt) noexcept : POINT(initPt) {}
     explicit CPoint(LPARAM dwPoint) noexcept
         : POINT{static_cast<short>(LOWORD(dwPoint)), static_cast<short>(HIWORD(dwPoint))}
