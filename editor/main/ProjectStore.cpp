@@ -10,7 +10,7 @@ namespace {
 
 std::string NameOf(const KZBasicString& fileName)
 {
-    return std::string(plant::DeviceFolder) + '/' + ToUtf8(fileName.View());
+    return plant::DeviceDocumentOfFile(ToUtf8(fileName.View()));
 }
 
 }  // namespace

@@ -49,6 +49,17 @@ private:
 
 }  // namespace
 
+bool KZSystemFile::ReadToEnd(std::string& bytes)
+{
+    std::array<char, 65536> block;
+    for (;;) {
+        const std::optional<std::size_t> read = Read(block);
+        if (!read || *read == 0)
+            return read.has_value();
+        bytes.append(block.data(), *read);
+    }
+}
+
 FileOutcome ReadWholeFile(const fs::path& file, std::string& bytes)
 {
     std::error_code ignored;
@@ -58,15 +69,9 @@ FileOutcome ReadWholeFile(const fs::path& file, std::string& bytes)
     if (!source.IsOpen())
         return {KZFileReason(KZLastFileError())};
     bytes.clear();
-    std::array<char, 65536> block;
-    for (;;) {
-        const std::optional<std::size_t> read = source.Read(block);
-        if (!read)
-            return {KZFileReason(KZLastFileError())};
-        if (*read == 0)
-            return {};
-        bytes.append(block.data(), *read);
-    }
+    if (!source.ReadToEnd(bytes))
+        return {KZFileReason(KZLastFileError())};
+    return {};
 }
 
 FileOutcome ReplaceFileSafely(const fs::path& file, std::string_view bytes)

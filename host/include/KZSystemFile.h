@@ -43,6 +43,8 @@ public:
     [[nodiscard]] bool IsOpen() const noexcept { return m_handle != None; }
     // Returns how many bytes it has read, 0 at the end of the file, nothing on failure.
     [[nodiscard]] std::optional<std::size_t> Read(std::span<char> block) noexcept;
+    // Appends all that is left of the file.
+    [[nodiscard]] bool ReadToEnd(std::string& bytes);
     // Reads and writes go on from there, in bytes from the start of the file.
     [[nodiscard]] bool Seek(std::uint64_t place) noexcept;
     // Writes all the bytes, to the disk itself.

@@ -15,6 +15,10 @@ namespace plant {
 
 using Path = std::filesystem::path;
 
+// How coarse the times of files may be, in 100 ns: those of FAT disks are. What was written so shortly before it was
+// read may be written again without a later time.
+inline constexpr std::int64_t CoarsestTick = 20'000'000;
+
 // A file that nobody else can open until this object is gone, or its process.
 class HeldFile {
 public:

@@ -43,9 +43,8 @@ DocumentFiles DocumentFilesIn(Disk& disk, const Path& folder)
         }
     }
     if (hasDevices) {
-        const std::string devices = std::string(DeviceFolder) + '/';
         for (const KZFileEntry& entry : disk.List(folder / DeviceFolder))
-            Add(files, devices + DocumentNameOf(NameOf(entry.name)), entry);
+            Add(files, DeviceDocumentOfFile(DocumentNameOf(NameOf(entry.name))), entry);
     }
     return files;
 }

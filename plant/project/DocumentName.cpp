@@ -44,7 +44,12 @@ bool IsDocumentName(std::string_view name)
 
 std::string DeviceDocumentName(const KZBasicString& driverId)
 {
-    return std::string(DeviceFolder) + '/' + ToUtf8(KZDocumentFileName(driverId).View());
+    return DeviceDocumentOfFile(ToUtf8(KZDocumentFileName(driverId).View()));
+}
+
+std::string DeviceDocumentOfFile(std::string_view fileName)
+{
+    return std::string(DeviceFolder).append("/").append(fileName);
 }
 
 bool NameLess::operator()(std::string_view a, std::string_view b) const noexcept

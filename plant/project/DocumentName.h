@@ -16,8 +16,9 @@ inline constexpr std::string_view DeviceFolder = "devices";
 // "devices", whatever the system makes of file names.
 [[nodiscard]] bool IsDocumentName(std::string_view name);
 
-// The name of the document of a device.
+// The name of the document of a device, and of the document that a file in "devices" is.
 [[nodiscard]] std::string DeviceDocumentName(const KZBasicString& driverId);
+[[nodiscard]] std::string DeviceDocumentOfFile(std::string_view fileName);
 
 // An order of names in which those that stand for the same file are equal: on Windows "devices/A.xml" and
 // "devices/a.xml" are.

@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "DocumentFiles.h"
+#include "Sealed.h"
 #include "text/Refusal.h"
 
 namespace plant {
@@ -39,6 +40,14 @@ HistoryFolders::HistoryFolders(Disk& disk, const Path& project) : m_disk(disk), 
 std::string HistoryFolders::NameOfEntry(int number)
 {
     return std::string(HistoryName) + '/' + NumberName(number) + '/' + std::string(EntryFile);
+}
+
+bool HistoryFolders::IsNameOfEntry(std::string_view name)
+{
+    const auto folder = TakeUpTo(name, '/');
+    const auto number = TakeUpTo(name, '/');
+    const std::optional<int> entry = number ? NumberOf(*number) : std::nullopt;
+    return folder == HistoryName && entry.value_or(Base) != Base && name == EntryFile;
 }
 
 Path HistoryFolders::Of(int number) const

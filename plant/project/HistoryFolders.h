@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Disk.h"
@@ -25,6 +26,7 @@ public:
     [[nodiscard]] Path EntryOf(int number) const;
     // "history/000012/entry", relative to the project.
     [[nodiscard]] static std::string NameOfEntry(int number);
+    [[nodiscard]] static bool IsNameOfEntry(std::string_view name);
 
     struct Found {
         std::vector<int> numbers;              // of all folders, the lowest first

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "DocumentName.h"
+#include "HistoryFolders.h"
 #include "KZUtf8.h"
 #include "Sealed.h"
 #include "text/Refusal.h"
@@ -31,17 +32,6 @@ std::optional<JournalStep> ReadStep(std::string_view& body)
 
 }  // namespace
 
-bool IsEntryName(std::string_view name) noexcept
-{
-    constexpr std::string_view folder = "history/";
-    constexpr std::string_view entry = "/entry";
-    if (!name.starts_with(folder) || !name.ends_with(entry) || name.size() < folder.size() + entry.size())
-        return false;
-    name.remove_prefix(folder.size());
-    name.remove_suffix(entry.size());
-    return AreDigits(name);
-}
-
 bool IsStagedName(std::string_view name) noexcept
 {
     constexpr std::string_view old = ".old";
@@ -68,7 +58,7 @@ Journal ReadJournal(std::string_view bytes, const std::wstring& file)
         const std::optional<JournalStep> step = ReadStep(*body);
         if (!step)
             throw Refusal(IDS_PLANT_DAMAGED, {file});
-        if (!IsDocumentName(step->target) && !IsEntryName(step->target))
+        if (!IsDocumentName(step->target) && !HistoryFolders::IsNameOfEntry(step->target))
             throw Refusal(IDS_PLANT_STRANGE_NAME, {file, FromUtf8(step->target)});
         if (!step->staged.empty() && !IsStagedName(step->staged))
             throw Refusal(IDS_PLANT_STRANGE_NAME, {file, FromUtf8(step->staged)});

@@ -27,8 +27,6 @@ using Journal = std::vector<JournalStep>;
 // documents, entries of the history and staged files.
 [[nodiscard]] Journal ReadJournal(std::string_view bytes, const std::wstring& file);
 
-// "history/000012/entry"
-[[nodiscard]] bool IsEntryName(std::string_view name) noexcept;
 // "12" and "12.old", as a commit names what it stages.
 [[nodiscard]] bool IsStagedName(std::string_view name) noexcept;
 

@@ -19,9 +19,7 @@ KeptFolder::KeptFolder(Disk& disk, const Path& project, Path folder, const Manif
 
 std::optional<KeptDocument> KeptFolder::Keep(const std::string& name, const KZFileEntry& file, bool isReplaced)
 {
-    // A file can be written again within one tick of the clock; the coarsest are those of FAT disks.
-    constexpr std::int64_t tick = 20'000'000;
-    const bool mayChangeUnseen = isReplaced || file.time > m_start - tick;
+    const bool mayChangeUnseen = isReplaced || file.time > m_start - CoarsestTick;
     const std::int64_t time = mayChangeUnseen ? 0 : std::max<std::int64_t>(file.time, 0);
 
     const auto found = m_before.project.find(name);

@@ -1,4 +1,3 @@
-#include <array>
 #include <chrono>
 #include <fstream>
 
@@ -61,14 +60,8 @@ void CheckLength([[maybe_unused]] const Path& file)
 std::string ReadToEnd(KZSystemFile& open, const Path& file)
 {
     std::string bytes;
-    std::array<char, 65536> block;
-    for (;;) {
-        const std::optional<std::size_t> read = open.Read(block);
-        Check(read.has_value(), file);
-        if (*read == 0)
-            return bytes;
-        bytes.append(block.data(), *read);
-    }
+    Check(open.ReadToEnd(bytes), file);
+    return bytes;
 }
 
 // For everybody, less what the process's mask takes away.

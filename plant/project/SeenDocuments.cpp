@@ -5,13 +5,6 @@
 
 namespace plant {
 
-namespace {
-
-// The clocks of files tick slowly: what was written a moment before it was read may be written again in the same tick.
-constexpr std::int64_t Unsettled = 2 * 10'000'000;
-
-}  // namespace
-
 std::optional<std::uint64_t> DocumentHash(const std::optional<std::string>& bytes) noexcept
 {
     return bytes ? std::optional(HashOf(*bytes)) : std::nullopt;
@@ -24,7 +17,7 @@ SeenDocuments::Seen SeenDocuments::Look(const Path& file, std::optional<std::str
     if (const auto found = m_disk->Find(file)) {
         seen.size = found->size;
         seen.time = found->time;
-        seen.settled = m_disk->Now() - found->time > Unsettled;
+        seen.settled = m_disk->Now() - found->time > CoarsestTick;
     }
     bytes = m_disk->Read(file);
     seen.hash = DocumentHash(bytes);

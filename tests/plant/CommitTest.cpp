@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <stdexcept>
 
 #include "FaultyDisk.h"
 #include "ProjectFiles.h"
+#include "RefusalOf.h"
 #include "project/Journal.h"
 #include "project/Sealed.h"
 #ifndef _WIN32
@@ -20,6 +20,7 @@ namespace {
 using kztest::FaultyDisk;
 using kztest::Files;
 using kztest::FilesIn;
+using kztest::Refused;
 
 // A project with one document that a change replaces, one that it takes out, one that it makes and one that it leaves.
 class Commits : public testing::Test {
@@ -45,16 +46,6 @@ protected:
         Files files = FilesIn(m_folder.Path());
         std::erase_if(files, [](const auto& file) { return !IsDocumentName(file.first); });
         return files;
-    }
-    // The text id of what the operation refuses; 0 when it refuses nothing.
-    static unsigned Refused(const std::function<void()>& operation)
-    {
-        try {
-            operation();
-        } catch (const Refusal& refusal) {
-            return refusal.What().text;
-        }
-        return 0;
     }
     // Leaves the staged files and the journal of a process that was killed behind its journal. Returns the number of
     // the operation that it did not come to.
@@ -200,9 +191,10 @@ TEST_F(Commits, RefuseAJournalOfWhichAnyByteWasChanged)
 TEST_F(Commits, RefuseAJournalThatNamesAnythingButDocuments)
 {
     LeaveJournal();
-    for (const char* name : {"../main.xml", "devices/../../x.xml", "devices/a/b.xml", "devices\\x.xml", "/etc/x.xml",
-                             "C:x.xml", "main.xml:s", "devices/CON.xml", "devices/lpt1.a.xml", "devices/x.txt",
-                             "history/entry", "history/1/main.xml", ""})
+    for (const char* name :
+         {"../main.xml", "devices/../../x.xml", "devices/a/b.xml", "devices\\x.xml", "/etc/x.xml", "C:x.xml",
+          "main.xml:s", "devices/CON.xml", "devices/lpt1.a.xml", "devices/x.txt", "history/entry", "history/1/main.xml",
+          "history/1/entry", "history/000000/entry", "history/000001/entry/x", ""})
         EXPECT_EQ(RefusedJournal(WriteJournal({{name, "1", 8, HashOf("new main")}})), IDS_PLANT_STRANGE_NAME) << name;
     for (const char* staged : {"../1", "journal", "1.old.old", "x", ".old"})
         EXPECT_EQ(RefusedJournal(WriteJournal({{"main.xml", staged, 8, HashOf("new main")}})), IDS_PLANT_STRANGE_NAME)

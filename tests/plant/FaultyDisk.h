@@ -46,21 +46,10 @@ public:
         Check(folder);
         return m_disk.List(folder);
     }
-    void Write(const plant::Path& file, std::string_view bytes) override
-    {
-        const Step step = Next();
-        if (step == Step::Fails)
-            m_disk.Write(file, bytes.substr(0, bytes.size() / 2));
-        Require(step, file);
-        m_disk.Write(file, bytes);
-    }
+    void Write(const plant::Path& file, std::string_view bytes) override { Put(&plant::Disk::Write, file, bytes); }
     void WriteLoosely(const plant::Path& file, std::string_view bytes) override
     {
-        const Step step = Next();
-        if (step == Step::Fails)
-            m_disk.WriteLoosely(file, bytes.substr(0, bytes.size() / 2));
-        Require(step, file);
-        m_disk.WriteLoosely(file, bytes);
+        Put(&plant::Disk::WriteLoosely, file, bytes);
     }
     void Move(const plant::Path& from, const plant::Path& to) override
     {
@@ -143,6 +132,15 @@ private:
             throw plant::Refusal(IDS_PLANT_FILE_FAILED, {plant::Shown(file), L"it fails in this test"});
     }
     void Check(const plant::Path& file) { Require(Next(), file); }
+    void Put(void (plant::Disk::*write)(const plant::Path&, std::string_view), const plant::Path& file,
+             std::string_view bytes)
+    {
+        const Step step = Next();
+        if (step == Step::Fails)
+            (m_disk.*write)(file, bytes.substr(0, bytes.size() / 2));
+        Require(step, file);
+        (m_disk.*write)(file, bytes);
+    }
 
     plant::Disk& m_disk;
     long m_failing = 0;

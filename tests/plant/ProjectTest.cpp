@@ -14,15 +14,12 @@ using kztest::DeviceText;
 using kztest::Files;
 using kztest::MainText;
 using kztest::RefusalOf;
+using kztest::Refused;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 class ProjectTest : public kztest::ProjectFixture {
 protected:
-    unsigned Refused(const auto& operation)
-    {
-        return RefusalOf([&] { return operation(), 0; }).text;
-    }
     unsigned RefusedOpening()
     {
         return Refused([this] { Open(); });

@@ -118,7 +118,8 @@ protected:
         if (expected)
             EXPECT_EQ(ReadRecovery(file, File), expected) << "byte " << place;
         else
-            EXPECT_EQ(MessageOf([&] { (void)ReadRecovery(file, File); }), (Message{IDS_PLANT_DAMAGED, {Shown(File)}}))
+            EXPECT_EQ(kztest::RefusalOf([&] { (void)ReadRecovery(file, File); }),
+                      (Message{IDS_PLANT_DAMAGED, {Shown(File)}}))
                 << "byte " << place;
     }
 
@@ -172,7 +173,7 @@ std::string Forged(std::string_view data)
 
 unsigned RefusalOf(const std::string& file)
 {
-    const Message message = MessageOf([&] { (void)ReadRecovery(file, File); });
+    const Message message = kztest::RefusalOf([&] { (void)ReadRecovery(file, File); });
     EXPECT_EQ(message.arguments.at(0), Shown(File));
     return message.text;
 }
@@ -205,11 +206,11 @@ TEST(ForgedRecovery, IsRefusedWhenItNamesWhatIsNoDocument)
                                    "devices/a/b.xml", "", "devices/x.xml:stream"}) {
         const std::string file = Forged("1\n- - " + name + "\n");
         EXPECT_EQ(RefusalOf(file), unsigned{IDS_PLANT_STRANGE_NAME}) << name;
-        EXPECT_EQ(MessageOf([&] { (void)ReadRecovery(file, File); }).arguments.at(1),
+        EXPECT_EQ(kztest::RefusalOf([&] { (void)ReadRecovery(file, File); }).arguments.at(1),
                   std::wstring(name.begin(), name.end()));
     }
     const Message message =
-        MessageOf([] { (void)ReadRecovery(Forged("1\n- - " + std::string(9999, 'x') + "\n"), File); });
+        kztest::RefusalOf([] { (void)ReadRecovery(Forged("1\n- - " + std::string(9999, 'x') + "\n"), File); });
     EXPECT_EQ(message.arguments.at(1), std::wstring(255, L'x')) << "nobody reads more";
 }
 

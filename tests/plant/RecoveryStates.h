@@ -1,10 +1,9 @@
 // What the tests of recovery files store, and what they find.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <string>
 
+#include "RefusalOf.h"
 #include "project/DocumentName.h"
 #include "project/Recovery.h"
 #include "project/Sealed.h"
@@ -28,18 +27,6 @@ namespace plant {
         unsaved.before[device] = static_cast<std::uint64_t>(number);
     }
     return unsaved;
-}
-
-// The message of what is refused.
-[[nodiscard]] inline Message MessageOf(const auto& operation)
-{
-    try {
-        operation();
-    } catch (const Refusal& refusal) {
-        return refusal.What();
-    }
-    ADD_FAILURE() << "nothing was refused";
-    return {};
 }
 
 inline bool operator==(const Message& a, const Message& b)

@@ -209,7 +209,7 @@ TEST_F(Recovery, RefusesToStoreWhatIsNoDocument)
     RecoveryFile file(RealDisk(), m_folder.Path());
     Unsaved unsaved = StateOf(1);
     unsaved.documents["../main.xml"] = "";
-    EXPECT_EQ(MessageOf([&] { file.Store(unsaved); }),
+    EXPECT_EQ(kztest::RefusalOf([&] { file.Store(unsaved); }),
               (Message{IDS_PLANT_STRANGE_NAME, {Shown(m_folder.Path()), L"../main.xml"}}));
     EXPECT_EQ(m_folder.Count(), 0U);
 }
@@ -221,11 +221,11 @@ TEST_F(Recovery, RefusesToStoreMoreThanCanBeReadBack)
     const Message tooLarge{IDS_PLANT_RECOVERY_TOO_LARGE, {Shown(m_folder.Path())}};
     Unsaved unsaved = StateOf(2);
     unsaved.documents["main.xml"] = std::string(KZLargestDocument + 1, 'x');
-    EXPECT_EQ(MessageOf([&] { file.Store(unsaved); }), tooLarge);
+    EXPECT_EQ(kztest::RefusalOf([&] { file.Store(unsaved); }), tooLarge);
     for (const char number : std::string("1234"))
         unsaved.documents[std::string("devices/") + number + ".xml"] = std::string(KZLargestDocument, 'x');
     unsaved.documents["main.xml"] = "";
-    EXPECT_EQ(MessageOf([&] { file.Store(unsaved); }), tooLarge);
+    EXPECT_EQ(kztest::RefusalOf([&] { file.Store(unsaved); }), tooLarge);
 }
 
 TEST_F(Recovery, IsNotLookedForInOtherFiles)

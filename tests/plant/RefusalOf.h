@@ -17,4 +17,11 @@ template <class Operation>
     return {};
 }
 
+// The id of its text alone.
+template <class Operation>
+unsigned Refused(Operation operation)
+{
+    return RefusalOf(operation).text;
+}
+
 }  // namespace kztest

@@ -5,18 +5,18 @@
 #include <memory>
 #include <optional>
 
-#include "EditorProcess.h"
 #include "Endurance.h"
 #include "Random.h"
 #include "TemporaryFolder.h"
+#include "WindowlessEditor.h"
 
 namespace {
 
 using crash::DocumentNames;
-using crash::EditorProcess;
 using crash::Order;
 using crash::Reply;
 using crash::Values;
+using crash::WindowlessEditor;
 
 constexpr std::size_t Main = 0;
 constexpr std::size_t Count = DocumentNames.size();
@@ -24,7 +24,7 @@ using Seen = std::array<std::optional<long>, Count>;
 using Wanted = std::array<std::optional<long>, Count>;
 
 struct Editor {
-    std::unique_ptr<EditorProcess> process;
+    std::unique_ptr<WindowlessEditor> process;
     Seen seen{};
     long main = 0;
     bool dirty = false;
@@ -118,7 +118,7 @@ private:
     // Opens the project; the content of what it reads later is not known to it.
     void Start(Editor& editor)
     {
-        editor = {std::make_unique<EditorProcess>(m_folder.Path()), {}, m_disk[Main], false};
+        editor = {std::make_unique<WindowlessEditor>(m_folder.Path()), {}, m_disk[Main], false};
         editor.seen[Main] = m_disk[Main];
         CheckEditor(editor, editor.process->Opening(), Reply::Kind::Done);
     }

@@ -1,4 +1,4 @@
-#include "EditorProcess.h"
+#include "WindowlessEditor.h"
 
 #include <sys/wait.h>
 
@@ -191,7 +191,7 @@ long ValueIn(const std::filesystem::path& project, std::size_t document)
     return read.Parse(bytes) ? ValueOf(read) : -1;
 }
 
-EditorProcess::EditorProcess(const std::filesystem::path& project)
+WindowlessEditor::WindowlessEditor(const std::filesystem::path& project)
 {
     int orders[2];
     int replies[2];
@@ -215,7 +215,7 @@ EditorProcess::EditorProcess(const std::filesystem::path& project)
     m_opening = Hear();
 }
 
-EditorProcess::~EditorProcess()
+WindowlessEditor::~WindowlessEditor()
 {
     ::kill(m_process, SIGKILL);
     ::waitpid(m_process, nullptr, 0);
@@ -223,14 +223,14 @@ EditorProcess::~EditorProcess()
     ::close(m_replies);
 }
 
-Reply EditorProcess::Do(const Order& order)
+Reply WindowlessEditor::Do(const Order& order)
 {
     if (::write(m_orders, &order, sizeof order) != sizeof order)
         throw std::runtime_error("the editor takes no orders");
     return Hear();
 }
 
-Reply EditorProcess::Hear() const
+Reply WindowlessEditor::Hear() const
 {
     Reply reply;
     if (::read(m_replies, &reply, sizeof reply) != sizeof reply)

@@ -45,14 +45,14 @@ struct Reply {
     long found = 0;          // the value in them
 };
 
-class EditorProcess {
+class WindowlessEditor {
 public:
     // Throws std::runtime_error when it cannot be started.
-    explicit EditorProcess(const std::filesystem::path& project);
+    explicit WindowlessEditor(const std::filesystem::path& project);
     // Kills it.
-    ~EditorProcess();
-    EditorProcess(const EditorProcess&) = delete;
-    EditorProcess& operator=(const EditorProcess&) = delete;
+    ~WindowlessEditor();
+    WindowlessEditor(const WindowlessEditor&) = delete;
+    WindowlessEditor& operator=(const WindowlessEditor&) = delete;
 
     // What it told when it had opened the project.
     [[nodiscard]] const Reply& Opening() const noexcept { return m_opening; }
