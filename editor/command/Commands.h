@@ -3,8 +3,6 @@
 
 #include "Arguments.h"
 
-class Project;
-
 enum ExitStatus : int { ExitTrue = 0, ExitFalse = 1, ExitError = 2 };
 
 // Runs a command other than Window and Help; prints its result on standard output.

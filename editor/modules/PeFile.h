@@ -7,7 +7,7 @@
 #include <string>
 
 // The IMAGE_FILE_MACHINE_… value; nothing when the file cannot be read or is not a Windows program or library.
-[[nodiscard]] std::optional<std::uint16_t> PeMachine(const std::filesystem::path& file);
+[[nodiscard]] std::optional<std::uint16_t> PeMachine(const std::filesystem::path& path);
 
 // The machine that this program is built for.
 [[nodiscard]] std::uint16_t OwnMachine() noexcept;

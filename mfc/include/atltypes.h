@@ -6,7 +6,7 @@
 class CSize : public SIZE {
 public:
     constexpr CSize() noexcept : SIZE{0, 0} {}
-    constexpr CSize(int initCX, int initCY) noexcept : SIZE{initCX, initCY} {}
+    constexpr CSize(int initCX, int initCY) noexcept : CSize(SIZE{initCX, initCY}) {}
     constexpr CSize(SIZE initSize) noexcept : SIZE(initSize) {}
 
     constexpr BOOL operator==(SIZE size) const noexcept { return cx == size.cx && cy == size.cy; }
@@ -30,10 +30,13 @@ public:
 class CRect : public RECT {
 public:
     constexpr CRect() noexcept : RECT{0, 0, 0, 0} {}
-    constexpr CRect(int l, int t, int r, int b) noexcept : RECT{l, t, r, b} {}
+    constexpr CRect(int l, int t, int r, int b) noexcept : CRect(RECT{l, t, r, b}) {}
     constexpr CRect(const RECT& srcRect) noexcept : RECT(srcRect) {}
     constexpr CRect(LPCRECT lpSrcRect) noexcept : RECT(*lpSrcRect) {}
-    constexpr CRect(POINT point, SIZE size) noexcept : RECT{point.x, point.y, point.x + size.cx, point.y + size.cy} {}
+    constexpr CRect(POINT point, SIZE size) noexcept
+        : CRect(RECT{point.x, point.y, point.x + size.cx, point.y + size.cy})
+    {
+    }
 
     [[nodiscard]] constexpr int Width() const noexcept { return right - left; }
     [[nodiscard]] constexpr int Height() const noexcept { return bottom - top; }

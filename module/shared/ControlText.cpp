@@ -6,5 +6,5 @@ KZBasicString ControlText(const CWnd& control)
     // The length may be more than the text has, and room for the terminator is part of every std::wstring.
     const int copied = ::GetWindowTextW(control.m_hWnd, text.data(), static_cast<int>(text.size()) + 1);
     text.resize(static_cast<std::size_t>(copied));
-    return KZBasicString(std::move(text));
+    return {std::move(text)};
 }

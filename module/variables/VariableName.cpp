@@ -21,7 +21,7 @@ constexpr bool HasPhase(Family family, int row) noexcept
 
 std::optional<int> PhaseAt(std::wstring_view text, std::size_t index) noexcept
 {
-    const auto phase = index < text.size() ? PhaseDigits.find(text[index]) : PhaseDigits.npos;
+    const auto phase = index < text.size() ? PhaseDigits.find(text[index]) : std::wstring_view::npos;
     return phase < PhaseDigits.size() ? std::optional(static_cast<int>(phase)) : std::nullopt;
 }
 
@@ -74,7 +74,7 @@ std::optional<VariablePosition> ParseQuantity(Family family, std::wstring_view n
     const std::size_t separator = name.find(Separator);
     const auto& codes = CodesOf(family);
     const auto code = std::find(codes.begin(), codes.end(), name.substr(0, separator));
-    if (separator == name.npos || code == codes.end())
+    if (separator == std::wstring_view::npos || code == codes.end())
         return std::nullopt;
     const auto row = static_cast<int>(code - codes.begin());
     const std::wstring_view rest = name.substr(separator + 1);

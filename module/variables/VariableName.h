@@ -42,7 +42,7 @@ struct VariablePosition {
 };
 
 // A set of positions of one family, as wide as the largest family.
-inline constexpr std::size_t PositionCount{HarmonicRowCount * 2 * PhaseCount};
+inline constexpr std::size_t PositionCount = std::size_t{HarmonicRowCount} * 2 * PhaseCount;
 using PositionSet = std::bitset<PositionCount>;
 
 [[nodiscard]] constexpr std::size_t PositionIndex(const VariablePosition& position) noexcept

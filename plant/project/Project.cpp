@@ -217,7 +217,7 @@ Change Project::Restore(int number, bool dryRun)
 {
     const ProjectLock lock(m_disk, m_folder);
     FinishCommit(m_disk, m_folder, lock);
-    const Change change = m_history.Restoring(number);
+    Change change = m_history.Restoring(number);
     const auto main = change.find(Main);
     SeenDocuments seen(m_disk, m_folder);
     // Without a document it is as one that is broken.

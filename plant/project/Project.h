@@ -114,7 +114,7 @@ private:
     [[nodiscard]] ForeignChanges WriteUnlessForeign(const Change& change, const std::string& cause,
                                                     const ForeignChanges& overwritten);
     [[nodiscard]] ForeignChanges ForeignIn(Change& change, const ForeignChanges& overwritten);
-    void CommitUnderLock(const ProjectLock& lock, Change change, const std::string& cause);
+    void CommitUnderLock(const ProjectLock& lock, const Change& change, const std::string& cause);
     void Written(const Change& documents) noexcept;
     void Protect(Change waiting, const SeenDocuments& seen);
     void ProtectOrTell() noexcept;

@@ -53,7 +53,7 @@ ForeignChanges Project::WriteUnlessForeign(const Change& change, const std::stri
         ForeignChanges foreign = ForeignIn(differing, overwritten);
         if (!foreign.empty())
             return foreign;
-        CommitUnderLock(lock, std::move(differing), cause);
+        CommitUnderLock(lock, differing, cause);
     }
     Written(change);
     return {};
@@ -80,7 +80,7 @@ ForeignChanges Project::ForeignIn(Change& change, const ForeignChanges& overwrit
     return foreign;
 }
 
-void Project::CommitUnderLock(const ProjectLock& lock, Change change, const std::string& cause)
+void Project::CommitUnderLock(const ProjectLock& lock, const Change& change, const std::string& cause)
 {
     if (change.empty())
         return;

@@ -33,7 +33,7 @@ std::string_view Part(std::string_view bytes, std::uint64_t place, std::uint64_t
 std::optional<RecoveryRecord> RecordAt(std::string_view bytes, std::uint64_t place)
 {
     std::optional<std::string_view> numbers = Unseal(Kind, Part(bytes, place, RecordLength));
-    if (!numbers || numbers->size() != 4 * 17)
+    if (!numbers || numbers->size() != std::size_t{4} * 17)
         return std::nullopt;
     std::array<std::uint64_t, 4> values;
     for (std::uint64_t& value : values) {
