@@ -4,31 +4,16 @@
 
 #include <shellapi.h>
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
 #include <limits>
 #include <memory>
 
+#include "Syntax.h"
 #include "text/EditorError.h"
 #include "text/EditorText.h"
 
 namespace {
-
-// The values as they were typed; they get their meaning when all of them are there.
-struct RawArguments {
-    std::string project = ".";
-    std::optional<std::string> language;
-    std::string device;
-    std::optional<std::string> groups;
-    std::string maxVariables = "0";
-    std::vector<std::string> list;
-    std::optional<std::string> text;
-    std::string stringId;
-    std::string saveNumber;
-    bool dryRun = false;
-    bool discard = false;
-};
 
 [[noreturn]] void Refuse(const std::string& argument, const std::string& value, const std::string& remedy)
 {
@@ -62,52 +47,44 @@ KZLanguage ParseLanguage(const std::string& value)
     return *language;
 }
 
-// Binds the options and subcommands to the raw values.
-struct Syntax {
-    CLI::App app{"Shows a project's devices and runs their driver modules. Without a command it opens the editor's "
-                 "window.",
-                 "KZEditor.exe"};
-    RawArguments raw;
-
-    Syntax();
-    CLI::App* AddDeviceCommand(const char* name, const char* description);
-};
-
-CLI::App* Syntax::AddDeviceCommand(const char* name, const char* description)
+// One of the sections that a field may belong to.
+std::string ParseSection(const std::string& value)
 {
-    CLI::App* command = app.add_subcommand(name, description);
-    command->add_option("DEVICE", raw.device, "The device's name")->required();
-    return command;
+    for (const char* section : {"device", "units", "limits"}) {
+        if (value == section)
+            return value;
+    }
+    Refuse("--section", value, "give device, units or limits");
 }
 
-Syntax::Syntax()
+void TakeDevices(const TypedArguments& typed, Arguments& arguments)
 {
-    app.fallthrough();
-    app.require_subcommand(0, 1);
-    app.add_option("--project", raw.project, "The project's folder, which holds main.xml (default: this folder)");
-    app.add_option("--language", raw.language, "en or es (default: the user's)");
-    app.add_subcommand("devices", "Lists the devices: driverId, name, type, groups");
-    AddDeviceCommand("options", "Opens the device's options dialog");
-    AddDeviceCommand("third", "Runs the driver's third callback");
-    AddDeviceCommand("child", "Shows the device's options dialog embedded in a window");
-    app.add_subcommand("string", "Prints a text of the host's string table")
-        ->add_option("ID", raw.stringId, "The text's id, 1 to 65535")
-        ->required();
+    for (const std::string& device : typed.devices)
+        arguments.devices.push_back(FromUtf8(device));
+}
 
-    app.add_subcommand("history", "Lists the saves of the project: number, time, cause, documents");
-    CLI::App* restore = app.add_subcommand("restore", "Brings the project back as it was before a save");
-    restore->add_option("NUMBER", raw.saveNumber, "The save's number in the history")->required();
-    restore->add_flag("--dry-run", raw.dryRun, "Only say what would change");
-    app.add_subcommand("recover", "Saves what an editor that ended without saving has left")
-        ->add_flag("--discard", raw.discard, "Take it away instead");
-
-    CLI::App* select = AddDeviceCommand("select", "Lets the user choose variables of the device");
-    select->add_option("--groups", raw.groups, "Variable groups to offer, hexadecimal (default: all 34)");
-    select->add_option("--max", raw.maxVariables, "The most variables to choose, 0 for no limit");
-    select->add_option("--list", raw.list, "Full names that are chosen already, with commas between them")
-        ->delimiter(',')
-        ->allow_extra_args(false);  // the word after it may be the device
-    select->add_option("--text", raw.text, "The caller's words for the request");
+// A name with = can only be told from an assignment by its place, so there is none behind the first assignment.
+void TakeAssignments(const TypedArguments& typed, Arguments& arguments)
+{
+    for (const std::string& word : typed.devices) {
+        const std::size_t divider = word.find('=');
+        if (divider == std::string::npos && arguments.assignments.empty()) {
+            arguments.devices.push_back(FromUtf8(word));
+            continue;
+        }
+        if (divider == std::string::npos)
+            Refuse("KEY=VALUE", word, "write a key, = and a value; devices stand before the first of them");
+        const std::string key = word.substr(0, divider);
+        for (const auto& earlier : arguments.assignments) {
+            if (earlier.key == key)
+                Refuse("KEY=VALUE", word, "give each key one value");
+        }
+        arguments.assignments.push_back({key, word.substr(divider + 1)});
+    }
+    if (arguments.devices.empty())
+        throw EditorError("DEVICE: name one or more devices before the first KEY=VALUE");
+    if (arguments.assignments.empty())
+        throw EditorError("KEY=VALUE: say what to set, such as device.minCurrent=10");
 }
 
 Command CommandNamed(const std::string& name)
@@ -116,57 +93,58 @@ Command CommandNamed(const std::string& name)
         {"devices", Command::Devices}, {"options", Command::Options}, {"select", Command::Select},
         {"third", Command::Third},     {"child", Command::Child},     {"string", Command::String},
         {"history", Command::History}, {"restore", Command::Restore}, {"recover", Command::Recover},
+        {"fields", Command::Fields},   {"get", Command::Get},         {"set", Command::Set},
+        {"copy", Command::Copy},       {"check", Command::Check},     {"export", Command::Export},
+        {"import", Command::Import},   {"diff", Command::Diff},       {"modules", Command::Modules},
     };
     const auto found =
         std::find_if(std::begin(commands), std::end(commands), [&](const auto& entry) { return name == entry.first; });
     return found == std::end(commands) ? Command::Window : found->second;
 }
 
-Arguments Interpret(const Syntax& syntax)
+}  // namespace
+
+Arguments ParseArguments(std::vector<std::string> words)
 {
-    const RawArguments& raw = syntax.raw;
+    const TypedArguments typed = ReadArguments(std::move(words));
     Arguments arguments;
-    for (const CLI::App* command : syntax.app.get_subcommands())
-        arguments.command = CommandNamed(command->get_name());
-    arguments.project = FromUtf8(raw.project);
-    if (raw.language)
-        arguments.language = ParseLanguage(*raw.language);
-    arguments.device = FromUtf8(raw.device);
-    if (raw.groups)
-        arguments.groups = ParseGroups(*raw.groups);
-    arguments.maxVariables = ParseInteger("--max", raw.maxVariables, 0, std::numeric_limits<int>::max());
-    for (const std::string& name : raw.list) {
+    if (typed.help) {
+        arguments.command = Command::Help;
+        arguments.help = *typed.help;
+        return arguments;
+    }
+    arguments.command = CommandNamed(typed.command);
+    arguments.project = FromUtf8(typed.project);
+    if (typed.language)
+        arguments.language = ParseLanguage(*typed.language);
+    arguments.device = FromUtf8(typed.device);
+    if (typed.groups)
+        arguments.groups = ParseGroups(*typed.groups);
+    arguments.maxVariables = ParseInteger("--max", typed.maxVariables, 0, std::numeric_limits<int>::max());
+    for (const std::string& name : typed.list) {
         if (!name.empty())
             arguments.variables.emplace_back(FromUtf8(name));
     }
-    if (raw.text)
-        arguments.text = FromUtf8(*raw.text);
+    if (typed.text)
+        arguments.text = FromUtf8(*typed.text);
     if (arguments.command == Command::String)
-        arguments.stringId = static_cast<unsigned>(ParseInteger("ID", raw.stringId, 1, 65535));
+        arguments.stringId = static_cast<unsigned>(ParseInteger("ID", typed.stringId, 1, 65535));
     if (arguments.command == Command::Restore)
-        arguments.saveNumber = ParseInteger("NUMBER", raw.saveNumber, 1, std::numeric_limits<int>::max());
-    arguments.dryRun = raw.dryRun;
-    arguments.discard = raw.discard;
+        arguments.saveNumber = ParseInteger("NUMBER", typed.saveNumber, 1, std::numeric_limits<int>::max());
+    if (arguments.command == Command::Set)
+        TakeAssignments(typed, arguments);
+    else
+        TakeDevices(typed, arguments);
+    arguments.type = FromUtf8(typed.type);
+    arguments.fields = typed.fields;
+    std::transform(typed.sections.begin(), typed.sections.end(), std::back_inserter(arguments.sections), ParseSection);
+    arguments.otherPath = FromUtf8(typed.otherPath);
+    if (typed.output)
+        arguments.output = FromUtf8(*typed.output);
+    arguments.stored = typed.stored;
+    arguments.dryRun = typed.dryRun;
+    arguments.discard = typed.discard;
     return arguments;
-}
-
-}  // namespace
-
-Arguments ParseArguments(std::vector<std::string> arguments)
-{
-    Syntax syntax;
-    std::reverse(arguments.begin(), arguments.end());  // the order that CLI11 asks for
-    try {
-        syntax.app.parse(arguments);
-    } catch (const CLI::CallForHelp&) {
-        Arguments help;
-        help.command = Command::Help;
-        help.help = syntax.app.help();
-        return help;
-    } catch (const CLI::ParseError& error) {
-        throw EditorError(std::string(error.what()) + "; KZEditor.exe --help lists the commands and options");
-    }
-    return Interpret(syntax);
 }
 
 std::vector<std::string> ProcessArguments()

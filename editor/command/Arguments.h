@@ -10,20 +10,53 @@
 #include "project/ChosenVariables.h"
 #include "project/GroupMask.h"
 
-enum class Command { Window, Devices, Options, Select, Third, Child, String, History, Restore, Recover, Help };
+enum class Command {
+    Window,
+    Devices,
+    Options,
+    Select,
+    Third,
+    Child,
+    String,
+    History,
+    Restore,
+    Recover,
+    Fields,
+    Get,
+    Set,
+    Copy,
+    Check,
+    Export,
+    Import,
+    Diff,
+    Modules,
+    Help
+};
 
 struct Arguments {
     Command command = Command::Window;
     std::filesystem::path project = L".";
     std::optional<KZLanguage> language;  // nothing: the user's
-    std::wstring device;
+    std::wstring device;                 // copy: the one to copy from
     KZVariableGroups groups = plant::AllGroups();
     int maxVariables = 0;  // 0: no limit
     plant::VariableList variables;
     std::optional<std::wstring> text;
     unsigned stringId = 0;
-    int saveNumber = 0;    // of the history's entry to restore
-    bool dryRun = false;   // restore: only say what would change
+    int saveNumber = 0;                 // of the history's entry to restore
+    std::vector<std::wstring> devices;  // names or driverIds of get, set, copy, check; none: all
+    struct Assignment {
+        std::string key;
+        std::string value;
+    };
+    std::vector<Assignment> assignments;  // of set
+    std::wstring type;                    // of the devices whose fields are listed
+    std::vector<std::string> fields;      // keys; none: all
+    std::vector<std::string> sections;    // of copy: device, units, limits; none: all
+    std::filesystem::path otherPath;      // import: the table, diff: the other project's folder
+    std::optional<std::filesystem::path> output;
+    bool stored = false;   // get: without defaults
+    bool dryRun = false;   // set, copy, import, restore: only say what would change
     bool discard = false;  // recover: take away instead of taking over
     std::string help;      // for Command::Help
 };

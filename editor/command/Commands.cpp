@@ -2,6 +2,7 @@
 
 #include "Console.h"
 #include "KZLoadString.h"
+#include "ModuleCommands.h"
 #include "ProjectCommands.h"
 #include "RequiredFiles.h"
 #include "main/ProjectStore.h"
@@ -94,28 +95,24 @@ ExitStatus RunOnDevice(const Arguments& arguments, const char* command, ExitStat
 
 ExitStatus RunCommand(const Arguments& arguments)
 {
-    switch (arguments.command) {
-    case Command::Devices:
-        return ListDevices(arguments);
-    case Command::String:
-        return PrintHostString(arguments);
-    case Command::Options:
-        return RunOnDevice(arguments, "options", RunOptions);
-    case Command::Select:
-        return RunOnDevice(arguments, "select", RunSelect);
-    case Command::Third:
-        return RunOnDevice(arguments, "third", RunThird);
-    case Command::Child:
-        return RunOnDevice(arguments, "child", RunChild);
-    case Command::History:
-        return ListHistory(arguments);
-    case Command::Restore:
-        return RestoreSave(arguments);
-    case Command::Recover:
-        return RecoverUnsaved(arguments);
-    case Command::Window:
-    case Command::Help:
-        break;
+    static constexpr struct {
+        Command command;
+        ExitStatus (*run)(const Arguments& arguments);
+    } commands[] = {
+        {Command::Devices, ListDevices},
+        {Command::Options, [](const Arguments& of) { return RunOnDevice(of, "options", RunOptions); }},
+        {Command::Select, [](const Arguments& of) { return RunOnDevice(of, "select", RunSelect); }},
+        {Command::Third, [](const Arguments& of) { return RunOnDevice(of, "third", RunThird); }},
+        {Command::Child, [](const Arguments& of) { return RunOnDevice(of, "child", RunChild); }},
+        {Command::String, PrintHostString},
+        {Command::History, ListHistory},
+        {Command::Restore, RestoreSave},
+        {Command::Recover, RecoverUnsaved},
+        {Command::Modules, ListModules},
+    };
+    for (const auto& [command, run] : commands) {
+        if (command == arguments.command)
+            return run(arguments);
     }
-    return ExitError;
+    throw EditorError("This command is not there yet");
 }

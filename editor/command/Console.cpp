@@ -53,6 +53,22 @@ void Print(DWORD which, std::string_view utf8)
 constexpr std::size_t WaitingAtMost = 16384;
 std::string waiting;
 
+// A value as it is printed between others.
+std::string Cell(std::string_view value)
+{
+    constexpr std::string_view special = "\t\n\r\\";
+    constexpr std::string_view letters = "tnr\\";
+    std::string cell;
+    for (const char character : value) {
+        const std::size_t place = special.find(character);
+        if (place == std::string_view::npos)
+            cell += character;
+        else
+            (cell += '\\') += letters[place];
+    }
+    return cell;
+}
+
 }  // namespace
 
 void PrintLine(std::string_view utf8)
@@ -61,6 +77,17 @@ void PrintLine(std::string_view utf8)
     waiting += '\n';
     if (waiting.size() >= WaitingAtMost)
         FlushOutput();
+}
+
+void PrintRow(std::initializer_list<std::string_view> values)
+{
+    std::string line;
+    const char* separator = "";
+    for (const std::string_view value : values) {
+        line.append(separator).append(Cell(value));
+        separator = "\t";
+    }
+    PrintLine(line);
 }
 
 void FlushOutput()

@@ -58,6 +58,11 @@ HMODULE LoadQuietly(const std::filesystem::path& file, DWORD& error) noexcept
 
 }  // namespace
 
+std::wstring ModuleFileName(std::wstring_view model)
+{
+    return std::wstring(FilePrefix).append(model).append(L".dll");
+}
+
 std::wstring ModuleStateName(ModuleState state)
 {
     constexpr unsigned names[] = {IDS_STATE_READY,       IDS_STATE_MISSING,

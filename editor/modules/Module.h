@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "KZDriverServices.h"
 
@@ -22,6 +23,9 @@ struct ModuleStatus {
 
 // The state as one or two words, for a table.
 [[nodiscard]] std::wstring ModuleStateName(ModuleState state);
+
+// The name of the file that serves a model: KZUsr<model>.dll.
+[[nodiscard]] std::wstring ModuleFileName(std::wstring_view model);
 
 class Module {
 public:

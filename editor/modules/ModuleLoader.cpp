@@ -51,7 +51,7 @@ ModuleStatus ModuleLoader::StatusOf(const KZBasicString& typeName) const
         return {ModuleState::Missing, FormatEditorText(IDS_MODULE_UNKNOWN_TYPE, model),
                 EditorText(IDS_REMEDY_UNKNOWN_TYPE)};
     if (!module) {
-        const std::wstring name = std::wstring(L"KZUsr") + model + L".dll";
+        const std::wstring name = ModuleFileName(typeName.View());
         return {ModuleState::Missing, FormatEditorText(IDS_MODULE_MISSING, name.c_str(), m_folder.c_str()),
                 FormatEditorText(IDS_REMEDY_MISSING, name.c_str())};
     }

@@ -2,7 +2,9 @@
 
 #include <windows.h>
 
+#include <cstddef>
 #include <fstream>
+#include <vector>
 
 #include "KZBasicString.h"
 
@@ -30,6 +32,21 @@ std::optional<std::uint16_t> PeMachine(const std::filesystem::path& path)
     if (!ReadAt(file, dos.e_lfanew, pe) || pe.signature != IMAGE_NT_SIGNATURE)
         return std::nullopt;
     return pe.header.Machine;
+}
+
+std::wstring FileVersion(const std::filesystem::path& path)
+{
+    std::vector<std::byte> resource(::GetFileVersionInfoSizeW(path.c_str(), nullptr));
+    void* found = nullptr;
+    UINT size = 0;
+    if (resource.empty() ||
+        !::GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(resource.size()), resource.data()) ||
+        !::VerQueryValueW(resource.data(), L"\\", &found, &size) || size < sizeof(VS_FIXEDFILEINFO))
+        return {};
+    const auto* info = static_cast<const VS_FIXEDFILEINFO*>(found);
+    return KZBasicString::Format(L"%u.%u.%u.%u", HIWORD(info->dwFileVersionMS), LOWORD(info->dwFileVersionMS),
+                                 HIWORD(info->dwFileVersionLS), LOWORD(info->dwFileVersionLS))
+        .c_str();
 }
 
 std::uint16_t OwnMachine() noexcept

@@ -7,7 +7,9 @@
 
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 
 std::string RefusalOf(std::vector<std::string> arguments)
@@ -18,6 +20,15 @@ std::string RefusalOf(std::vector<std::string> arguments)
         return error.what();
     }
     return "accepted";
+}
+
+// The assignments as they were typed.
+std::vector<std::string> AssignmentsOf(const Arguments& arguments)
+{
+    std::vector<std::string> texts;
+    for (const auto& [key, value] : arguments.assignments)
+        texts.push_back(key + " := " + value);
+    return texts;
 }
 
 }  // namespace
@@ -129,4 +140,102 @@ TEST(Arguments, OfHelpGiveTheListOfCommands)
     EXPECT_EQ(arguments.command, Command::Help);
     for (const char* word : {"devices", "options", "select", "third", "child", "string", "--project", "--language"})
         EXPECT_THAT(arguments.help, HasSubstr(word));
+}
+
+TEST(Arguments, OfFieldsNameATypeThatIsZepUnlessTold)
+{
+    EXPECT_EQ(ParseArguments({"fields"}).command, Command::Fields);
+    EXPECT_EQ(ParseArguments({"fields"}).type, L"ZEP");
+    EXPECT_EQ(ParseArguments({"fields", "--type", "XYZ"}).type, L"XYZ");
+}
+
+TEST(Arguments, OfGetNameNoDeviceOrSomeAndFieldsOneWordEach)
+{
+    const Arguments all = ParseArguments({"get"});
+    EXPECT_EQ(all.command, Command::Get);
+    EXPECT_THAT(all.devices, IsEmpty());
+    EXPECT_THAT(all.fields, IsEmpty());
+    EXPECT_FALSE(all.stored);
+    const Arguments some =
+        ParseArguments({"get", "--field", "device.mode", "TREN1", "GRÚA 1", "--field", "device.gamma", "--stored"});
+    EXPECT_THAT(some.devices, ElementsAre(L"TREN1", L"GRÚA 1"));
+    EXPECT_THAT(some.fields, ElementsAre("device.mode", "device.gamma"));
+    EXPECT_TRUE(some.stored);
+}
+
+TEST(Arguments, OfSetAreDevicesUntilTheFirstWordWithAnEqualsSign)
+{
+    const Arguments arguments = ParseArguments(
+        {"set", "TREN1", "zep-2", "device.minCurrent=-1", "device.mode=a=b", "device.gamma=", "--dry-run"});
+    EXPECT_EQ(arguments.command, Command::Set);
+    EXPECT_THAT(arguments.devices, ElementsAre(L"TREN1", L"zep-2"));
+    EXPECT_THAT(AssignmentsOf(arguments),
+                ElementsAre("device.minCurrent := -1", "device.mode := a=b", "device.gamma := "));
+    EXPECT_TRUE(arguments.dryRun);
+    EXPECT_FALSE(ParseArguments({"set", "A", "b=c"}).dryRun);
+    EXPECT_EQ(ParseArguments({"set", "A", "b=c", "--project", "plant", "--language", "es"}).project, L"plant");
+}
+
+TEST(Arguments, OfSetAreRefusedWithoutDeviceWithoutAssignmentAndWithADeviceTooLate)
+{
+    EXPECT_THAT(RefusalOf({"set"}), HasSubstr("DEVICE"));
+    EXPECT_THAT(RefusalOf({"set", "device.minCurrent=1"}), HasSubstr("DEVICE"));
+    EXPECT_THAT(RefusalOf({"set", "TREN1"}), HasSubstr("KEY=VALUE"));
+    EXPECT_THAT(RefusalOf({"set", "TREN1", "a=b", "TREN2"}), HasSubstr("KEY=VALUE \"TREN2\""));
+    EXPECT_THAT(RefusalOf({"set", "TREN1", "a=b", "-5"}), HasSubstr("KEY=VALUE \"-5\""));
+    EXPECT_THAT(RefusalOf({"set", "TREN1", "a=b", "a=c"}), HasSubstr("KEY=VALUE \"a=c\""));
+}
+
+TEST(Arguments, ThatLookLikeOptionsListsOrPathsAreTakenAsTheyStand)
+{
+    for (const char* name :
+         {"-5", "-x", "-.5", "/x", "/language", "[A,B]", "[]", "{}", "{A}", "++", "\x1F", "", "get"}) {
+        const std::wstring wide = FromUtf8(name);
+        EXPECT_THAT(ParseArguments({"get", name, "A"}).devices, ElementsAre(wide, L"A")) << name;
+        EXPECT_EQ(ParseArguments({"options", name}).device, wide) << name;
+        EXPECT_THAT(ParseArguments({"get", "--field", name}).fields, ElementsAre(name)) << name;
+        EXPECT_THAT(AssignmentsOf(ParseArguments({"set", "A", std::string("k=") + name})),
+                    ElementsAre(std::string("k := ") + name));
+    }
+    EXPECT_THAT(RefusalOf({"devices", "[A]"}), HasSubstr(" [A]"));
+}
+
+TEST(Arguments, OfCopyAreOneDeviceThenOthers)
+{
+    const Arguments arguments =
+        ParseArguments({"copy", "--section", "units", "TREN1", "TREN2", "TREN3", "--section", "limits", "--dry-run"});
+    EXPECT_EQ(arguments.command, Command::Copy);
+    EXPECT_EQ(arguments.device, L"TREN1");
+    EXPECT_THAT(arguments.devices, ElementsAre(L"TREN2", L"TREN3"));
+    EXPECT_THAT(arguments.sections, ElementsAre("units", "limits"));
+    EXPECT_THAT(arguments.fields, IsEmpty());
+    EXPECT_TRUE(arguments.dryRun);
+    EXPECT_THAT(ParseArguments({"copy", "A", "B", "--field", "device.mode"}).fields, ElementsAre("device.mode"));
+}
+
+TEST(Arguments, OfCopyAreRefusedWithoutTargetAndWithFieldsBesideSections)
+{
+    EXPECT_THAT(RefusalOf({"copy"}), HasSubstr("FROM"));
+    EXPECT_THAT(RefusalOf({"copy", "A"}), HasSubstr("TO"));
+    EXPECT_THAT(RefusalOf({"copy", "A", "B", "--section", "colours"}), HasSubstr("--section \"colours\""));
+    EXPECT_THAT(RefusalOf({"copy", "A", "B", "--section", "units", "--field", "device.mode"}), HasSubstr("--section"));
+    EXPECT_THAT(RefusalOf({"copy", "A", "B", "--section"}), HasSubstr("--section"));
+}
+
+TEST(Arguments, OfCheckExportImportDiffAndModulesAreTakenAsTheyStand)
+{
+    EXPECT_EQ(ParseArguments({"check"}).command, Command::Check);
+    EXPECT_THAT(ParseArguments({"check", "A", "B"}).devices, ElementsAre(L"A", L"B"));
+    EXPECT_EQ(ParseArguments({"export"}).command, Command::Export);
+    EXPECT_FALSE(ParseArguments({"export"}).output);
+    EXPECT_EQ(ParseArguments({"export", "--output", "ñ.csv", "--field", "device.mode"}).output, L"ñ.csv");
+    EXPECT_EQ(ParseArguments({"import", "table.csv"}).command, Command::Import);
+    EXPECT_EQ(ParseArguments({"import", "/table.csv", "--dry-run"}).otherPath, L"/table.csv");
+    EXPECT_EQ(ParseArguments({"diff", "other"}).command, Command::Diff);
+    EXPECT_EQ(ParseArguments({"diff", "other"}).otherPath, L"other");
+    EXPECT_EQ(ParseArguments({"modules"}).command, Command::Modules);
+    EXPECT_THAT(RefusalOf({"import"}), HasSubstr("FILE"));
+    EXPECT_THAT(RefusalOf({"diff"}), HasSubstr("FOLDER"));
+    EXPECT_THAT(RefusalOf({"export", "A"}), HasSubstr("A"));
+    EXPECT_THAT(RefusalOf({"modules", "--dry-run"}), HasSubstr("--dry-run"));
 }
