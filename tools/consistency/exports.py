@@ -11,7 +11,7 @@ RUNTIME = {"libstdc++-6.dll", "libgcc_s_seh-1.dll", "libwinpthread-1.dll"}
 SYSTEM = {
     "advapi32.dll", "comctl32.dll", "gdi32.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll", "oleaut32.dll", "shell32.dll",
     "shlwapi.dll", "user32.dll", "uxtheme.dll", "windowscodecs.dll", "oleacc.dll", "comdlg32.dll", "imm32.dll", "ucrtbase.dll",
-    "ntdll.dll",
+    "ntdll.dll", "version.dll",
 }
 MAY_USE = {
     "KZMfc.dll": set(),
