@@ -42,7 +42,8 @@ std::wstring FoldCase(std::wstring text)
     std::transform(text.begin(), text.end(), text.begin(), [](wchar_t c) {
         const bool isAscii = c <= L'~';  // nearly all of it is, and the library is slow to ask
         const bool isCapital = c >= L'A' && c <= L'Z';
-        return isAscii ? static_cast<wchar_t>(isCapital ? c - L'A' + L'a' : c) : static_cast<wchar_t>(towlower(c));
+        return isAscii ? static_cast<wchar_t>(isCapital ? c - L'A' + L'a' : c)
+                       : static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c)));
     });
     return text;
 }
