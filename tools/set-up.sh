@@ -57,7 +57,7 @@ set_up() {
 # The libraries whose sources the builds compile themselves.
 set_up_sources() {
   local package
-  for package in pugixml expat; do
+  for package in pugixml expat libcsv; do
     [ -d "$root/build/deps/$package" ] && continue
     say "Fetching the source of $package"
     "$root/tools/fetch-source.sh" "$package" "$root/build/deps/$package" || fail "could not fetch the source of $package"

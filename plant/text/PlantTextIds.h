@@ -36,3 +36,14 @@
 #define IDS_PLANT_DEVICE_DOUBLE_NAME 3048       // %s %s %s: the file, the device, the name
 #define IDS_PLANT_DEVICE_BAD_NUMBER 3049        // %s %s %s: the file, the device, the text
 #define IDS_PLANT_DEVICE_BAD_GROUPS 3050        // %s %s %s: the file, the device, the text
+
+#define IDS_PLANT_TABLE_EMPTY 3080         // %s: the file
+#define IDS_PLANT_TABLE_EMPTY_LINE 3081    // %s %s %s: the file, the row, the column
+#define IDS_PLANT_TABLE_LINE_END 3082      // %s %s %s: the file, the row, the column
+#define IDS_PLANT_TABLE_STRAY_QUOTE 3083   // %s %s %s: the file, the row, the column
+#define IDS_PLANT_TABLE_BEHIND_QUOTE 3084  // %s %s %s: the file, the row, the column
+#define IDS_PLANT_TABLE_OPEN_QUOTE 3085    // %s %s %s: the file, the row, the column
+#define IDS_PLANT_TABLE_NOT_UTF8 3086      // %s %s %s: the file, the row, the column
+#define IDS_PLANT_TABLE_ZERO_BYTE 3087     // %s %s %s: the file, the row, the column
+#define IDS_PLANT_TABLE_ROW_SHORT 3088     // %s %s %s: the file, the row, the first column that is missing
+#define IDS_PLANT_TABLE_ROW_LONG 3089      // %s %s %s: the file, the row, the first column that the header lacks

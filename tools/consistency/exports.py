@@ -6,7 +6,7 @@ import contract
 from tree import ROOT, text_of
 
 EXPORTS = ROOT / "tests/exports/KZUsrZEP.txt"
-PRODUCTS = ("KZMfc.dll", "KZHost.dll", "KZUsrZEP.dll", "KZEditor.exe")
+PRODUCTS = ("libcsv.dll", "KZMfc.dll", "KZHost.dll", "KZUsrZEP.dll", "KZEditor.exe")
 RUNTIME = {"libstdc++-6.dll", "libgcc_s_seh-1.dll", "libwinpthread-1.dll"}
 SYSTEM = {
     "advapi32.dll", "comctl32.dll", "gdi32.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll", "oleaut32.dll", "shell32.dll",
@@ -14,10 +14,11 @@ SYSTEM = {
     "ntdll.dll", "version.dll",
 }
 MAY_USE = {
+    "libcsv.dll": set(),
     "KZMfc.dll": set(),
     "KZHost.dll": {"KZMfc.dll"},
     "KZUsrZEP.dll": {"KZMfc.dll", "KZHost.dll"},
-    "KZEditor.exe": {"KZMfc.dll", "KZHost.dll"},
+    "KZEditor.exe": {"KZMfc.dll", "KZHost.dll", "libcsv.dll"},
 }
 # In Windows 10 but not in every Wine: linking to one keeps the file from loading there.
 TOO_NEW = {"SetDialogDpiChangeBehavior", "SetDialogControlDpiChangeBehavior"}
