@@ -1,31 +1,17 @@
 #include "Project.h"
 
+#include <algorithm>
+
 #include "Commit.h"
 #include "DocumentName.h"
 #include "KZMainCfg.h"
+#include "StoredProject.h"
 
 namespace plant {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 const std::string Main(MainDocument);
-
-Path ExistingFolder(const Path& folder)
-{
-    std::error_code error;
-    if (!fs::is_directory(folder, error))
-        throw Refusal(IDS_PLANT_NO_FOLDER, {Shown(folder)});
-    Path absolute = fs::absolute(folder, error).lexically_normal();
-    return absolute.has_filename() ? absolute : absolute.parent_path();
-}
-
-void Parse(XmlDocument& document, const std::string& bytes, const Path& file)
-{
-    if (const KZDocumentResult parsed = document.Parse(bytes); !parsed)
-        throw Refusal(IDS_PLANT_BROKEN_DOCUMENT, {Shown(file) + L": " + parsed.message.c_str()});
-}
 
 }  // namespace
 
@@ -66,7 +52,7 @@ std::string Project::ReadMain(SeenDocuments& seen) const
 void Project::Open(XmlDocument& document, const std::string& bytes, DeviceList& devices) const
 {
     const Path file = m_folder / MainDocument;
-    Parse(document, bytes, file);
+    ParseDocument(document, bytes, file);
     devices = ReadDevices(document, Shown(file));
 }
 
@@ -83,26 +69,38 @@ void Project::RehearseDevice(const std::string& name, const std::optional<std::s
 {
     XmlDocument rehearsal(L"device");
     if (bytes && !bytes->empty())
-        Parse(rehearsal, *bytes, FileOf(m_folder, name));
+        ParseDocument(rehearsal, *bytes, FileOf(m_folder, name));
 }
 
 // Without memory the document stays what it is.
 void Project::ReplaceMain(const std::string& bytes, DeviceList devices)
 {
-    Parse(*KZMainCfg::Get(), bytes, m_folder / MainDocument);
+    ParseDocument(*KZMainCfg::Get(), bytes, m_folder / MainDocument);
     m_devices = std::move(devices);
+}
+
+std::optional<std::size_t> Project::Find(KZBasicString KZDeviceIdentity::*identity, std::wstring_view text) const
+{
+    const auto found = std::find_if(m_devices.begin(), m_devices.end(),
+                                    [&](const KZDeviceIdentity& device) { return (device.*identity).View() == text; });
+    return found == m_devices.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - m_devices.begin()));
 }
 
 std::size_t Project::DeviceByName(std::wstring_view name) const
 {
+    if (const auto found = Find(&KZDeviceIdentity::name, name))
+        return *found;
     std::wstring known;
-    for (std::size_t index = 0; index < m_devices.size(); ++index) {
-        const std::wstring_view found = m_devices[index].name.View();
-        if (found == name)
-            return index;
-        known.append(known.empty() ? L"" : L", ").append(found);
-    }
+    for (const KZDeviceIdentity& device : m_devices)
+        known.append(known.empty() ? L"" : L", ").append(device.name.View());
     throw Refusal(IDS_PLANT_NO_DEVICE, {std::wstring(name), Shown(m_folder / MainDocument), known});
+}
+
+std::size_t Project::DeviceByNameOrId(std::wstring_view text) const
+{
+    const auto named = Find(&KZDeviceIdentity::name, text);
+    const auto found = named ? named : Find(&KZDeviceIdentity::driverId, text);
+    return found ? *found : DeviceByName(text);
 }
 
 void Project::ReadDevice(const std::string& name, XmlDocument& document, SeenDocuments& seen) const
@@ -110,7 +108,7 @@ void Project::ReadDevice(const std::string& name, XmlDocument& document, SeenDoc
     const auto pending = m_pending.find(name);
     const std::optional<std::string> bytes = pending == m_pending.end() ? seen.Read(name) : pending->second;
     if (bytes && !bytes->empty())
-        Parse(document, *bytes, FileOf(m_folder, name));
+        ParseDocument(document, *bytes, FileOf(m_folder, name));
 }
 
 void Project::ReadDeviceDocument(const std::string& name, XmlDocument& document)

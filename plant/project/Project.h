@@ -47,6 +47,8 @@ public:
     [[nodiscard]] const DeviceList& Devices() const noexcept { return m_devices; }
     // The place of the device in the list. Throws Refusal, naming the devices that there are, when none has the name.
     [[nodiscard]] std::size_t DeviceByName(std::wstring_view name) const;
+    // The same for a driverId too; a name comes first.
+    [[nodiscard]] std::size_t DeviceByNameOrId(std::wstring_view text) const;
 
     // Null, as at first: nobody is asked, and foreign changes are refused.
     void SetUser(ProjectUser* user) noexcept { m_user = user; }
@@ -102,6 +104,8 @@ private:
         DeviceList devices;
     };
 
+    [[nodiscard]] std::optional<std::size_t> Find(KZBasicString KZDeviceIdentity::*identity,
+                                                  std::wstring_view text) const;
     [[nodiscard]] std::string ReadMain(SeenDocuments& seen) const;
     void Open(XmlDocument& document, const std::string& bytes, DeviceList& devices) const;
     [[nodiscard]] DeviceList Rehearse(const std::string& mainBytes) const;

@@ -36,6 +36,7 @@
 #define IDS_PLANT_DEVICE_DOUBLE_NAME 3048       // %s %s %s: the file, the device, the name
 #define IDS_PLANT_DEVICE_BAD_NUMBER 3049        // %s %s %s: the file, the device, the text
 #define IDS_PLANT_DEVICE_BAD_GROUPS 3050        // %s %s %s: the file, the device, the text
+#define IDS_PLANT_SAVE_UNFINISHED 3051          // %s: the folder of the project
 
 #define IDS_PLANT_TABLE_EMPTY 3080         // %s: the file
 #define IDS_PLANT_TABLE_EMPTY_LINE 3081    // %s %s %s: the file, the row, the column

@@ -56,6 +56,20 @@ TEST_F(ProjectTest, NamesTheDevicesThatThereAreWhenOneIsMissing)
     const Message message = RefusalOf([this] { return m_project->DeviceByName(L"Feeder 2"); });
     EXPECT_EQ(message.text, IDS_PLANT_NO_DEVICE);
     EXPECT_THAT(message.arguments, ElementsAre(L"Feeder 2", Shown(m_folder.Path() / "main.xml"), L"Feeder 1"));
+    EXPECT_EQ(Refused([this] { return m_project->DeviceByNameOrId(L"Feeder 2"); }), IDS_PLANT_NO_DEVICE);
+}
+
+TEST_F(ProjectTest, FindsADeviceByItsNameBeforeAnotherByItsDriverId)
+{
+    m_folder.Write("main.xml", "<configuration><devices>"
+                               "<device><driverId>a</driverId><name>Feeder 1</name></device>"
+                               "<device><driverId>b</driverId><name>a</name></device>"
+                               "</devices></configuration>");
+    Open();
+    EXPECT_EQ(m_project->DeviceByNameOrId(L"Feeder 1"), 0U);
+    EXPECT_EQ(m_project->DeviceByNameOrId(L"a"), 1U);
+    EXPECT_EQ(m_project->DeviceByNameOrId(L"b"), 1U);
+    EXPECT_EQ(Refused([this] { return m_project->DeviceByName(L"b"); }), IDS_PLANT_NO_DEVICE);
 }
 
 TEST_F(ProjectTest, CarriesOutAtItsOpeningWhatAKilledProcessHasLeft)

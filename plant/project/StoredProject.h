@@ -1,0 +1,38 @@
+// The documents of a project as its files hold them, for somebody who only reads, also beside a project that is open.
+#pragma once
+
+#include <string>
+
+#include "Disk.h"
+#include "KZXmlDocument.h"
+
+namespace plant {
+
+// The full path of a project's folder. Throws Refusal when there is no such folder.
+[[nodiscard]] Path ExistingFolder(const Path& folder);
+
+// Throws Refusal, naming the file and the place in it, when the bytes are no document with the root that is expected;
+// the document is then as it was.
+void ParseDocument(XmlDocument& document, const std::string& bytes, const Path& file);
+
+class StoredProject {
+public:
+    // Throws Refusal when the folder is missing, or when a save was interrupted there, which only the next opening
+    // ends.
+    explicit StoredProject(const Path& folder, Disk& disk = RealDisk());
+
+    [[nodiscard]] const Path& Folder() const noexcept { return m_folder; }
+
+    // Reads the main configuration document. Throws Refusal when it is missing or broken.
+    void ReadMain(XmlDocument& main) const;
+
+    // Reads a device's document into one with the root element "device". False when it is missing or empty: the
+    // document is then as it was. Throws Refusal when it is broken.
+    bool ReadDevice(const std::string& name, XmlDocument& document) const;
+
+private:
+    Disk& m_disk;
+    Path m_folder;
+};
+
+}  // namespace plant
