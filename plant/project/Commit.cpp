@@ -2,8 +2,8 @@
 
 #include "DocumentName.h"
 #include "Journal.h"
+#include "ReplaceFile.h"
 #include "Sealed.h"
-#include "text/Refusal.h"
 
 namespace plant {
 
@@ -26,7 +26,6 @@ private:
     [[nodiscard]] Journal Remaining(const Journal& journal) const;
     void Clear();
     void MakeFolders(const Change& change) const;
-    void CheckReplaceable(const Path& file) const;
     [[nodiscard]] Journal Stage(const Change& change, Journal& wayBack) const;
     void WriteDown(const Journal& journal) const;
     std::size_t CarryOut(const Journal& journal, std::exception_ptr& failure) const;
@@ -40,24 +39,6 @@ private:
 JournalStep StepFor(std::string target, std::string staged, std::string_view bytes)
 {
     return {std::move(target), std::move(staged), bytes.size(), HashOf(bytes)};
-}
-
-// Others look at files for a moment, virus scanners above all.
-template <class Operation>
-void Insist(Operation operation)
-{
-    constexpr int tries = 25;
-    constexpr int pause = 20;  // milliseconds
-    for (int count = 1;; ++count) {
-        try {
-            return operation();
-        } catch (const Refusal& refusal) {
-            const unsigned text = refusal.What().text;
-            if (count == tries || (text != IDS_PLANT_FILE_IN_USE && text != IDS_PLANT_FILE_DENIED))
-                throw;
-        }
-        KZPause(pause);
-    }
 }
 
 // A link in the place of a folder would lead what is put there to somewhere else.
@@ -140,27 +121,14 @@ void Commission::MakeFolders(const Change& change) const
     }
 }
 
-// Asked before the journal is written, while saying no still costs nothing.
-void Commission::CheckReplaceable(const Path& file) const
-{
-    const auto found = m_disk.Find(file);
-    if (found && found->readOnly)
-        throw Refusal(IDS_PLANT_FILE_READ_ONLY, {Shown(file)});
-    if (found && found->kind == KZFileEntry::Kind::Folder)
-        throw Refusal(IDS_PLANT_FILE_IS_FOLDER, {Shown(file)});
-    Insist([&] {
-        if (found && !m_disk.Hold(file, KZHold::ExistingFile))
-            throw Refusal(IDS_PLANT_FILE_IN_USE, {Shown(file)});
-    });
-}
-
 Journal Commission::Stage(const Change& change, Journal& wayBack) const
 {
     Journal journal;
     for (const auto& [name, bytes] : change) {
         const std::string number = std::to_string(journal.size() + 1);
         const Path target = FileOf(m_project, name);
-        CheckReplaceable(target);
+        // Before the journal is written saying no still costs nothing.
+        RequireReplaceable(m_disk, target);
         JournalStep back{name, {}};
         if (const std::optional<std::string> old = m_disk.Read(target)) {
             back = StepFor(name, number + ".old", *old);
