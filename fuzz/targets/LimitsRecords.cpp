@@ -79,7 +79,7 @@ void CheckRules(LimitsStore store)
 {
     Exchange(store);
     const bool isPower = &store.Table() == &PowerLimitsTable;
-    if (isPower ? CheckPowerLimits(store).has_value() : CheckHarmonicLimits(store).has_value())
+    if (CheckLimits(store))
         return;
     for (std::size_t v = isPower ? 1 : 0; v < store.Table().variables.size(); ++v) {
         const double inner = store.Value({v, LimitField::MaxW});
@@ -151,7 +151,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     XmlDocument::XmlNode* viewSetup = document.Node(L"viewSetups/viewSetup");
     if (!viewSetup)
-        viewSetup = &AppendViewSetup(document, L"zep-01");
+        viewSetup = &AppendSetup(document, ViewSetups, L"zep-01");
     for (const LimitsTable* table :
          {&PowerLimitsTable, &HarmonicLimitsTable(Side::Net), &HarmonicLimitsTable(Side::Load)}) {
         const LimitsStore store = Loaded(*table, *viewSetup);

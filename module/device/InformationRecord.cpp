@@ -1,13 +1,10 @@
 #include "InformationRecord.h"
 
 #include "ChildOrNew.h"
-#include "KZStringIds.h"
 #include "KZWideChar.h"
 
 namespace zep {
 namespace {
-
-constexpr const wchar_t* RecordName = L"information";
 
 constexpr std::size_t Index(InformationField field) noexcept
 {
@@ -23,38 +20,36 @@ constexpr bool TableFollowsTheFields() noexcept
 }
 static_assert(TableFollowsTheFields());
 
-// The bounds that an entry must keep. A lower bound that only the message names is not enforced.
+// A lower bound that only the message names is not enforced.
 struct EntryRule {
     InformationField field;
     const KZBasicString InformationEntries::*text;
-    std::optional<InformationBounds> bounds = std::nullopt;
     bool lowestEnforced = false;
 };
 
 // The ratio cannot be edited, so it has no range; it must still be there. A negative minimum current passes.
 constexpr std::array<EntryRule, 3> EntryRules{{
     {.field = InformationField::TransformerRatio, .text = &InformationEntries::transformerRatio},
-    {.field = InformationField::MinimumCurrent,
-     .text = &InformationEntries::minimumCurrent,
-     .bounds = InformationBounds{0, 200}},
-    {.field = InformationField::UnitCount,
-     .text = &InformationEntries::unitCount,
-     .bounds = InformationBounds{1, 8},
-     .lowestEnforced = true},
+    {.field = InformationField::MinimumCurrent, .text = &InformationEntries::minimumCurrent},
+    {.field = InformationField::UnitCount, .text = &InformationEntries::unitCount, .lowestEnforced = true},
 }};
+
+const std::optional<InformationBounds>& BoundsOf(const EntryRule& rule) noexcept
+{
+    return InformationFields[Index(rule.field)].bounds;
+}
 
 bool IsWithin(int value, const EntryRule& rule) noexcept
 {
-    if (!rule.bounds)
-        return true;
-    return value <= rule.bounds->highest && (!rule.lowestEnforced || value >= rule.bounds->lowest);
+    const auto& bounds = BoundsOf(rule);
+    return !bounds || (value <= bounds->highest && (!rule.lowestEnforced || value >= bounds->lowest));
 }
 
 }  // namespace
 
 InformationRecord::InformationRecord(const XmlDocument::XmlNode& root)
 {
-    const XmlDocument::XmlNode* const information = root.Node(RecordName);
+    const XmlDocument::XmlNode* const information = root.Node(InformationElement);
     for (const auto& info : InformationFields) {
         m_texts[Index(info.field)] = information ? information->Value(info.name, info.defaultText) : info.defaultText;
         if (info.setting)
@@ -89,7 +84,7 @@ std::optional<InformationFailure> CheckInformation(const InformationEntries& ent
             return InformationFailure{rule.field, KZS_FIELD_EMPTY, std::nullopt};
         const int value = KZWideChar::ToInteger(text.c_str());
         if (!IsWithin(value, rule))
-            return InformationFailure{rule.field, KZS_OUT_OF_RANGE, rule.bounds};
+            return InformationFailure{rule.field, KZS_OUT_OF_RANGE, BoundsOf(rule)};
         settings.*InformationFields[Index(rule.field)].setting = value;
     }
     settings.modes = entries.modes & ModeMask;
@@ -99,7 +94,7 @@ std::optional<InformationFailure> CheckInformation(const InformationEntries& ent
 
 void WriteInformation(XmlDocument::XmlNode& root, const InformationSettings& settings)
 {
-    XmlDocument::XmlNode& information = ChildOrNew(root, RecordName);
+    XmlDocument::XmlNode& information = ChildOrNew(root, InformationElement);
     for (const auto& info : InformationFields)
         if (info.written)
             information.SetValue(info.name, settings.*info.setting);

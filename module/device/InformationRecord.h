@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "KZBasicString.h"
+#include "KZStringIds.h"
 #include "KZXmlDocument.h"
 
 namespace zep {
@@ -46,8 +47,18 @@ struct InformationSettings {
     friend bool operator==(const InformationSettings&, const InformationSettings&) noexcept = default;
 };
 
+// The element below the document's root that holds the record.
+inline constexpr const wchar_t* InformationElement = L"information";
+
 inline constexpr int ModeMask = (1 << ModeCount) - 1;
 inline constexpr int FilterMask = (1 << FilterCount) - 1;
+
+struct InformationBounds {
+    int lowest = 0;
+    int highest = 0;
+
+    friend bool operator==(const InformationBounds&, const InformationBounds&) noexcept = default;
+};
 
 struct InformationFieldInfo {
     InformationField field;
@@ -56,6 +67,7 @@ struct InformationFieldInfo {
     int InformationSettings::*setting = nullptr;  // null for what is only shown
     int mask = ~0;                                // the bits of the number that count
     bool written = false;                         // the others keep whatever the document holds
+    std::optional<InformationBounds> bounds = std::nullopt;
 };
 
 inline constexpr std::size_t InformationFieldCount = 10;
@@ -79,12 +91,14 @@ inline constexpr std::array<InformationFieldInfo, InformationFieldCount> Informa
     {.field = InformationField::MinimumCurrent,
      .name = L"minCurrent",
      .setting = &InformationSettings::minimumCurrent,
-     .written = true},
+     .written = true,
+     .bounds = InformationBounds{0, 200}},
     {.field = InformationField::Algorithm, .name = L"algorithm"},
     {.field = InformationField::UnitCount,
      .name = L"numZEP",
      .setting = &InformationSettings::unitCount,
-     .written = true},
+     .written = true,
+     .bounds = InformationBounds{1, 8}},
     {.field = InformationField::Status, .name = L"status"},
 }};
 
@@ -95,13 +109,6 @@ struct InformationEntries {
     KZBasicString transformerRatio = {};
     KZBasicString minimumCurrent = {};
     KZBasicString unitCount = {};
-};
-
-struct InformationBounds {
-    int lowest = 0;
-    int highest = 0;
-
-    friend bool operator==(const InformationBounds&, const InformationBounds&) noexcept = default;
 };
 
 // The first entry that is refused. With bounds, the text is a format that takes both.
@@ -135,6 +142,14 @@ private:
     std::array<KZBasicString, InformationFieldCount> m_texts;
     InformationSettings m_settings;
 };
+
+// The host texts that stand for the modes and for the numbers of the two lists. "Off" has the higher id and still comes
+// first: the item's index is the record's value.
+inline constexpr std::array<unsigned, ModeCount> ModeTexts{KZS_MODE_FIRST, KZS_MODE_SECOND, KZS_MODE_THIRD,
+                                                           KZS_MODE_FOURTH};
+inline constexpr std::array<unsigned, AlgorithmCount> AlgorithmTexts{KZS_ALGORITHM_FIRST, KZS_ALGORITHM_SECOND,
+                                                                     KZS_ALGORITHM_THIRD};
+inline constexpr std::array<unsigned, StatusCount> StatusTexts{KZS_STATUS_OFF, KZS_STATUS_ON};
 
 // Checks the entries in the order ratio, current, units and stops at the first that is refused. Each entry accepted
 // goes into settings, check boxes included, so that settings are complete when nothing is returned.

@@ -33,16 +33,7 @@ constexpr Label Labels[] = {
     {IDC_ALGORITHM_GROUP, KZS_ALGORITHM},
     {IDC_UNITS_GROUP, KZS_NUMBER_OF_UNITS},
     {IDC_STATUS_GROUP, KZS_STATUS},
-    {IDC_MODE + 0, KZS_MODE_FIRST},
-    {IDC_MODE + 1, KZS_MODE_SECOND},
-    {IDC_MODE + 2, KZS_MODE_THIRD},
-    {IDC_MODE + 3, KZS_MODE_FOURTH},
 };
-
-// "Off" has the higher id and still comes first: the item's index is the record's value.
-constexpr unsigned StatusItems[] = {KZS_STATUS_OFF, KZS_STATUS_ON};
-constexpr unsigned AlgorithmItems[] = {KZS_ALGORITHM_FIRST, KZS_ALGORITHM_SECOND, KZS_ALGORITHM_THIRD};
-static_assert(std::size(StatusItems) == zep::StatusCount && std::size(AlgorithmItems) == zep::AlgorithmCount);
 
 template <std::size_t Count>
 void CheckBits(std::array<CButton, Count>& boxes, int bits)
@@ -61,7 +52,7 @@ int CheckedBits(const std::array<CButton, Count>& boxes)
 }
 
 template <std::size_t Count>
-void FillList(CComboBox& list, const unsigned (&items)[Count], int choice)
+void FillList(CComboBox& list, const std::array<unsigned, Count>& items, int choice)
 {
     for (const unsigned item : items)
         list.AddString(HostText(item).c_str());
@@ -163,6 +154,8 @@ void KZDeviceCfgZEP::SetTexts()
     SetWindowText(FormatHostText(KZS_DEVICE_TITLE, model.c_str()).c_str());
     for (const Label& label : Labels)
         SetDlgItemText(label.control, HostText(label.text).c_str());
+    for (std::size_t i = 0; i < zep::ModeTexts.size(); ++i)
+        SetDlgItemText(IDC_MODE + static_cast<int>(i), HostText(zep::ModeTexts[i]).c_str());
     for (int i = 0; i < zep::FilterCount; ++i)
         SetDlgItemText(IDC_FILTER + i, FormatHostText(KZS_HARMONIC_ORDER, zep::FilteredOrder(i)).c_str());
     SetDlgItemText(IDC_CURRENT_GROUP, HostText(KZS_MINIMUM_CURRENT).c_str());
@@ -187,8 +180,8 @@ void KZDeviceCfgZEP::ShowRecord(const zep::InformationRecord& record)
     }
     CheckBits(m_btnModes, m_initial.modes);
     CheckBits(m_btnFilters, m_initial.filters);
-    FillList(m_cmbAlgorithm, AlgorithmItems, record.AlgorithmChoice());
-    FillList(m_cmbStatus, StatusItems, record.StatusChoice());
+    FillList(m_cmbAlgorithm, zep::AlgorithmTexts, record.AlgorithmChoice());
+    FillList(m_cmbStatus, zep::StatusTexts, record.StatusChoice());
     // The device decides these three; here they are only shown.
     m_edtRatio.EnableWindow(FALSE);
     m_cmbAlgorithm.EnableWindow(FALSE);

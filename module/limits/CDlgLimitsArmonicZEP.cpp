@@ -30,10 +30,8 @@ constexpr auto Edits = [] {
 
 const LimitsPageTable& TableOf(zep::Side side)
 {
-    static const LimitsPageTable net{IDD_LIMITS_HARMONIC, zep::HarmonicLimitsTable(zep::Side::Net), Edits,
-                                     &zep::CheckHarmonicLimits};
-    static const LimitsPageTable load{IDD_LIMITS_HARMONIC, zep::HarmonicLimitsTable(zep::Side::Load), Edits,
-                                      &zep::CheckHarmonicLimits};
+    static const LimitsPageTable net{IDD_LIMITS_HARMONIC, zep::HarmonicLimitsTable(zep::Side::Net), Edits};
+    static const LimitsPageTable load{IDD_LIMITS_HARMONIC, zep::HarmonicLimitsTable(zep::Side::Load), Edits};
     return side == zep::Side::Net ? net : load;
 }
 

@@ -27,7 +27,7 @@ constexpr std::array<LimitEditIds, Groups> Edits{{
     {IDC_VA_NOMINAL, IDC_VA_MAXW, IDC_VA_MAXD},
 }};
 
-const LimitsPageTable Table{IDD_LIMITS_POWER, zep::PowerLimitsTable, Edits, &zep::CheckPowerLimits};
+const LimitsPageTable Table{IDD_LIMITS_POWER, zep::PowerLimitsTable, Edits};
 
 // A group's grid: heads, captions under them, edit boxes. The power factor has the lower limits beside the upper ones.
 class GroupLayout {

@@ -117,7 +117,7 @@ void CDlgLimitsZEP::SavePages()
 {
     XmlDocument& configuration = *KZMainCfg::Get();
     XmlDocument::XmlNode* const viewSetup =
-        m_pViewSetup ? m_pViewSetup : &zep::AppendViewSetup(configuration, m_pDriver->DriverId());
+        m_pViewSetup ? m_pViewSetup : &zep::AppendSetup(configuration, zep::ViewSetups, m_pDriver->DriverId());
     for (const auto& page : m_pages)
         page->Save(*viewSetup);
     configuration.SetDirty(true);

@@ -116,7 +116,7 @@ bool LimitsPage::Validate()
 {
     if (!UpdateData(TRUE))
         return false;  // it has said why
-    const auto failure = m_table.check(m_store);
+    const auto failure = zep::CheckLimits(m_store);
     if (failure)
         ShowFailure(*failure);
     return !failure;

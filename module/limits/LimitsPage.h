@@ -20,7 +20,6 @@ struct LimitsPageTable {
     unsigned templateId;
     const zep::LimitsTable& limits;
     std::span<const LimitEditIds> edits;  // as many as the table has variables
-    std::optional<zep::LimitFailure> (*check)(const zep::LimitsStore& store);
 };
 
 // The text of a message line or a row label.

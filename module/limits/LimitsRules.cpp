@@ -1,5 +1,8 @@
 #include "LimitsRules.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "KZNumber.h"
 #include "KZStringIds.h"
 #include "StoredNumber.h"
@@ -7,168 +10,179 @@
 namespace zep {
 namespace {
 
-// A broken rule: the field at fault, if the message names one, and why.
-struct Fault {
-    std::optional<LimitField> field;
-    unsigned reason;
-};
-using Verdict = std::optional<Fault>;
-
-// The numbers of one variable.
-class Numbers {
-public:
-    [[nodiscard]] double& operator[](LimitField field) noexcept { return m_values[static_cast<std::size_t>(field)]; }
-    [[nodiscard]] double operator[](LimitField field) const noexcept
-    {
-        return m_values[static_cast<std::size_t>(field)];
-    }
-    [[nodiscard]] double Folded(LimitField field) const noexcept { return FoldedPowerFactor((*this)[field]); }
-
-private:
-    std::array<double, LimitFieldCount> m_values{};
+struct RangeRule {
+    LimitField field;
+    LimitBounds bounds;
+    unsigned textId;
 };
 
-// One variable of a page as the rules see it.
-class Entries {
-public:
-    Entries(const LimitsStore& store, std::size_t variable) noexcept : m_store(store), m_variable(variable)
-    {
-        for (std::size_t f = 0; f < FieldCount(); ++f) {
-            const auto field = static_cast<LimitField>(f);
-            m_typed[field] = store.Value({variable, field});
-            m_stored[field] = StoredNumber(m_typed[field]).Value();
-        }
-    }
-
-    [[nodiscard]] bool IsNumber(LimitField field) const { return IsValidNumber(m_store.Text({m_variable, field}), -1); }
-    // Whether the numbers break a rule as typed or as stored: a limit of 0.0000001 is above 0, but not in the document.
-    template <class IsBroken>
-    [[nodiscard]] bool Break(IsBroken isBroken) const noexcept
-    {
-        return isBroken(m_typed) || isBroken(m_stored);
-    }
-
-    [[nodiscard]] std::size_t Variable() const noexcept { return m_variable; }
-    [[nodiscard]] std::size_t FieldCount() const noexcept { return m_store.Table().variables[m_variable].fieldCount; }
-
-private:
-    const LimitsStore& m_store;
-    std::size_t m_variable;
-    Numbers m_typed;
-    Numbers m_stored;
+// The inner limit must not lie above the outer one.
+struct OrderRule {
+    LimitField inner;
+    LimitField outer;
+    LimitFault fault;
 };
 
-// All texts of a variable, in the order of its fields.
-Verdict CheckNumbers(const Entries& entries)
-{
-    for (std::size_t f = 0; f < entries.FieldCount(); ++f)
-        if (const auto field = static_cast<LimitField>(f); !entries.IsNumber(field))
-            return Fault{field, KZS_NOT_A_NUMBER};
-    return std::nullopt;
-}
-
-// The fundamental's nominal is a current, every other one a percentage of it.
-Verdict CheckHarmonicNominal(const Entries& entries)
-{
-    constexpr auto nominal = LimitField::Nominal;
-    if (!entries.IsNumber(nominal))
-        return Fault{nominal, KZS_NOT_A_NUMBER};
-    const bool isCurrent = entries.Variable() == 0;
-    const unsigned reason = isCurrent ? KZS_CURRENT_BELOW_ZERO : KZS_PERCENTAGE_RANGE;
-    if (entries.Break([&](const Numbers& n) { return n[nominal] < 0.0 || (!isCurrent && n[nominal] >= 100.0); }))
-        return Fault{nominal, reason};
-    return std::nullopt;
-}
-
-// A harmonic limit may be exactly 100, which a nominal and a power limit may not.
-Verdict CheckHarmonicLimit(const Entries& entries, LimitField field)
-{
-    if (!entries.IsNumber(field))
-        return Fault{field, KZS_NOT_A_NUMBER};
-    if (entries.Break([&](const Numbers& n) { return n[field] <= 0.0 || n[field] > 100.0; }))
-        return Fault{field, KZS_LIMIT_RANGE};
-    return std::nullopt;
-}
-
-bool InnerIsAboveOuter(const Numbers& numbers) noexcept
-{
-    return numbers[LimitField::MaxW] > numbers[LimitField::MaxD];
-}
-
-Verdict CheckHarmonic(const Entries& entries)
-{
-    if (const auto fault = CheckHarmonicNominal(entries))
-        return fault;
-    for (const auto field : {LimitField::MaxD, LimitField::MaxW})
-        if (const auto fault = CheckHarmonicLimit(entries, field))
-            return fault;
-    if (entries.Break(InnerIsAboveOuter))
-        return Fault{LimitField::MaxW, KZS_LIMITS_ORDER};
-    return std::nullopt;
-}
+struct LimitRules {
+    std::span<const RangeRule> ranges;  // in the order in which they are told
+    std::span<const OrderRule> orders;
+    bool allNumbersFirst;  // before any range, in the order of the fields
+    bool isFolded = false;
+};
 
 // The range is kept by the outer upper and the inner lower limit alone.
-Verdict CheckPowerFactorRanges(const Entries& entries)
+constexpr LimitBounds ZeroOrOne{.lowest = 0.0, .highest = 1.0, .onlyEndsAreIn = true};
+constexpr LimitBounds PowerFactorBounds{.lowest = -1.0, .highest = 1.0};
+constexpr RangeRule PowerFactorRanges[] = {
+    {LimitField::Nominal, ZeroOrOne, KZS_POWER_FACTOR_NOMINAL},
+    {LimitField::MaxD, PowerFactorBounds, KZS_POWER_FACTOR_RANGE},
+    {LimitField::MinW, PowerFactorBounds, KZS_POWER_FACTOR_RANGE},
+};
+constexpr OrderRule PowerFactorOrders[] = {
+    {LimitField::MaxW, LimitField::MaxD, {LimitField::MaxW, KZS_LIMITS_ORDER}},
+    {LimitField::MinD, LimitField::MinW, {LimitField::MinW, KZS_LIMITS_ORDER}},
+    {LimitField::MinW, LimitField::MaxW, {LimitField::MinW, KZS_POWER_FACTOR_BANDS}},
+};
+
+constexpr LimitBounds PowerBounds{.lowest = 0.0, .highest = 100.0, .lowestIsIn = false, .highestIsIn = false};
+constexpr RangeRule PowerRanges[] = {
+    {LimitField::MaxW, PowerBounds, KZS_LIMIT_RANGE},
+    {LimitField::MaxD, PowerBounds, KZS_LIMIT_RANGE},
+};
+constexpr OrderRule PowerOrders[] = {
+    {LimitField::MaxW, LimitField::MaxD, {LimitField::MaxW, KZS_LIMITS_ORDER, false}},
+};
+
+// A harmonic limit may be exactly 100, which a nominal and a power limit may not.
+constexpr LimitBounds HarmonicBounds{.lowest = 0.0, .highest = 100.0, .lowestIsIn = false};
+// The fundamental's nominal is a current, every other one a percentage of it.
+constexpr RangeRule FundamentalRanges[] = {
+    {LimitField::Nominal, {.lowest = 0.0}, KZS_CURRENT_BELOW_ZERO},
+    {LimitField::MaxD, HarmonicBounds, KZS_LIMIT_RANGE},
+    {LimitField::MaxW, HarmonicBounds, KZS_LIMIT_RANGE},
+};
+constexpr RangeRule HarmonicRanges[] = {
+    {LimitField::Nominal, {.lowest = 0.0, .highest = 100.0, .highestIsIn = false}, KZS_PERCENTAGE_RANGE},
+    {LimitField::MaxD, HarmonicBounds, KZS_LIMIT_RANGE},
+    {LimitField::MaxW, HarmonicBounds, KZS_LIMIT_RANGE},
+};
+constexpr OrderRule HarmonicOrders[] = {
+    {LimitField::MaxW, LimitField::MaxD, {LimitField::MaxW, KZS_LIMITS_ORDER}},
+};
+
+const LimitRules& RulesOf(LimitKind kind) noexcept
 {
-    constexpr auto nominal = LimitField::Nominal;
-    if (entries.Break([](const Numbers& n) { return n[nominal] != 0.0 && n[nominal] != 1.0; }))
-        return Fault{nominal, KZS_POWER_FACTOR_NOMINAL};
-    for (const auto field : {LimitField::MaxD, LimitField::MinW})
-        if (entries.Break([&](const Numbers& n) { return n[field] < -1.0 || n[field] > 1.0; }))
-            return Fault{field, KZS_POWER_FACTOR_RANGE};
-    return std::nullopt;
+    static constexpr std::array<LimitRules, 4> rules{{
+        {PowerFactorRanges, PowerFactorOrders, true, true},
+        {PowerRanges, PowerOrders, true},
+        {FundamentalRanges, HarmonicOrders, false},
+        {HarmonicRanges, HarmonicOrders, false},
+    }};
+    return rules[static_cast<std::size_t>(kind)];
 }
 
-Verdict CheckPowerFactorOrder(const Entries& entries)
+// The limits of one variable as typed and as stored: 0.0000001 is above 0, but not in the document.
+class Limits {
+public:
+    explicit Limits(const LimitValues& typed) noexcept : m_typed(typed)
+    {
+        std::transform(typed.begin(), typed.end(), m_stored.begin(),
+                       [](double value) { return StoredNumber(value).Value(); });
+    }
+
+    [[nodiscard]] bool IsNumber(LimitField field) const noexcept { return !std::isnan(Of(m_typed, field)); }
+
+    [[nodiscard]] bool Keep(const RangeRule& rule) const noexcept
+    {
+        return rule.bounds.Hold(Of(m_typed, rule.field)) && rule.bounds.Hold(Of(m_stored, rule.field));
+    }
+
+    [[nodiscard]] bool Keep(const OrderRule& rule, bool isFolded) const noexcept
+    {
+        return IsInOrder(m_typed, rule, isFolded) && IsInOrder(m_stored, rule, isFolded);
+    }
+
+private:
+    [[nodiscard]] static double Of(const LimitValues& values, LimitField field) noexcept
+    {
+        return values[static_cast<std::size_t>(field)];
+    }
+    [[nodiscard]] static bool IsInOrder(const LimitValues& values, const OrderRule& rule, bool isFolded) noexcept
+    {
+        const double inner = Of(values, rule.inner);
+        const double outer = Of(values, rule.outer);
+        return isFolded ? !(FoldedPowerFactor(inner) > FoldedPowerFactor(outer)) : !(inner > outer);
+    }
+
+    LimitValues m_typed;
+    LimitValues m_stored{};
+};
+
+// What the page's edit boxes hold of a variable.
+LimitValues EnteredValues(const LimitsStore& store, std::size_t variable)
 {
-    const auto isAbove = [&](LimitField field, LimitField other) {
-        return entries.Break([&](const Numbers& n) { return n.Folded(field) > n.Folded(other); });
-    };
-    if (isAbove(LimitField::MaxW, LimitField::MaxD))
-        return Fault{LimitField::MaxW, KZS_LIMITS_ORDER};
-    if (isAbove(LimitField::MinD, LimitField::MinW))
-        return Fault{LimitField::MinW, KZS_LIMITS_ORDER};
-    if (isAbove(LimitField::MinW, LimitField::MaxW))
-        return Fault{LimitField::MinW, KZS_POWER_FACTOR_BANDS};
-    return std::nullopt;
+    LimitValues values{};
+    for (std::size_t f = 0; f < store.Table().variables[variable].fieldCount; ++f) {
+        const LimitCell cell{variable, static_cast<LimitField>(f)};
+        const bool isNumber = IsValidNumber(store.Text(cell), -1);
+        values[f] = isNumber ? store.Value(cell) : std::numeric_limits<double>::quiet_NaN();
+    }
+    return values;
 }
 
-Verdict CheckPowerFactor(const Entries& entries)
+LimitFailure HarmonicFailure(std::size_t row, const LimitFault& fault)
 {
-    if (const auto fault = CheckNumbers(entries))
-        return fault;
-    if (const auto fault = CheckPowerFactorRanges(entries))
-        return fault;
-    return CheckPowerFactorOrder(entries);
+    return {{{KZS_HARMONIC_CURRENTS, {}}, HarmonicLimitLabel(row), {fault.textId, {}}}, LimitCell{row, fault.field}};
 }
 
-Verdict CheckPower(const Entries& entries)
-{
-    if (const auto fault = CheckNumbers(entries))
-        return fault;
-    for (const auto field : {LimitField::MaxW, LimitField::MaxD})
-        if (entries.Break([&](const Numbers& n) { return n[field] <= 0.0 || n[field] >= 100.0; }))
-            return Fault{field, KZS_LIMIT_RANGE};
-    if (entries.Break(InnerIsAboveOuter))
-        return Fault{std::nullopt, KZS_LIMITS_ORDER};
-    return std::nullopt;
-}
-
-LimitFailure HarmonicFailure(std::size_t row, const Fault& fault)
-{
-    return {{{KZS_HARMONIC_CURRENTS, {}}, HarmonicLimitLabel(row), {fault.reason, {}}}, LimitCell{row, *fault.field}};
-}
-
-LimitFailure PowerFailure(PowerLimit variable, const Fault& fault)
+LimitFailure PowerFailure(PowerLimit variable, const LimitFault& fault)
 {
     LimitFailure failure{{{PowerLimitTitle(variable), {}}}, std::nullopt};
-    if (fault.field)
-        failure.lines.push_back({LimitFieldTitle(*fault.field), {}});
-    failure.lines.push_back({fault.reason, {}});
+    if (fault.namesField)
+        failure.lines.push_back({LimitFieldTitle(fault.field), {}});
+    failure.lines.push_back({fault.textId, {}});
     return failure;
 }
 
 }  // namespace
+
+bool LimitBounds::Hold(double value) const noexcept
+{
+    if (onlyEndsAreIn)
+        return value == lowest || value == highest;
+    return (lowestIsIn ? value >= lowest : value > lowest) && (highestIsIn ? value <= highest : value < highest);
+}
+
+const LimitBounds* BoundsOf(LimitKind kind, LimitField field) noexcept
+{
+    for (const RangeRule& rule : RulesOf(kind).ranges)
+        if (rule.field == field)
+            return &rule.bounds;
+    return nullptr;
+}
+
+std::vector<LimitFault> JudgeLimits(const LimitVariable& variable, const LimitValues& values)
+{
+    const LimitRules& rules = RulesOf(variable.kind);
+    const Limits limits(values);
+    std::vector<LimitFault> faults;
+    for (std::size_t f = 0; rules.allNumbersFirst && f < variable.fieldCount; ++f)
+        if (const auto field = static_cast<LimitField>(f); !limits.IsNumber(field))
+            faults.push_back({field, KZS_NOT_A_NUMBER});
+    for (const RangeRule& rule : rules.ranges) {
+        const bool isNumber = limits.IsNumber(rule.field);
+        if (!isNumber && !rules.allNumbersFirst)
+            faults.push_back({rule.field, KZS_NOT_A_NUMBER});
+        else if (isNumber && !limits.Keep(rule))
+            faults.push_back({rule.field, rule.textId});
+    }
+    if (!faults.empty())
+        return faults;
+    for (const OrderRule& rule : rules.orders)
+        if (!limits.Keep(rule, rules.isFolded))
+            faults.push_back(rule.fault);
+    return faults;
+}
 
 LimitMessageLine HarmonicLimitLabel(std::size_t row) noexcept
 {
@@ -191,23 +205,13 @@ unsigned LimitFieldTitle(LimitField field) noexcept
     return titles[static_cast<std::size_t>(field)];
 }
 
-std::optional<LimitFailure> CheckHarmonicLimits(const LimitsStore& store)
+std::optional<LimitFailure> CheckLimits(const LimitsStore& store)
 {
-    for (std::size_t row = 0; row < HarmonicRowCount; ++row)
-        if (const auto fault = CheckHarmonic({store, row}))
-            return HarmonicFailure(row, *fault);
-    return std::nullopt;
-}
-
-std::optional<LimitFailure> CheckPowerLimits(const LimitsStore& store)
-{
-    for (std::size_t v = 0; v < PowerLimitCount; ++v) {
-        const auto variable = static_cast<PowerLimit>(v);
-        const Entries entries{store, v};
-        const auto fault = variable == PowerLimit::PowerFactor ? CheckPowerFactor(entries) : CheckPower(entries);
-        if (fault)
-            return PowerFailure(variable, *fault);
-    }
+    const auto& variables = store.Table().variables;
+    for (std::size_t v = 0; v < variables.size(); ++v)
+        if (const auto faults = JudgeLimits(variables[v], EnteredValues(store, v)); !faults.empty())
+            return &store.Table() == &PowerLimitsTable ? PowerFailure(static_cast<PowerLimit>(v), faults.front())
+                                                       : HarmonicFailure(v, faults.front());
     return std::nullopt;
 }
 

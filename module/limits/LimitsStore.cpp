@@ -20,6 +20,16 @@ constexpr LimitField FieldAt(std::size_t index) noexcept
     return static_cast<LimitField>(index);
 }
 
+XmlDocument::XmlNode* FindCheck(const XmlDocument::XmlNode& viewSetup, const LimitVariable& variable)
+{
+    return viewSetup.NodeV(L"%s?%s=%s?", CheckElement, CheckVariable, variable.name.c_str());
+}
+
+void SetLimit(XmlDocument::XmlNode& check, LimitField field, double value)
+{
+    check.SetValue(LimitFieldNames[Index(field)], StoredNumber(value).Text());
+}
+
 }  // namespace
 
 LimitsStore::LimitsStore(const LimitsTable& table) : m_table(table), m_variables(table.variables.size())
@@ -67,7 +77,7 @@ void LimitsStore::Load(const XmlDocument::XmlNode& viewSetup)
 {
     const DocumentLocale locale;
     for (std::size_t v = 0; v < m_variables.size(); ++v)
-        if (const XmlDocument::XmlNode* check = viewSetup.NodeV(L"check?var=%s?", m_table.variables[v].name.data()))
+        if (const XmlDocument::XmlNode* check = FindCheck(viewSetup, m_table.variables[v]))
             LoadVariable(v, *check);
 }
 
@@ -109,15 +119,25 @@ void LimitsStore::Save(XmlDocument::XmlNode& viewSetup) const
 
 void LimitsStore::SaveVariable(std::size_t variable, XmlDocument::XmlNode& viewSetup) const
 {
-    XmlDocument::XmlNode& check = ChildOrNew(viewSetup, L"check", L"var", m_table.variables[variable].name.data());
+    XmlDocument::XmlNode& check =
+        ChildOrNew(viewSetup, CheckElement, CheckVariable, m_table.variables[variable].name.c_str());
     for (std::size_t f = 0; f < m_table.variables[variable].fieldCount; ++f)
-        check.SetValue(LimitFieldNames[f], StoredNumber(m_variables[variable].edited[f]).Text());
+        SetLimit(check, FieldAt(f), m_variables[variable].edited[f]);
 }
 
-XmlDocument::XmlNode& AppendViewSetup(XmlDocument& configuration, const KZBasicString& driverId)
+void ChangeLimit(XmlDocument& configuration, const KZBasicString& driverId, const LimitsTable& table, LimitCell cell,
+                 double value)
 {
-    XmlDocument::XmlNode& viewSetups = ChildOrNew(*configuration.Root(), L"viewSetups");
-    return NewChildWith(viewSetups, L"viewSetup", L"driverId", driverId.c_str());
+    const LimitVariable& variable = table.variables[cell.variable];
+    XmlDocument::XmlNode* const found = FindSetup(configuration, ViewSetups, driverId);
+    XmlDocument::XmlNode& setup = found ? *found : AppendSetup(configuration, ViewSetups, driverId);
+    XmlDocument::XmlNode* check = FindCheck(setup, variable);
+    if (!check) {
+        check = &NewChildWith(setup, CheckElement, CheckVariable, variable.name.c_str());
+        for (std::size_t f = 0; f < variable.fieldCount; ++f)
+            SetLimit(*check, FieldAt(f), ParseNumber(table.DefaultOf(FieldAt(f))));
+    }
+    SetLimit(*check, cell.field, value);
 }
 
 }  // namespace zep

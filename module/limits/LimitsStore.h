@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "DriverSetup.h"
 #include "KZBasicString.h"
 #include "KZXmlDocument.h"
 #include "LimitsTable.h"
@@ -64,8 +65,15 @@ private:
     bool m_modified = false;
 };
 
-// Appends a "viewSetup" of the driver to the configuration's "viewSetups", which is created when missing. It is always
-// a new one: looking for an existing one is the caller's business.
-[[nodiscard]] XmlDocument::XmlNode& AppendViewSetup(XmlDocument& configuration, const KZBasicString& driverId);
+inline constexpr SetupList ViewSetups{L"viewSetups", L"viewSetup"};
+
+// A "viewSetup" holds one of these per variable, which it names in "var".
+inline constexpr const wchar_t* CheckElement = L"check";
+inline constexpr const wchar_t* CheckVariable = L"var";
+
+// Changes one limit and nothing else, but that what is missing is made: a variable without a "check" gets one with the
+// defaults of all its limits. The document is not marked dirty.
+void ChangeLimit(XmlDocument& configuration, const KZBasicString& driverId, const LimitsTable& table, LimitCell cell,
+                 double value);
 
 }  // namespace zep

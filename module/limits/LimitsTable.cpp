@@ -4,10 +4,10 @@ namespace zep {
 namespace {
 
 const std::array<LimitVariable, PowerLimitCount> PowerVariables{{
-    {L"PF", LimitFieldCount},
-    {L"AP", UpperLimitFields},
-    {L"RP", UpperLimitFields},
-    {L"VA", UpperLimitFields},
+    {L"PF", LimitKind::PowerFactor, LimitFieldCount},
+    {L"AP", LimitKind::Power},
+    {L"RP", LimitKind::Power},
+    {L"VA", LimitKind::Power},
 }};
 
 // ARM1AN to ARM25AN on the net side.
@@ -17,6 +17,7 @@ public:
     {
         for (int row = 0; row < HarmonicRowCount; ++row)
             m_variables[static_cast<std::size_t>(row)].name = HarmonicCode(row) + SideLetter(side);
+        m_variables.front().kind = LimitKind::Fundamental;
     }
 
     [[nodiscard]] const LimitsTable& Table() const noexcept { return m_table; }

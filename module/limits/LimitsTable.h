@@ -20,8 +20,12 @@ inline constexpr std::array<const wchar_t*, LimitFieldCount> LimitFieldNames{L"n
 
 inline constexpr std::size_t UpperLimitFields = 3;  // nominal, maxW, maxD
 
+// Which rules its limits keep (LimitsRules.h).
+enum class LimitKind { PowerFactor, Power, Fundamental, Harmonic };
+
 struct LimitVariable {
     std::wstring name;  // the named value "var"
+    LimitKind kind = LimitKind::Harmonic;
     std::size_t fieldCount = UpperLimitFields;
 };
 

@@ -9,23 +9,45 @@ namespace {
 constexpr const wchar_t* KiloFactor = L"3";
 constexpr const wchar_t* PlainFactor = L"0";
 
-// Reading is not the mirror image of writing: only a factor of exactly "0" is plain, every other text and a missing
-// factor are kilo-units.
+UnitChoice ReadUnit(const XmlDocument::XmlNode& unit)
+{
+    return {KZWideChar::ToInteger(unit.Value(DecimalsName, DecimalsDefault)),
+            ScaleOf(unit.Value(FactorName, FactorDefault))};
+}
+
+XmlDocument::XmlNode& WriteUnit(XmlDocument::XmlNode& setup, PowerUnit name, const UnitChoice& choice)
+{
+    XmlDocument::XmlNode& unit = ChildOrNew(setup, L"unit", L"name", PowerUnitNames[static_cast<std::size_t>(name)]);
+    unit.SetValue(DecimalsName, choice.decimals);
+    unit.SetValue(FactorName, FactorOf(choice.scale));
+    return unit;
+}
+
+void WriteUnits(XmlDocument::XmlNode& setup, const UnitChoices& choices)
+{
+    for (std::size_t i = 0; i < PowerUnitCount; ++i)
+        WriteUnit(setup, static_cast<PowerUnit>(i), choices[i]);
+}
+
+}  // namespace
+
 int ScaleOf(const wchar_t* factor) noexcept
 {
     return KZWideChar::Compare(factor, PlainFactor) == 0 ? UnitChoice::Plain : UnitChoice::Kilo;
 }
 
-UnitChoice ReadUnit(const XmlDocument::XmlNode& unit)
+const wchar_t* FactorOf(int scale) noexcept
 {
-    return {KZWideChar::ToInteger(unit.Value(L"decimals", L"1")), ScaleOf(unit.Value(L"factor", L"1"))};
+    return scale == UnitChoice::Kilo ? KiloFactor : PlainFactor;
 }
 
-}  // namespace
+XmlDocument::XmlNode* FindUnit(const XmlDocument::XmlNode& setup, PowerUnit unit)
+{
+    return setup.NodeV(L"unit?name=%s?", PowerUnitNames[static_cast<std::size_t>(unit)]);
+}
 
 UnitsRecord::UnitsRecord(XmlDocument& configuration, const KZBasicString& driverId)
-    : m_configuration(configuration), m_driverId(driverId),
-      m_setup(configuration.Root()->NodeV(L"unitSetups/unitSetup?driverId=%s?", driverId.c_str()))
+    : m_configuration(configuration), m_driverId(driverId), m_setup(FindSetup(configuration, UnitSetups, driverId))
 {
 }
 
@@ -35,28 +57,32 @@ UnitChoices UnitsRecord::Read() const
     if (!m_setup)
         return choices;
     for (std::size_t i = 0; i < PowerUnitCount; ++i)
-        if (const XmlDocument::XmlNode* unit = m_setup->NodeV(L"unit?name=%s?", PowerUnitNames[i]))
+        if (const XmlDocument::XmlNode* unit = FindUnit(*m_setup, static_cast<PowerUnit>(i)))
             choices[i] = ReadUnit(*unit);
     return choices;
 }
 
+void ChangeUnit(XmlDocument& configuration, const KZBasicString& driverId, PowerUnit unit, std::optional<int> decimals,
+                std::optional<int> scale)
+{
+    XmlDocument::XmlNode* setup = FindSetup(configuration, UnitSetups, driverId);
+    if (!setup)
+        WriteUnits(*(setup = &AppendSetup(configuration, UnitSetups, driverId)), {});
+    XmlDocument::XmlNode* const found = FindUnit(*setup, unit);
+    XmlDocument::XmlNode& changed = found ? *found : WriteUnit(*setup, unit, {});
+    if (decimals)
+        changed.SetValue(DecimalsName, *decimals);
+    if (scale)
+        changed.SetValue(FactorName, FactorOf(*scale));
+}
+
 void UnitsRecord::Write(const UnitChoices& choices)
 {
-    XmlDocument::XmlNode& setup = m_setup ? *m_setup : NewSetup();
-    for (std::size_t i = 0; i < PowerUnitCount; ++i) {
-        XmlDocument::XmlNode& unit = ChildOrNew(setup, L"unit", L"name", PowerUnitNames[i]);
-        unit.SetValue(L"decimals", choices[i].decimals);
-        unit.SetValue(L"factor", choices[i].scale == UnitChoice::Kilo ? KiloFactor : PlainFactor);
-    }
+    XmlDocument::XmlNode& setup = m_setup ? *m_setup : AppendSetup(m_configuration, UnitSetups, m_driverId);
+    WriteUnits(setup, choices);
     m_configuration.SetDirty(true);
     // Not before it is whole: a write that fails leaves none.
     m_setup = &setup;
-}
-
-XmlDocument::XmlNode& UnitsRecord::NewSetup() const
-{
-    XmlDocument::XmlNode& setups = ChildOrNew(*m_configuration.Root(), L"unitSetups");
-    return NewChildWith(setups, L"unitSetup", L"driverId", m_driverId.c_str());
 }
 
 }  // namespace zep

@@ -3,7 +3,9 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 
+#include "DriverSetup.h"
 #include "KZBasicString.h"
 #include "KZXmlDocument.h"
 
@@ -35,6 +37,26 @@ struct UnitChoice {
 
 using UnitChoices = std::array<UnitChoice, PowerUnitCount>;
 
+// The named values of a unit, and what they are in a unit that lacks them.
+inline constexpr const wchar_t* DecimalsName = L"decimals";
+inline constexpr const wchar_t* DecimalsDefault = L"1";
+inline constexpr const wchar_t* FactorName = L"factor";
+inline constexpr const wchar_t* FactorDefault = L"1";
+
+// Reading is not the mirror image of writing: only a factor of exactly "0" is plain, every other text is kilo-units.
+[[nodiscard]] int ScaleOf(const wchar_t* factor) noexcept;
+[[nodiscard]] const wchar_t* FactorOf(int scale) noexcept;
+
+inline constexpr SetupList UnitSetups{L"unitSetups", L"unitSetup"};
+
+// Null while the setup lacks the unit.
+[[nodiscard]] XmlDocument::XmlNode* FindUnit(const XmlDocument::XmlNode& setup, PowerUnit unit);
+
+// Changes what is given of a unit and nothing else, but for what would read differently without: a driver without a
+// record gets one with both units, and a unit that is missing is written whole. The document is not marked dirty.
+void ChangeUnit(XmlDocument& configuration, const KZBasicString& driverId, PowerUnit unit, std::optional<int> decimals,
+                std::optional<int> scale);
+
 class UnitsRecord {
 public:
     // Looks up the driver's record in the main configuration document, which must outlive this object.
@@ -49,8 +71,6 @@ public:
     void Write(const UnitChoices& choices);
 
 private:
-    [[nodiscard]] XmlDocument::XmlNode& NewSetup() const;
-
     XmlDocument& m_configuration;
     KZBasicString m_driverId;
     XmlDocument::XmlNode* m_setup;  // null while the driver has no record

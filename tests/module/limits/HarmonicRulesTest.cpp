@@ -28,7 +28,7 @@ public:
     [[nodiscard]] Failure Check()
     {
         Pull(m_store);
-        return CheckHarmonicLimits(m_store);
+        return CheckLimits(m_store);
     }
 
 private:

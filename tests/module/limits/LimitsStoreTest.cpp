@@ -353,7 +353,7 @@ TEST(LimitsStoreExchange, TextThatIsNoNumberCountsForItsLeadingPart)
 TEST(ViewSetups, AreCreatedWithTheirSectionForADriver)
 {
     XmlDocument document(L"configuration");
-    const auto& viewSetup = AppendViewSetup(document, L"a?b/\"c\"");
+    const auto& viewSetup = AppendSetup(document, ViewSetups, L"a?b/\"c\"");
     EXPECT_STREQ(viewSetup.Value(L"driverId", L""), L"a?b/\"c\"");
     EXPECT_NE(document.Root()->NodeV(L"viewSetups/viewSetup?driverId=%s?", L"a?b/\"c\""), nullptr);
 }
@@ -363,8 +363,8 @@ TEST(ViewSetups, AreAlwaysAppendedToTheExistingSection)
     XmlDocument document(L"configuration");
     ASSERT_TRUE(document.Parse("<configuration><viewSetups><viewSetup><driverId>zep2</driverId><keep/></viewSetup>"
                                "</viewSetups></configuration>"));
-    static_cast<void>(AppendViewSetup(document, L"zep1"));
-    static_cast<void>(AppendViewSetup(document, L"zep1"));
+    static_cast<void>(AppendSetup(document, ViewSetups, L"zep1"));
+    static_cast<void>(AppendSetup(document, ViewSetups, L"zep1"));
     const auto* setup = document.Node(L"viewSetups/viewSetup");
     const std::array<const wchar_t*, 3> expected{L"zep2", L"zep1", L"zep1"};
     for (const auto* id : expected) {

@@ -43,7 +43,7 @@ public:
     [[nodiscard]] Failure Check()
     {
         Pull(m_store);
-        return CheckPowerLimits(m_store);
+        return CheckLimits(m_store);
     }
 
 private:

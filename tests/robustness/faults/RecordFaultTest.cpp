@@ -152,7 +152,7 @@ TEST_F(FailingMemory, LeavesTheLimitsWholeOrAsTheyWere)
     ExpectWholeOrNotAtAllOnEveryPage(L"configuration", Configuration, SaveLimits);
     ExpectWholeOrNotAtAllOnEveryPage(L"configuration", "<configuration></configuration>", [](Document& document) {
         const zep::LimitsStore store(zep::PowerLimitsTable);
-        store.Save(zep::AppendViewSetup(*document, L"zep1"));
+        store.Save(zep::AppendSetup(*document, zep::ViewSetups, L"zep1"));
     });
 }
 
