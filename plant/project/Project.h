@@ -69,6 +69,9 @@ public:
     [[nodiscard]] bool IsUnsaved(const std::string& name) const noexcept;
     // Writes all that is not saved. On failure everything on disk is as it was and what was changed stays unsaved.
     Outcome Save(const std::string& cause);
+    // Writes these device documents, and the main configuration document if it is changed, together with all that is
+    // not saved. On failure everything on disk is as it was, and these are unsaved changes too.
+    Outcome SaveTogether(Change devices, bool isMainChanged, const std::string& cause);
     // What is not saved needs no protection any more: the user does not want it.
     void Discard() noexcept;
     // Puts what is not saved into the recovery file. Throws Refusal.

@@ -41,6 +41,30 @@ Project::Outcome Project::Write(Change change, const std::string& cause)
     return Outcome::TookTheirs;
 }
 
+// What is written at once needs no protection before.
+Project::Outcome Project::SaveTogether(Change devices, bool isMainChanged, const std::string& cause)
+{
+    const auto keep = [&]() noexcept {
+        devices.merge(m_pending);
+        m_pending = std::move(devices);
+        if (isMainChanged)
+            KZMainCfg::Get()->SetDirty(true);
+    };
+    try {
+        Change documents = devices;
+        documents.merge(Waiting());
+        if (isMainChanged)
+            documents[std::string(MainDocument)] = KZMainCfg::Get()->Serialize();
+        const Outcome outcome = Write(std::move(documents), cause);
+        if (outcome == Outcome::Cancelled)
+            keep();
+        return outcome;
+    } catch (...) {
+        keep();
+        throw;
+    }
+}
+
 // Writes nothing when another program has changed some of the documents since they were read, other than to what may be
 // overwritten, and returns these. Nobody waits for the lock while a person thinks.
 ForeignChanges Project::WriteUnlessForeign(const Change& change, const std::string& cause,

@@ -38,6 +38,12 @@
 #define IDS_PLANT_DEVICE_BAD_GROUPS 3050        // %s %s %s: the file, the device, the text
 #define IDS_PLANT_SAVE_UNFINISHED 3051          // %s: the folder of the project
 
+#define IDS_PLANT_FIELD_NOT_WHOLE 3060
+#define IDS_PLANT_FIELD_NO_CHOICE 3061  // %s: the names, with "|" between them
+#define IDS_PLANT_FIELD_NO_SET 3062     // %s: the names, with "|" between them
+#define IDS_PLANT_FIELD_READ_ONLY 3063
+#define IDS_PLANT_FIELD_TWICE 3064
+
 #define IDS_PLANT_TABLE_EMPTY 3080         // %s: the file
 #define IDS_PLANT_TABLE_EMPTY_LINE 3081    // %s %s %s: the file, the row, the column
 #define IDS_PLANT_TABLE_LINE_END 3082      // %s %s %s: the file, the row, the column
