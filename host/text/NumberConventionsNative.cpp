@@ -3,7 +3,6 @@
 #include <climits>
 #include <clocale>
 #include <cwchar>
-#include <locale.h>
 
 namespace {
 

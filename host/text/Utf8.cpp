@@ -67,9 +67,10 @@ char32_t TakeCharacter(std::wstring_view& text) noexcept
 {
     const auto first = static_cast<char32_t>(text.front());
     text.remove_prefix(1);
-    const auto second = static_cast<char32_t>(text.empty() ? L'\0' : text.front());
-    if (sizeof(wchar_t) > 2 || !IsHighSurrogate(first) || !IsLowSurrogate(second))
+    if (sizeof(wchar_t) > 2 || !IsHighSurrogate(first) || text.empty() ||
+        !IsLowSurrogate(static_cast<char32_t>(text.front())))
         return first;
+    const auto second = static_cast<char32_t>(text.front());
     text.remove_prefix(1);
     return 0x10000 + ((first - 0xD800) << 10) + (second - 0xDC00);
 }

@@ -94,8 +94,9 @@ std::string Range(const zep::LimitBounds& bounds)
     const auto end = [](double value) { return std::isinf(value) ? std::string() : DecimalText(value); };
     if (bounds.onlyEndsAreIn)
         return end(bounds.lowest) + "|" + end(bounds.highest);
-    return (bounds.lowestIsIn ? "" : ">") + end(bounds.lowest) + ".." + (bounds.highestIsIn ? "" : "<") +
-           end(bounds.highest);
+    std::string range(bounds.lowestIsIn ? "" : ">");
+    range.append(end(bounds.lowest)).append(bounds.highestIsIn ? ".." : "..<").append(end(bounds.highest));
+    return range;
 }
 
 Field DeviceField(const DeviceRow& row)

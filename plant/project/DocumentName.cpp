@@ -75,9 +75,9 @@ std::string NameOf(const std::filesystem::path& path)
     return ToUtf8(path.native());
 }
 
-std::wstring Shown(std::filesystem::path path)
+std::wstring Shown(const std::filesystem::path& path)
 {
-    return path.make_preferred().native();
+    return std::filesystem::path(path).make_preferred().native();
 }
 
 #else
@@ -92,7 +92,7 @@ std::string NameOf(const std::filesystem::path& path)
     return path.native();
 }
 
-std::wstring Shown(std::filesystem::path path)
+std::wstring Shown(const std::filesystem::path& path)
 {
     return FromUtf8(path.native());
 }

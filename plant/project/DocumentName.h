@@ -33,6 +33,6 @@ struct NameLess {
 [[nodiscard]] std::string NameOf(const std::filesystem::path& path);
 
 // A path as messages show it; unlike path::wstring it takes names that the C locale cannot hold.
-[[nodiscard]] std::wstring Shown(std::filesystem::path path);
+[[nodiscard]] std::wstring Shown(const std::filesystem::path& path);
 
 }  // namespace plant
