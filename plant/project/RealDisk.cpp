@@ -60,6 +60,9 @@ void CheckLength([[maybe_unused]] const Path& file)
 std::string ReadToEnd(KZSystemFile& open, const Path& file)
 {
     std::string bytes;
+    std::error_code unknown;  // reading says why
+    if (const auto size = fs::file_size(file, unknown); !unknown)
+        bytes.reserve(size);
     Check(open.ReadToEnd(bytes), file);
     return bytes;
 }

@@ -8,7 +8,7 @@
 
 namespace plant {
 
-// A number that other content does not have (FNV-1a, 64 bits): it tells damage, not attacks.
+// A number that other content does not have: it tells damage, not attacks.
 [[nodiscard]] std::uint64_t HashOf(std::string_view bytes) noexcept;
 
 // The hash as 16 digits, and back; nothing when the text is no such number.
