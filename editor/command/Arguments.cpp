@@ -47,12 +47,13 @@ KZLanguage ParseLanguage(const std::string& value)
     return *language;
 }
 
-// One of the sections that a field may belong to.
-std::string ParseSection(const std::string& value)
+plant::FieldSection ParseSection(const std::string& value)
 {
+    int place = 0;
     for (const char* section : {"device", "units", "limits"}) {
         if (value == section)
-            return value;
+            return static_cast<plant::FieldSection>(place);
+        ++place;
     }
     Refuse("--section", value, "give device, units or limits");
 }
@@ -74,12 +75,7 @@ void TakeAssignments(const TypedArguments& typed, Arguments& arguments)
         }
         if (divider == std::string::npos)
             Refuse("KEY=VALUE", word, "write a key, = and a value; devices stand before the first of them");
-        const std::string key = word.substr(0, divider);
-        for (const auto& earlier : arguments.assignments) {
-            if (earlier.key == key)
-                Refuse("KEY=VALUE", word, "give each key one value");
-        }
-        arguments.assignments.push_back({key, word.substr(divider + 1)});
+        arguments.assignments.push_back({word.substr(0, divider), word.substr(divider + 1)});
     }
     if (arguments.devices.empty())
         throw EditorError("DEVICE: name one or more devices before the first KEY=VALUE");

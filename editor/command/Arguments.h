@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "KZQuorvelantaSetup.h"
+#include "fields/Field.h"
 #include "project/ChosenVariables.h"
 #include "project/GroupMask.h"
 
@@ -49,11 +50,11 @@ struct Arguments {
         std::string key;
         std::string value;
     };
-    std::vector<Assignment> assignments;  // of set
-    std::wstring type;                    // of the devices whose fields are listed
-    std::vector<std::string> fields;      // keys; none: all
-    std::vector<std::string> sections;    // of copy: device, units, limits; none: all
-    std::filesystem::path otherPath;      // import: the table, diff: the other project's folder
+    std::vector<Assignment> assignments;        // of set
+    std::wstring type;                          // of the devices whose fields are listed
+    std::vector<std::string> fields;            // keys; none: all
+    std::vector<plant::FieldSection> sections;  // of copy; none: all
+    std::filesystem::path otherPath;            // import: the table, diff: the other project's folder
     std::optional<std::filesystem::path> output;
     bool stored = false;   // get: without defaults
     bool dryRun = false;   // set, copy, import, restore: only say what would change

@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "Console.h"
+#include "FieldCommands.h"
 #include "KZLoadString.h"
 #include "ModuleCommands.h"
 #include "ProjectCommands.h"
@@ -109,6 +110,11 @@ ExitStatus RunCommand(const Arguments& arguments)
         {Command::Restore, RestoreSave},
         {Command::Recover, RecoverUnsaved},
         {Command::Modules, ListModules},
+        {Command::Fields, ListFields},
+        {Command::Get, PrintValues},
+        {Command::Set, SetValues},
+        {Command::Copy, CopyValues},
+        {Command::Diff, CompareProjects},
     };
     for (const auto& [command, run] : commands) {
         if (command == arguments.command)

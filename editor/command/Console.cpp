@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <string>
 
 #include "KZUtf8.h"
@@ -79,7 +80,16 @@ void PrintLine(std::string_view utf8)
         FlushOutput();
 }
 
-void PrintRow(std::initializer_list<std::string_view> values)
+void PrintLines(std::string_view utf8)
+{
+    while (!utf8.empty()) {
+        const std::size_t end = std::min(utf8.find('\n'), utf8.size() - 1);
+        PrintLine(utf8.substr(0, end));
+        utf8.remove_prefix(end + 1);
+    }
+}
+
+std::string Row(std::initializer_list<std::string_view> values)
 {
     std::string line;
     const char* separator = "";
@@ -87,7 +97,12 @@ void PrintRow(std::initializer_list<std::string_view> values)
         line.append(separator).append(Cell(value));
         separator = "\t";
     }
-    PrintLine(line);
+    return line;
+}
+
+void PrintRow(std::initializer_list<std::string_view> values)
+{
+    PrintLine(Row(values));
 }
 
 void FlushOutput()

@@ -25,6 +25,10 @@ void ParseDocument(XmlDocument& document, const std::string& bytes, const Path& 
 
 StoredProject::StoredProject(const Path& folder, Disk& disk) : m_disk(disk), m_folder(ExistingFolder(folder))
 {
+    if (!HasJournal(m_disk, m_folder))
+        return;
+    // A save that is under way ends soon.
+    const ProjectLock lock(m_disk, m_folder);
     if (HasJournal(m_disk, m_folder))
         throw Refusal(IDS_PLANT_SAVE_UNFINISHED, {Shown(m_folder)});
 }

@@ -17,8 +17,8 @@ void ParseDocument(XmlDocument& document, const std::string& bytes, const Path& 
 
 class StoredProject {
 public:
-    // Throws Refusal when the folder is missing, or when a save was interrupted there, which only the next opening
-    // ends.
+    // Waits for a save that is under way. Throws Refusal when the folder is missing, or when a save was interrupted
+    // there, which only the next opening completes.
     explicit StoredProject(const Path& folder, Disk& disk = RealDisk());
 
     [[nodiscard]] const Path& Folder() const noexcept { return m_folder; }

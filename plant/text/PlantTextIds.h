@@ -36,6 +36,8 @@
 #define IDS_PLANT_DEVICE_DOUBLE_NAME 3048       // %s %s %s: the file, the device, the name
 #define IDS_PLANT_DEVICE_BAD_NUMBER 3049        // %s %s %s: the file, the device, the text
 #define IDS_PLANT_DEVICE_BAD_GROUPS 3050        // %s %s %s: the file, the device, the text
+#define IDS_PLANT_DEVICE_NO_FIELDS 3052         // %s %s: the device, its type
+#define IDS_PLANT_NO_FIELD 3053                 // %s: the key
 #define IDS_PLANT_SAVE_UNFINISHED 3051          // %s: the folder of the project
 
 #define IDS_PLANT_FIELD_NOT_WHOLE 3060

@@ -38,10 +38,10 @@ EditorProcess& EditorTest::Start(const std::vector<std::string>& arguments)
     return StartBare(all);
 }
 
-std::map<std::string, std::string> EditorTest::ProjectFiles() const
+std::map<std::string, std::string> EditorTest::ProjectFiles(const char* folder) const
 {
     std::map<std::string, std::string> files;
-    for (const auto& entry : fs::recursive_directory_iterator(m_folder.Path() / "plant")) {
+    for (const auto& entry : fs::recursive_directory_iterator(m_folder.Path() / folder)) {
         const fs::path relative = fs::relative(entry.path(), m_folder.Path());
         if (entry.is_regular_file())
             files[relative.string()] = m_folder.Read(relative);

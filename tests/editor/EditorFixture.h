@@ -22,8 +22,8 @@ protected:
     // Starts it with these arguments alone.
     EditorProcess& StartBare(const std::vector<std::string>& arguments);
 
-    // Every file of the project with its content.
-    [[nodiscard]] std::map<std::string, std::string> ProjectFiles() const;
+    // Every file of the project, or of another folder beside it, with its content.
+    [[nodiscard]] std::map<std::string, std::string> ProjectFiles(const char* folder = "plant") const;
     // The same without what protects unsaved changes.
     [[nodiscard]] std::map<std::string, std::string> Documents() const
     {

@@ -1,0 +1,257 @@
+// The commands on fields, run as a script runs them: what they print, write and refuse.
+#include "FieldCommandsFixture.h"
+
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+using testing::StartsWith;
+
+namespace {
+
+using FieldCommands = editor_tests::FieldCommandsTest;
+
+}  // namespace
+
+TEST_F(FieldCommands, FieldsListsEveryKeyInTheOrderOfTheTable)
+{
+    const Lines lines = Run({"fields"});
+    ASSERT_THAT(lines, SizeIs(106));
+    EXPECT_EQ(lines[0], "device.version\ttext\t-\t-\tr\tFirmware version");
+    EXPECT_THAT(lines[3], StartsWith("device.mode\tset\t-\tharmonics|reactive|balance|neutral\trw\t"));
+    EXPECT_EQ(lines[6], "device.minCurrent\twhole number\tA\t0..200\trw\tMinimum current");
+    EXPECT_THAT(lines[10], StartsWith("units.AP-VA.scale\tchoice\t-\tkilo|plain\trw\tActive and apparent power, "));
+    EXPECT_THAT(lines[11], StartsWith("units.AP-VA.decimals\twhole number\t-\t0..3\trw\t"));
+    EXPECT_THAT(lines[14], StartsWith("limits.PF.nominal\tdecimal\t-\t0|1\trw\tPower factor, "));
+    EXPECT_THAT(lines[105], StartsWith("limits.ARM25AL.maxD\tdecimal\t%\t>0..100\trw\tHarmonic 25, Load, "));
+    EXPECT_EQ(Run({"fields", "--type", "ZEP"}), lines);
+}
+
+TEST_F(FieldCommands, FieldsNeedsNoProjectAndSpeaksTheLanguage)
+{
+    const auto run = [this](const char* language) {
+        auto& editor = StartBare({"--project", ProjectPath() + "-gone", "--language", language, "fields"});
+        EXPECT_EQ(editor.Wait(), 0) << editor.Errors();
+        return editor.Output();
+    };
+    EXPECT_THAT(run("en"), HasSubstr("\tMinimum current\n"));
+    EXPECT_THAT(run("es"), HasSubstr("\tCorriente mínima\n"));
+}
+
+TEST_F(FieldCommands, FieldsRefusesATypeWithoutATable)
+{
+    ExpectError(Start({"fields", "--type", "XYZ"}), {"--type", "\"XYZ\"", "ZEP"});
+}
+
+TEST_F(FieldCommands, GetPrintsEveryFieldOfEveryDeviceWithATable)
+{
+    const Lines lines = Run({"get"});
+    ASSERT_THAT(lines, SizeIs(2 * 106));
+    EXPECT_EQ(lines[0], "GRÚA.1\tdevice.version\t2.4.1");
+    EXPECT_EQ(lines[3], "GRÚA.1\tdevice.mode\tharmonics+neutral");
+    EXPECT_EQ(lines[6], "GRÚA.1\tdevice.minCurrent\t7");
+    EXPECT_EQ(lines[106], "NODIALOG\tdevice.version\t?");
+    EXPECT_EQ(lines[106 + 3], "NODIALOG\tdevice.mode\tnone");
+    EXPECT_EQ(lines[106 + 6], "NODIALOG\tdevice.minCurrent\t") << "where the dialog shows nothing";
+    EXPECT_THAT(lines, Not(Contains(StartsWith("OTHER"))));
+}
+
+TEST_F(FieldCommands, GetPrintsTheNamedFieldsOfTheNamedDevicesInTheOrderNamed)
+{
+    EXPECT_THAT(Run({"get", "zep-2", "GRÚA.1", "NODIALOG", "--field", "units.RP.scale", "--field", "limits.PF.maxW",
+                     "--field", "units.RP.scale"}),
+                ElementsAre("NODIALOG\tunits.RP.scale\tplain", "NODIALOG\tlimits.PF.maxW\t1",
+                            "GRÚA.1\tunits.RP.scale\tkilo", "GRÚA.1\tlimits.PF.maxW\t0.95"));
+}
+
+TEST_F(FieldCommands, GetPrintsOnlyWhatTheDocumentsHoldWhenAskedForWhatIsStored)
+{
+    EXPECT_THAT(Run({"get", "NODIALOG", "--stored"}), IsEmpty());
+    EXPECT_THAT(Run({"get", "--stored", "--field", "device.minCurrent", "--field", "device.gamma", "--field",
+                     "units.AP-VA.decimals", "--field", "limits.PF.maxD", "--field", "limits.PF.maxW"}),
+                ElementsAre("GRÚA.1\tdevice.minCurrent\t7", "GRÚA.1\tlimits.PF.maxW\t0.95"));
+}
+
+TEST_F(FieldCommands, GetPrintsTabsLineEndsAndBackslashesByTheirLetters)
+{
+    m_folder.Write("plant/devices/zep-2.xml",
+                   "<device><information><version>a&#9;b&#10;c&#13;d\\e</version></information></device>");
+    EXPECT_THAT(Run({"get", "NODIALOG", "--field", "device.version"}),
+                ElementsAre("NODIALOG\tdevice.version\ta\\tb\\nc\\rd\\\\e"));
+}
+
+TEST_F(FieldCommands, GetRefusesUnknownDevicesTypesAndKeys)
+{
+    ExpectError(Start({"get", "GRÚA.1", "GRUA"}), {"\"GRUA\"", "GRÚA.1, NODIALOG, OTHER"});
+    ExpectError(Start({"get", "GRÚA.1", "xyz-1"}), {"OTHER", "\"XYZ\""});
+    ExpectError(Start({"get", "--field", "device.colour"}), {"\"device.colour\"", "fields"});
+}
+
+TEST_F(FieldCommands, GetPrintsNothingWhenADocumentIsBroken)
+{
+    m_folder.Write("plant/devices/zep-2.xml", "<device>\n<information>");
+    ExpectError(Start({"get"}), {"zep-2.xml", "2"});
+    EXPECT_THAT(Run({"get", "GRÚA.1"}), SizeIs(106));
+    m_folder.Write("plant/main.xml", "<configuration>");
+    ExpectError(Start({"get"}), {"main.xml"});
+}
+
+TEST_F(FieldCommands, SetWritesWhatIsNamedAndPrintsWhatChanged)
+{
+    EXPECT_THAT(Run({"set", "GRÚA.1", "NODIALOG", "device.minCurrent=7", "limits.AP.maxD=50"}),
+                ElementsAre("GRÚA.1\tlimits.AP.maxD\t1\t50", "NODIALOG\tdevice.minCurrent\t\t7",
+                            "NODIALOG\tlimits.AP.maxD\t1\t50"));
+    EXPECT_EQ(m_folder.Read("plant/devices/zep-1.xml"), editor_tests::FirstDevice) << "it had that current already";
+    EXPECT_THAT(m_folder.Read("plant/devices/zep-2.xml"), HasSubstr("<minCurrent>7</minCurrent>"));
+    EXPECT_THAT(Run({"get", "--field", "limits.AP.maxD"}),
+                ElementsAre("GRÚA.1\tlimits.AP.maxD\t50", "NODIALOG\tlimits.AP.maxD\t50"));
+    EXPECT_THAT(Run({"history"}),
+                ElementsAre(AllOf(StartsWith("1\t"), HasSubstr("\tset\t"), HasSubstr("\tdevices/zep-2.xml,main.xml"))));
+}
+
+TEST_F(FieldCommands, SetAnswersThatNothingDifferedAndSavesNothing)
+{
+    const auto before = ProjectFiles();
+    EXPECT_THAT(Run({"set", "GRÚA.1", "device.minCurrent=7", "device.mode=harmonics+neutral"}, 1), IsEmpty());
+    EXPECT_EQ(ProjectFiles(), before);
+}
+
+TEST_F(FieldCommands, SetOnlySaysWhatWouldChangeOnADryRun)
+{
+    const auto before = ProjectFiles();
+    EXPECT_THAT(Run({"set", "zep-1", "device.minCurrent=200", "--dry-run"}),
+                ElementsAre("GRÚA.1\tdevice.minCurrent\t7\t200"));
+    EXPECT_EQ(ProjectFiles(), before);
+}
+
+TEST_F(FieldCommands, SetWritesNothingAndSaysEveryFindingWhenOneIsRefused)
+{
+    const auto before = ProjectFiles();
+    auto& editor = Start({"set", "GRÚA.1", "NODIALOG", "device.minCurrent=201", "device.gamma=x", "device.mode=none",
+                          "limits.PF.minW=0.97", "units.RP.decimals="});
+    EXPECT_EQ(editor.Wait(), 2);
+    EXPECT_EQ(editor.Output(), "");
+    const Lines errors = LinesOf(editor.Errors());
+    ASSERT_THAT(errors, SizeIs(8)) << editor.Errors();
+    EXPECT_THAT(errors, Contains(AllOf(StartsWith("GRÚA.1: device.minCurrent: "), HasSubstr("0"), HasSubstr("200"))));
+    EXPECT_THAT(errors, Contains(StartsWith("GRÚA.1: device.gamma: ")));
+    EXPECT_THAT(errors, Contains(StartsWith("GRÚA.1: units.RP.decimals: ")));
+    EXPECT_THAT(errors, Contains(StartsWith("GRÚA.1: limits.PF.minW: ")));
+    EXPECT_THAT(errors, Contains(StartsWith("NODIALOG: device.minCurrent: ")));
+    EXPECT_EQ(ProjectFiles(), before);
+}
+
+TEST_F(FieldCommands, SetRefusesUnknownDevicesTypesAndKeys)
+{
+    const auto before = ProjectFiles();
+    ExpectError(Start({"set", "GRUA", "device.minCurrent=1"}), {"\"GRUA\""});
+    ExpectError(Start({"set", "GRÚA.1", "OTHER", "device.minCurrent=1"}), {"OTHER", "\"XYZ\""});
+    ExpectError(Start({"set", "GRÚA.1", "device.minCurrent=1", "device.colour=1"}), {"\"device.colour\""});
+    EXPECT_EQ(ProjectFiles(), before);
+}
+
+TEST_F(FieldCommands, CopyTakesEverythingThatCanBeSet)
+{
+    const Lines lines = Run({"copy", "GRÚA.1", "zep-2"});
+    EXPECT_THAT(lines,
+                ElementsAre("NODIALOG\tdevice.mode\tnone\tharmonics+neutral", "NODIALOG\tdevice.filters\tnone\t3+5",
+                            "NODIALOG\tdevice.minCurrent\t\t7", "NODIALOG\tdevice.numZEP\t\t2",
+                            "NODIALOG\tunits.RP.scale\tplain\tkilo", "NODIALOG\tunits.RP.decimals\t1\t2",
+                            "NODIALOG\tlimits.PF.nominal\t0\t1", "NODIALOG\tlimits.PF.maxW\t1\t0.95",
+                            "NODIALOG\tlimits.PF.minW\t1\t0.9", "NODIALOG\tlimits.PF.minD\t1\t0.8"));
+    EXPECT_THAT(m_folder.Read("plant/devices/zep-2.xml"), Not(HasSubstr("<version>")));
+    EXPECT_THAT(Run({"copy", "GRÚA.1", "zep-2", "GRÚA.1"}, 1), IsEmpty());
+    EXPECT_THAT(Run({"history"}), ElementsAre(HasSubstr("\tcopy\tdevices/zep-2.xml,main.xml")));
+}
+
+TEST_F(FieldCommands, CopyTakesTheNamedSectionsOrFields)
+{
+    const auto before = ProjectFiles();
+    EXPECT_THAT(Run({"copy", "GRÚA.1", "NODIALOG", "--section", "limits", "--section", "device", "--dry-run"}),
+                SizeIs(8));
+    EXPECT_THAT(Run({"copy", "GRÚA.1", "NODIALOG", "--section", "units", "--dry-run"}),
+                ElementsAre("NODIALOG\tunits.RP.scale\tplain\tkilo", "NODIALOG\tunits.RP.decimals\t1\t2"));
+    EXPECT_THAT(
+        Run({"copy", "GRÚA.1", "NODIALOG", "--field", "limits.PF.nominal", "--field", "device.mode", "--dry-run"}),
+        ElementsAre("NODIALOG\tlimits.PF.nominal\t0\t1", "NODIALOG\tdevice.mode\tnone\tharmonics+neutral"));
+    EXPECT_EQ(ProjectFiles(), before);
+}
+
+TEST_F(FieldCommands, CopyRefusesWhatCannotBeSet)
+{
+    const auto before = ProjectFiles();
+    ExpectError(Start({"copy", "GRÚA.1", "NODIALOG", "--field", "device.gamma"}), {"NODIALOG: device.gamma: "});
+    ExpectError(Start({"copy", "NODIALOG", "GRÚA.1", "--field", "device.minCurrent"}), {"GRÚA.1: device.minCurrent: "});
+    ExpectError(Start({"copy", "GRÚA.1", "NODIALOG", "--field", "device.colour"}), {"\"device.colour\""});
+    ExpectError(Start({"copy", "GRÚA.1", "OTHER"}), {"OTHER", "\"XYZ\""});
+    ExpectError(Start({"copy", "OTHER", "GRÚA.1"}), {"OTHER", "\"XYZ\""});
+    ExpectError(Start({"copy", "GRUA", "GRÚA.1"}), {"\"GRUA\""});
+    m_folder.Write("plant/devices/zep-1.xml",
+                   "<device><information><minCurrent>201</minCurrent></information></device>");
+    ExpectError(Start({"copy", "GRÚA.1", "NODIALOG", "--field", "device.minCurrent"}), {"NODIALOG: device.minCurrent"});
+    m_folder.Write("plant/devices/zep-1.xml", editor_tests::FirstDevice);
+    EXPECT_EQ(ProjectFiles(), before);
+}
+
+TEST_F(FieldCommands, CopyLeavesEmptyWhatBothHaveNoValueOf)
+{
+    m_folder.Write("plant/devices/zep-1.xml", "<device><information><mode>1</mode></information></device>");
+    EXPECT_THAT(Run({"copy", "GRÚA.1", "NODIALOG", "--section", "device"}),
+                ElementsAre("NODIALOG\tdevice.mode\tnone\tharmonics"));
+}
+
+TEST_F(FieldCommands, DiffOfEqualProjectsPrintsNothing)
+{
+    CopyPlant("other");
+    EXPECT_THAT(Diff(0), IsEmpty());
+}
+
+TEST_F(FieldCommands, DiffPrintsWhatDiffersHereAndThereByName)
+{
+    CopyPlant("other");
+    m_folder.Write("other/main.xml", editor_tests::MainXml(editor_tests::DeviceXml("new-id", "NODIALOG") +
+                                                           editor_tests::DeviceXml("zep-9", "ADDED") +
+                                                           editor_tests::DeviceXml("xyz-9", "SPECIAL", "0x0", "XYZ") +
+                                                           editor_tests::DeviceXml("zep-1", "CHANGED", "0x0", "XYZ")));
+    m_folder.Write("other/devices/new-id.xml",
+                   "<device><information><minCurrent>05</minCurrent><version>?</version></information></device>");
+    m_folder.Write("plant/main.xml", editor_tests::MainXml(editor_tests::DeviceXml("zep-1", "GRÚA.1") +
+                                                           editor_tests::DeviceXml("zep-2", "NODIALOG") +
+                                                           editor_tests::DeviceXml("zep-3", "CHANGED") +
+                                                           editor_tests::DeviceXml("xyz-1", "OTHER", "0x0", "XYZ")));
+    const auto before = ProjectFiles();
+    const auto theirs = ProjectFiles("other");
+    EXPECT_THAT(Diff(1), ElementsAre("GRÚA.1\t-\tpresent\tabsent", "NODIALOG\tdevice.minCurrent\t\t5",
+                                     "CHANGED\t-\tZEP\tXYZ", "ADDED\t-\tabsent\tpresent"));
+    EXPECT_EQ(ProjectFiles(), before);
+    EXPECT_EQ(ProjectFiles("other"), theirs);
+}
+
+TEST_F(FieldCommands, DiffComparesValuesNotTexts)
+{
+    CopyPlant("other");
+    m_folder.Write("other/devices/zep-2.xml", "<device><information><mode>0</mode></information></device>");
+    std::string main = m_folder.Read("other/main.xml");
+    main.replace(main.find("0.950000"), 8, "0.95");
+    m_folder.Write("other/main.xml", main);
+    EXPECT_THAT(Diff(0), IsEmpty());
+    main.replace(main.find("0.95"), 4, "0.96");
+    m_folder.Write("other/main.xml", main);
+    EXPECT_THAT(Diff(1), ElementsAre("GRÚA.1\tlimits.PF.maxW\t0.95\t0.96"));
+}
+
+TEST_F(FieldCommands, DiffRefusesAnotherProjectThatIsMissingOrBroken)
+{
+    const std::string other = ToUtf8((m_folder.Path() / "other").wstring());
+    ExpectError(Start({"diff", other}), {"other"});
+    CopyPlant("other");
+    m_folder.Write("other/devices/zep-2.xml", "<device>");
+    ExpectError(Start({"diff", other}), {"other", "zep-2.xml"});
+    m_folder.Write("other/main.xml", "<configuration><devices><device/></devices></configuration>");
+    ExpectError(Start({"diff", other}), {"other", "main.xml", "driverId"});
+    std::filesystem::remove(m_folder.Path() / "other" / "main.xml");
+    ExpectError(Start({"diff", other}), {"other", "main.xml"});
+}
