@@ -1,7 +1,6 @@
-// The commands on fields, run as a script runs them: what they print, write and refuse.
+// The commands that read fields, run as a script runs them.
 #include "FieldCommandsFixture.h"
 
-using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -97,110 +96,6 @@ TEST_F(FieldCommands, GetPrintsNothingWhenADocumentIsBroken)
     EXPECT_THAT(Run({"get", "GRÚA.1"}), SizeIs(106));
     m_folder.Write("plant/main.xml", "<configuration>");
     ExpectError(Start({"get"}), {"main.xml"});
-}
-
-TEST_F(FieldCommands, SetWritesWhatIsNamedAndPrintsWhatChanged)
-{
-    EXPECT_THAT(Run({"set", "GRÚA.1", "NODIALOG", "device.minCurrent=7", "limits.AP.maxD=50"}),
-                ElementsAre("GRÚA.1\tlimits.AP.maxD\t1\t50", "NODIALOG\tdevice.minCurrent\t\t7",
-                            "NODIALOG\tlimits.AP.maxD\t1\t50"));
-    EXPECT_EQ(m_folder.Read("plant/devices/zep-1.xml"), editor_tests::FirstDevice) << "it had that current already";
-    EXPECT_THAT(m_folder.Read("plant/devices/zep-2.xml"), HasSubstr("<minCurrent>7</minCurrent>"));
-    EXPECT_THAT(Run({"get", "--field", "limits.AP.maxD"}),
-                ElementsAre("GRÚA.1\tlimits.AP.maxD\t50", "NODIALOG\tlimits.AP.maxD\t50"));
-    EXPECT_THAT(Run({"history"}),
-                ElementsAre(AllOf(StartsWith("1\t"), HasSubstr("\tset\t"), HasSubstr("\tdevices/zep-2.xml,main.xml"))));
-}
-
-TEST_F(FieldCommands, SetAnswersThatNothingDifferedAndSavesNothing)
-{
-    const auto before = ProjectFiles();
-    EXPECT_THAT(Run({"set", "GRÚA.1", "device.minCurrent=7", "device.mode=harmonics+neutral"}, 1), IsEmpty());
-    EXPECT_EQ(ProjectFiles(), before);
-}
-
-TEST_F(FieldCommands, SetOnlySaysWhatWouldChangeOnADryRun)
-{
-    const auto before = ProjectFiles();
-    EXPECT_THAT(Run({"set", "zep-1", "device.minCurrent=200", "--dry-run"}),
-                ElementsAre("GRÚA.1\tdevice.minCurrent\t7\t200"));
-    EXPECT_EQ(ProjectFiles(), before);
-}
-
-TEST_F(FieldCommands, SetWritesNothingAndSaysEveryFindingWhenOneIsRefused)
-{
-    const auto before = ProjectFiles();
-    auto& editor = Start({"set", "GRÚA.1", "NODIALOG", "device.minCurrent=201", "device.gamma=x", "device.mode=none",
-                          "limits.PF.minW=0.97", "units.RP.decimals="});
-    EXPECT_EQ(editor.Wait(), 2);
-    EXPECT_EQ(editor.Output(), "");
-    const Lines errors = LinesOf(editor.Errors());
-    ASSERT_THAT(errors, SizeIs(8)) << editor.Errors();
-    EXPECT_THAT(errors, Contains(AllOf(StartsWith("GRÚA.1: device.minCurrent: "), HasSubstr("0"), HasSubstr("200"))));
-    EXPECT_THAT(errors, Contains(StartsWith("GRÚA.1: device.gamma: ")));
-    EXPECT_THAT(errors, Contains(StartsWith("GRÚA.1: units.RP.decimals: ")));
-    EXPECT_THAT(errors, Contains(StartsWith("GRÚA.1: limits.PF.minW: ")));
-    EXPECT_THAT(errors, Contains(StartsWith("NODIALOG: device.minCurrent: ")));
-    EXPECT_EQ(ProjectFiles(), before);
-}
-
-TEST_F(FieldCommands, SetRefusesUnknownDevicesTypesAndKeys)
-{
-    const auto before = ProjectFiles();
-    ExpectError(Start({"set", "GRUA", "device.minCurrent=1"}), {"\"GRUA\""});
-    ExpectError(Start({"set", "GRÚA.1", "OTHER", "device.minCurrent=1"}), {"OTHER", "\"XYZ\""});
-    ExpectError(Start({"set", "GRÚA.1", "device.minCurrent=1", "device.colour=1"}), {"\"device.colour\""});
-    EXPECT_EQ(ProjectFiles(), before);
-}
-
-TEST_F(FieldCommands, CopyTakesEverythingThatCanBeSet)
-{
-    const Lines lines = Run({"copy", "GRÚA.1", "zep-2"});
-    EXPECT_THAT(lines,
-                ElementsAre("NODIALOG\tdevice.mode\tnone\tharmonics+neutral", "NODIALOG\tdevice.filters\tnone\t3+5",
-                            "NODIALOG\tdevice.minCurrent\t\t7", "NODIALOG\tdevice.numZEP\t\t2",
-                            "NODIALOG\tunits.RP.scale\tplain\tkilo", "NODIALOG\tunits.RP.decimals\t1\t2",
-                            "NODIALOG\tlimits.PF.nominal\t0\t1", "NODIALOG\tlimits.PF.maxW\t1\t0.95",
-                            "NODIALOG\tlimits.PF.minW\t1\t0.9", "NODIALOG\tlimits.PF.minD\t1\t0.8"));
-    EXPECT_THAT(m_folder.Read("plant/devices/zep-2.xml"), Not(HasSubstr("<version>")));
-    EXPECT_THAT(Run({"copy", "GRÚA.1", "zep-2", "GRÚA.1"}, 1), IsEmpty());
-    EXPECT_THAT(Run({"history"}), ElementsAre(HasSubstr("\tcopy\tdevices/zep-2.xml,main.xml")));
-}
-
-TEST_F(FieldCommands, CopyTakesTheNamedSectionsOrFields)
-{
-    const auto before = ProjectFiles();
-    EXPECT_THAT(Run({"copy", "GRÚA.1", "NODIALOG", "--section", "limits", "--section", "device", "--dry-run"}),
-                SizeIs(8));
-    EXPECT_THAT(Run({"copy", "GRÚA.1", "NODIALOG", "--section", "units", "--dry-run"}),
-                ElementsAre("NODIALOG\tunits.RP.scale\tplain\tkilo", "NODIALOG\tunits.RP.decimals\t1\t2"));
-    EXPECT_THAT(
-        Run({"copy", "GRÚA.1", "NODIALOG", "--field", "limits.PF.nominal", "--field", "device.mode", "--dry-run"}),
-        ElementsAre("NODIALOG\tlimits.PF.nominal\t0\t1", "NODIALOG\tdevice.mode\tnone\tharmonics+neutral"));
-    EXPECT_EQ(ProjectFiles(), before);
-}
-
-TEST_F(FieldCommands, CopyRefusesWhatCannotBeSet)
-{
-    const auto before = ProjectFiles();
-    ExpectError(Start({"copy", "GRÚA.1", "NODIALOG", "--field", "device.gamma"}), {"NODIALOG: device.gamma: "});
-    ExpectError(Start({"copy", "NODIALOG", "GRÚA.1", "--field", "device.minCurrent"}), {"GRÚA.1: device.minCurrent: "});
-    ExpectError(Start({"copy", "GRÚA.1", "NODIALOG", "--field", "device.colour"}), {"\"device.colour\""});
-    ExpectError(Start({"copy", "GRÚA.1", "OTHER"}), {"OTHER", "\"XYZ\""});
-    ExpectError(Start({"copy", "OTHER", "GRÚA.1"}), {"OTHER", "\"XYZ\""});
-    ExpectError(Start({"copy", "GRUA", "GRÚA.1"}), {"\"GRUA\""});
-    m_folder.Write("plant/devices/zep-1.xml",
-                   "<device><information><minCurrent>201</minCurrent></information></device>");
-    ExpectError(Start({"copy", "GRÚA.1", "NODIALOG", "--field", "device.minCurrent"}), {"NODIALOG: device.minCurrent"});
-    m_folder.Write("plant/devices/zep-1.xml", editor_tests::FirstDevice);
-    EXPECT_EQ(ProjectFiles(), before);
-}
-
-TEST_F(FieldCommands, CopyLeavesEmptyWhatBothHaveNoValueOf)
-{
-    m_folder.Write("plant/devices/zep-1.xml", "<device><information><mode>1</mode></information></device>");
-    EXPECT_THAT(Run({"copy", "GRÚA.1", "NODIALOG", "--section", "device"}),
-                ElementsAre("NODIALOG\tdevice.mode\tnone\tharmonics"));
 }
 
 TEST_F(FieldCommands, DiffOfEqualProjectsPrintsNothing)
