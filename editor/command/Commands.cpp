@@ -6,6 +6,7 @@
 #include "ModuleCommands.h"
 #include "ProjectCommands.h"
 #include "RequiredFiles.h"
+#include "TableCommands.h"
 #include "main/ProjectStore.h"
 #include "modules/DeviceDrivers.h"
 #include "modules/ModuleLoader.h"
@@ -114,6 +115,8 @@ ExitStatus RunCommand(const Arguments& arguments)
         {Command::Get, PrintValues},
         {Command::Set, SetValues},
         {Command::Copy, CopyValues},
+        {Command::Export, ExportDevices},
+        {Command::Import, ImportDevices},
         {Command::Diff, CompareProjects},
     };
     for (const auto& [command, run] : commands) {

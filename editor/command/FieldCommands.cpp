@@ -123,11 +123,18 @@ ExitStatus CompareProjects(const Arguments& arguments)
     return differences.empty() ? ExitTrue : ExitFalse;
 }
 
+void PrintFindings(const std::vector<plant::Finding>& findings)
+{
+    for (const plant::Finding& finding : findings) {
+        const std::string place = finding.device.empty() ? "" : finding.device + ": " + finding.place + ": ";
+        PrintErrorLine(place + ToUtf8(PlantMessage(finding.reason)));
+    }
+}
+
 ExitStatus Conclude(const Arguments& arguments, const plant::Project& project, plant::FieldEdit& edit,
                     const char* command)
 {
-    for (const plant::Finding& finding : edit.Findings())
-        PrintErrorLine(finding.device + ": " + finding.place + ": " + ToUtf8(PlantMessage(finding.reason)));
+    PrintFindings(edit.Findings());
     if (!edit.Findings().empty())
         return ExitError;
     if (!arguments.dryRun && !edit.Changes().empty())

@@ -56,3 +56,10 @@
 #define IDS_PLANT_TABLE_ZERO_BYTE 3087     // %s %s %s: the file, the row, the column
 #define IDS_PLANT_TABLE_ROW_SHORT 3088     // %s %s %s: the file, the row, the first column that is missing
 #define IDS_PLANT_TABLE_ROW_LONG 3089      // %s %s %s: the file, the row, the first column that the header lacks
+#define IDS_PLANT_TABLE_MISSING 3090       // %s: the file
+#define IDS_PLANT_TABLE_NO_DEVICES 3091    // %s %s %s: the file, the row, the column
+#define IDS_PLANT_TABLE_NO_FIELD 3092      // %s %s %s %s: the file, the row, the column, the key
+#define IDS_PLANT_TABLE_SAME_COLUMN 3093   // %s %s %s %s: the file, the row, the column, its name
+#define IDS_PLANT_TABLE_NO_DEVICE 3094     // %s %s %s %s: the file, the row, the column, the device
+#define IDS_PLANT_TABLE_SAME_DEVICE 3095   // %s %s %s %s: the file, the row, the column, the device
+#define IDS_PLANT_TABLE_NO_TYPE 3096       // %s %s %s %s: the file, the row, the column, the device

@@ -1,0 +1,132 @@
+// A whole plant as one table: exporting it beside the two XML libraries reading the same files, importing it beside
+// exporting it.
+#include <expat.h>
+
+#include <array>
+#include <cstdio>
+#include <pugixml.hpp>
+#include <stdexcept>
+
+#include "KZMainCfg.h"
+#include "ProjectFolder.h"
+#include "Report.h"
+#include "project/DocumentName.h"
+#include "table/Export.h"
+#include "table/Import.h"
+
+namespace {
+
+using kzbench::PairedTimes;
+using kzbench::ProjectFolder;
+using kzbench::Settings;
+
+constexpr int Many = 10'000;
+constexpr int VeryMany = 100'000;
+
+// A project in which each device has its document.
+class PlantFolder {
+public:
+    PlantFolder(int devices, Settings settings) : m_folder(devices, settings)
+    {
+        std::filesystem::create_directory(m_folder.Path() / "devices");
+        for (int device = 0; device < devices; ++device)
+            m_documents.push_back(plant::FileOf(m_folder.Path(), plant::DeviceDocumentName(kzbench::DriverId(device))));
+        for (const std::filesystem::path& document : m_documents)
+            plant::RealDisk().WriteLoosely(document, kzbench::DeviceText());
+        m_documents.push_back(m_folder.Path() / "main.xml");
+    }
+    [[nodiscard]] const std::filesystem::path& Path() const noexcept { return m_folder.Path(); }
+    [[nodiscard]] const std::vector<std::filesystem::path>& Documents() const noexcept { return m_documents; }
+
+private:
+    ProjectFolder m_folder;
+    std::vector<std::filesystem::path> m_documents;
+};
+
+void PassOver(const PlantFolder& folder)
+{
+    for (const std::filesystem::path& document : folder.Documents()) {
+        const std::string bytes = plant::RealDisk().Read(document).value();
+        const XML_Parser parser = XML_ParserCreate(nullptr);
+        const bool wellFormed =
+            XML_Parse(parser, bytes.data(), static_cast<int>(bytes.size()), XML_TRUE) == XML_STATUS_OK;
+        XML_ParserFree(parser);
+        pugi::xml_document tree;
+        if (!wellFormed || !tree.load_buffer(bytes.data(), bytes.size(), pugi::parse_full | pugi::parse_ws_pcdata,
+                                             pugi::encoding_utf8))
+            throw std::runtime_error("a document is malformed");
+    }
+}
+
+std::vector<std::string> AllKeys()
+{
+    std::vector<std::string> keys;
+    for (const plant::Field& field : *plant::FieldsOfType(L"ZEP"))
+        keys.push_back(field.key);
+    return keys;
+}
+
+std::string Export(const PlantFolder& folder)
+{
+    plant::Project project(folder.Path());
+    const plant::StoredProject files(project.Folder());
+    plant::DeviceReader reader(*KZMainCfg::Get(), files);
+    return plant::ExportTable(project.Devices(), reader, AllKeys());
+}
+
+// The table with another minimum current in each row.
+std::string Changed(std::string table)
+{
+    const std::string now = "200,7,";
+    const std::string then = "200,8,";
+    for (std::size_t at = table.find(now); at != std::string::npos; at = table.find(now, at))
+        table.replace(at, now.size(), then);
+    return table;
+}
+
+void RehearseImport(const PlantFolder& folder, const std::string& table, int devices)
+{
+    plant::Project project(folder.Path());
+    plant::FieldEdit edit(project, plant::FieldEdit::Unsettable::MayStay);
+    const bool isTaken = plant::ImportTable(project, edit, table, L"table.csv").empty() && edit.Findings().empty();
+    if (!isTaken || edit.Changes().size() != static_cast<std::size_t>(devices))
+        throw std::runtime_error("the table is not imported as it should be");
+}
+
+struct Times {
+    double exporting;
+    double importing;
+};
+
+Times Measure(kzbench::Report& report, int devices, const char* shown, Settings settings)
+{
+    const PlantFolder folder(devices, settings);
+    const PairedTimes exporting = kzbench::RunInTurn([&] { kzbench::Keep(Export(folder)); }, [&] { PassOver(folder); });
+    report.Add({std::string("export ") + shown, "their files read with expat and pugixml", 1.50}, exporting);
+    const std::string table = Changed(Export(folder));
+    const PairedTimes importing =
+        kzbench::RunInTurn([&] { RehearseImport(folder, table, devices); }, [&] { kzbench::Keep(Export(folder)); });
+    report.Add({std::string("import ") + shown + " on a dry run", "export them", 2.00}, importing);
+    return {kzbench::Median(exporting.operation), kzbench::Median(importing.operation)};
+}
+
+void AddGrowth(kzbench::Report& report, const std::string& what, double small, double large)
+{
+    std::array<char, 32> ratio{};
+    std::snprintf(ratio.data(), ratio.size(), "%.1f ×", large / small);
+    report.Add(
+        kzbench::Quantity{what + " 10⁵ devices beside 10⁴", ratio.data(), "", "", "≤ 12 ×", large <= 12 * small});
+}
+
+}  // namespace
+
+int main()
+{
+    kzbench::Report report;
+    Measure(report, Many, "10⁴ devices", Settings::All);
+    const Times few = Measure(report, Many, "10⁴ devices with one limit each", Settings::OneLimit);
+    const Times many = Measure(report, VeryMany, "10⁵ devices with one limit each", Settings::OneLimit);
+    AddGrowth(report, "export", few.exporting, many.exporting);
+    AddGrowth(report, "import", few.importing, many.importing);
+    return report.ExitCode();
+}
