@@ -10,7 +10,7 @@
 #include "project/DocumentName.h"
 #include "text/EditorError.h"
 #include "text/EditorText.h"
-#include "text/FieldCaption.h"
+#include "text/FieldText.h"
 #include "text/PlantMessage.h"
 
 namespace {

@@ -9,7 +9,6 @@
 #include "KZUtf8.h"
 #include "WindowIcon.h"
 #include "modules/ModuleSummary.h"
-#include "summary/DeviceSummary.h"
 #include "text/EditorText.h"
 
 namespace {
@@ -187,7 +186,7 @@ void MainWindow::ShowChosenVariables()
 void MainWindow::ShowSummary()
 {
     const KZDeviceIdentity* device = SelectedDevice();
-    m_lstSummary.Show(device ? DeviceSummary(m_project, device->driverId) : SummaryRows{});
+    m_lstSummary.Show(device ? DeviceSummary(m_project, *device) : SummaryRows{});
 }
 
 void MainWindow::ShowState()

@@ -4,11 +4,12 @@
 
 namespace {
 
-enum Column : int { ColumnSection, ColumnName, ColumnValue };
+enum Column : int { ColumnSection, ColumnName, ColumnUnit, ColumnValue };
 
 constexpr ReportColumn Columns[] = {
     {IDS_COLUMN_SECTION, 38},
     {IDS_COLUMN_SETTING, 84},
+    {IDS_COLUMN_UNIT, 34},
     {IDS_COLUMN_VALUE, 60},
 };
 
@@ -36,11 +37,13 @@ void SummaryView::Show(const SummaryRows& rows)
     for (const SummaryRow& row : rows) {
         SetItemText(index, ColumnSection, row.section == section ? L"" : row.section.c_str());
         SetItemText(index, ColumnName, row.name.c_str());
+        SetItemText(index, ColumnUnit, row.unit.c_str());
         SetItemText(index++, ColumnValue, row.value.c_str());
         section = row.section;
     }
     FitToTexts(ColumnSection);
     FitToTexts(ColumnName);
+    FitToTexts(ColumnUnit);
     SetRedraw(TRUE);
     Invalidate();
     FitColumns();

@@ -1,8 +1,9 @@
-// What the documents hold of the selected device, in a report list: section, setting, value.
+// What the selected device is set to, in a report list: section, setting, unit, value. The value stands
+// last, where it may be as long as it is.
 #pragma once
 
+#include "DeviceSummary.h"
 #include "ReportList.h"
-#include "summary/SummaryRow.h"
 
 class SummaryView : public ReportList {
 public:

@@ -14,7 +14,8 @@ namespace plant {
 enum class FieldSection { Device, Units, Limits };
 enum class FieldKind { WholeNumber, Decimal, Choice, Set, Text };
 
-// A text of the host's table, with a number where it takes one; without an id what is the same in each language.
+// A text of the host's table, with a number where it takes one; without an id what is the same in each language: a
+// number or a text.
 struct Words {
     unsigned textId = 0;
     std::optional<int> number = std::nullopt;

@@ -51,7 +51,7 @@ std::vector<FieldChoice> Filters()
     std::vector<FieldChoice> filters;
     for (int filter = 0; filter < zep::FilterCount; ++filter) {
         const int order = zep::FilteredOrder(filter);
-        filters.push_back({std::to_string(order), {KZS_HARMONIC_ORDER, order}});
+        filters.push_back({std::to_string(order), {.number = order}});
     }
     return filters;
 }

@@ -83,7 +83,7 @@ protected:
         const auto rows = static_cast<int>(::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
         for (int row = 0; row < rows; ++row)
             if (ListCell(*m_editor, list, row, 1) == name)
-                return ListCell(*m_editor, list, row, 2);
+                return ListCell(*m_editor, list, row, 3);
         return {};
     }
 

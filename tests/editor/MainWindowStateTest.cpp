@@ -8,7 +8,6 @@
 #include "KZDlgOptions.h"
 #include "ModalScript.h"
 #include "project/ChosenVariables.h"
-#include "summary/DeviceSummary.h"
 
 namespace {
 
@@ -169,20 +168,20 @@ TEST_F(MainWindowState, RemovesJustTheMarkedVariables)
     EXPECT_THAT(kztest::TextOf(Control(IDC_CHOSEN_LABEL)), testing::HasSubstr(L"(2)"));
 }
 
-// From device to device the list gets longer and shorter again.
 TEST_F(MainWindowState, ShowsTheSummaryOfEachDeviceRowByRow)
 {
     const HWND list = Control(IDC_SUMMARY);
     for (const std::size_t device : {0U, 4U, 1U, 5U, 0U}) {
         ChooseDevice(static_cast<int>(device));
-        const SummaryRows rows = DeviceSummary(m_project, m_project.Devices()[device].driverId);
+        const SummaryRows rows = DeviceSummary(m_project, m_project.Devices()[device]);
         ASSERT_EQ(ListView_GetItemCount(list), static_cast<int>(rows.size()));
         std::wstring section;
         int index = 0;
         for (const SummaryRow& row : rows) {
             EXPECT_EQ(Cell(list, index, 0), row.section == section ? L"" : row.section);
             EXPECT_EQ(Cell(list, index, 1), row.name);
-            EXPECT_EQ(Cell(list, index++, 2), row.value);
+            EXPECT_EQ(Cell(list, index, 2), row.unit);
+            EXPECT_EQ(Cell(list, index++, 3), row.value);
             section = row.section;
         }
     }

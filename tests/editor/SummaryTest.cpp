@@ -1,4 +1,6 @@
 // What the editor shows of a device's documents without opening its dialogs.
+#include <windows.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -6,22 +8,38 @@
 #include "KZQuorvelantaSetup.h"
 #include "KZUtf8.h"
 #include "TemporaryFolder.h"
-#include "summary/DeviceSummary.h"
+#include "text/FieldText.h"
+#include "window/DeviceSummary.h"
 
 namespace {
 
 using kztest::TemporaryFolder;
+using testing::AllOf;
+using testing::Contains;
+using testing::Each;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
+using testing::SizeIs;
 
-// "name: value" of each row of a section.
+// "name: value unit" of each row of a section.
 std::vector<std::string> Lines(const SummaryRows& rows, const wchar_t* section)
 {
     std::vector<std::string> lines;
     for (const SummaryRow& row : rows)
         if (row.section == section)
-            lines.push_back(ToUtf8(row.name + L": " + row.value));
+            lines.push_back(ToUtf8(row.name + L": " + row.value + (row.unit.empty() ? L"" : L" ") + row.unit));
     return lines;
+}
+
+// A number as this user writes it.
+std::string UserNumber(std::string number)
+{
+    wchar_t separator[4] = L"";
+    ::GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, separator, 4);
+    if (const std::size_t point = number.find('.'); point != std::string::npos)
+        number.replace(point, 1, ToUtf8(separator));
+    return number;
 }
 
 class SummaryTest : public testing::Test {
@@ -48,9 +66,11 @@ protected:
         Configure("<viewSetups><viewSetup><driverId>zep-1</driverId>" + checks + "</viewSetup></viewSetups>");
     }
 
-    [[nodiscard]] std::vector<std::string> Section(const wchar_t* section)
+    [[nodiscard]] std::vector<std::string> Section(const wchar_t* section) { return Lines(Rows(), section); }
+
+    [[nodiscard]] SummaryRows Rows(const wchar_t* type = L"ZEP")
     {
-        return Lines(DeviceSummary(m_project, L"zep-1"), section);
+        return DeviceSummary(m_project, {L"zep-1", L"TREN1", 1, type, {}, {}});
     }
 
     [[nodiscard]] static const std::filesystem::path& Empty(const TemporaryFolder& folder)
@@ -65,88 +85,120 @@ protected:
 
 }  // namespace
 
+TEST_F(SummaryTest, HasARowForEachField)
+{
+    const plant::FieldTable& fields = *plant::FieldsOfType(L"ZEP");
+    const SummaryRows rows = Rows();
+    ASSERT_EQ(rows.size(), 106U);
+    for (const plant::Field& field : fields) {
+        EXPECT_EQ(rows[field.row].name, FieldCaption(field)) << field.key;
+        EXPECT_EQ(ToUtf8(rows[field.row].unit), field.unit) << field.key;
+    }
+    EXPECT_EQ(Section(L"Device").size(), 10U);
+    EXPECT_EQ(Section(L"Units").size(), 4U);
+    EXPECT_EQ(Section(L"Limits").size(), 92U);
+}
+
 TEST_F(SummaryTest, ShowsTheSettingsInWords)
 {
     Information("<version>2.4.1</version><serialNum>S 17</serialNum><gamma>ZEP 300 A</gamma><mode>9</mode>"
-                "<filters>2049</filters><transRatio>1000</transRatio><minCurrent>25</minCurrent>"
+                "<filters>2049</filters><transRatio>1000</transRatio><minCurrent>025</minCurrent>"
                 "<algorithm>1</algorithm><numZEP>4</numZEP><status>1</status>");
-    EXPECT_THAT(Section(L"Device"), ElementsAre("Firmware version: 2.4.1", "Serial number: S 17", "Range: ZEP 300 A",
-                                                "Working mode: Harmonic filtering", ": Neutral current compensation",
-                                                "Filtered harmonics: 3, 25", "Current transformer ratio: 1000 / 5 A",
-                                                "Minimum current: 25 A", "Algorithm: Selective",
-                                                "Number of ZEP units: 4", "Status: Running"));
+    EXPECT_THAT(Section(L"Device"),
+                ElementsAre("Firmware version: 2.4.1", "Serial number: S 17", "Range: ZEP 300 A",
+                            "Working mode: Harmonic filtering, Neutral current compensation",
+                            "Filtered harmonics: 3, 25", "Current transformer ratio: 1000 A", "Minimum current: 25 A",
+                            "Algorithm: Selective", "Status: Running", "Number of ZEP units: 4"));
 }
 
 TEST_F(SummaryTest, SpeaksTheHostsLanguage)
 {
     Information("<status>0</status>");
     KZQuorvelantaSetup::Get()->SetLanguage(KZLanguage::Spanish);
-    EXPECT_THAT(Section(L"Equipo").back(), "Estado: Parado");
+    EXPECT_THAT(Section(L"Equipo"), Contains("Estado: Parado"));
+    EXPECT_THAT(Section(L"Unidades"), Contains("Potencia reactiva, Precisión: 1"));
+    EXPECT_THAT(Section(L"Límites"), Contains("Armónico 5, Carga, Máximo, aviso: 1 %"));
 }
 
-TEST_F(SummaryTest, ShowsADashForWhatIsNotSet)
+TEST_F(SummaryTest, ShowsWhatStandsForAnIdentityThatIsNotThere)
 {
-    const std::vector<std::string> lines = Section(L"Device");
-    ASSERT_EQ(lines.size(), 10u);
-    for (const std::string& line : lines)
-        EXPECT_THAT(line, HasSubstr(": –"));
+    EXPECT_THAT(Section(L"Device"), Contains(EndsWith(": ?")).Times(3));
+}
+
+TEST_F(SummaryTest, ShowsADashForWhatIsEmpty)
+{
+    Information("<version/><serialNum/><gamma/>");
+    EXPECT_THAT(Section(L"Device"), AllOf(SizeIs(10), Each(HasSubstr(": –"))));
 }
 
 TEST_F(SummaryTest, ShowsTheNumberOfAChoiceThatThereIsNot)
 {
     Information("<algorithm>3</algorithm><status>-1</status>");
-    EXPECT_THAT(Section(L"Device")[7], "Algorithm: 3");
-    EXPECT_THAT(Section(L"Device")[9], "Status: -1");
+    EXPECT_THAT(Section(L"Device"), Contains("Algorithm: 3"));
+    EXPECT_THAT(Section(L"Device"), Contains("Status: -1"));
 }
 
 TEST_F(SummaryTest, SaysWhyADocumentCannotBeRead)
 {
     m_folder.Write("devices/zep-1.xml", "<device><information>");
     const std::vector<std::string> lines = Section(L"Device");
-    ASSERT_EQ(lines.size(), 1u);
+    ASSERT_EQ(lines.size(), 1U);
     EXPECT_THAT(lines[0], HasSubstr("Cannot be read: "));
     EXPECT_THAT(lines[0], HasSubstr("zep-1.xml"));
+    EXPECT_EQ(Section(L"Units").size(), 4U);
+    EXPECT_EQ(Section(L"Limits").size(), 92U);
+}
+
+TEST_F(SummaryTest, SaysThatATypeHasNoFields)
+{
+    const SummaryRows rows = Rows(L"XYZ");
+    EXPECT_THAT(Lines(rows, L"Device"),
+                ElementsAre("Model: The editor knows no settings of devices of the type \"XYZ\"."));
+    EXPECT_EQ(rows.size(), 1U);
 }
 
 TEST_F(SummaryTest, ShowsPlainUnitsAndOneDecimalUntilTheyAreSet)
 {
     EXPECT_THAT(Section(L"Units"),
-                ElementsAre("Active and apparent power: W / VA, 1 decimal", "Reactive power: VAR, 1 decimal"));
+                ElementsAre("Active and apparent power, Unit: W / VA", "Active and apparent power, Precision: 1",
+                            "Reactive power, Unit: VAR", "Reactive power, Precision: 1"));
 }
 
 TEST_F(SummaryTest, ShowsStoredUnitsAsTheirDialogReadsThem)
 {
     Units("<unit><name>AP-VA</name><decimals>3</decimals></unit>"
-          "<unit><name>RP</name><decimals>0</decimals><factor>0</factor></unit>");
+          "<unit><name>RP</name><decimals>-1</decimals><factor>0</factor></unit>");
     EXPECT_THAT(Section(L"Units"),
-                ElementsAre("Active and apparent power: kW / kVA, 3 decimals", "Reactive power: VAR, No decimals"));
-    Units("<unit><name>RP</name><decimals>-1</decimals><factor>1</factor></unit>");
-    EXPECT_THAT(Section(L"Units")[1], "Reactive power: kVAR, –");
+                ElementsAre("Active and apparent power, Unit: kW / kVA", "Active and apparent power, Precision: 3",
+                            "Reactive power, Unit: VAR", "Reactive power, Precision: -1"));
 }
 
 TEST_F(SummaryTest, ShowsNoOtherDriversUnitsAndLimits)
 {
     Configure("<unitSetups><unitSetup><driverId>zep-2</driverId><unit><name>RP</name></unit></unitSetup></unitSetups>"
-              "<viewSetups><viewSetup><driverId>zep-2</driverId><check><var>PF</var></check></viewSetup></viewSetups>");
-    EXPECT_THAT(Section(L"Units")[1], "Reactive power: VAR, 1 decimal");
-    EXPECT_THAT(Section(L"Limits"), ElementsAre("–: no limits set"));
+              "<viewSetups><viewSetup><driverId>zep-2</driverId><check><var>PF</var><nominal>1</nominal></check>"
+              "</viewSetup></viewSetups>");
+    EXPECT_THAT(Section(L"Units"), Contains("Reactive power, Unit: VAR"));
+    EXPECT_THAT(Section(L"Limits"), Contains("Power factor, Nominal value: 0"));
 }
 
-TEST_F(SummaryTest, ShowsStoredLimitsInTheOrderOfTheirPages)
+TEST_F(SummaryTest, ShowsStoredLimitsInTheUsersFormat)
 {
     Checks("<check><var>ARM5AL</var><nominal>1.800000</nominal><maxW>5.000000</maxW><maxD>8.250000</maxD></check>"
            "<check><var>ARM1AN</var><nominal>1250.000000</nominal><maxW>80.000000</maxW></check>"
-           "<check><var>VA</var><nominal>910.000000</nominal><maxW>80.000000</maxW><maxD>95.000000</maxD></check>"
-           "<check><var>PF</var><nominal>1.000000</nominal><maxW>-0.950000</maxW><minD>0.800000</minD></check>"
-           "<check><var>HZ</var><nominal>50.000000</nominal></check>");
-    EXPECT_THAT(Section(L"Limits"),
-                ElementsAre("Variable: nominal, warning / alarm", "Power factor: 1, max. -0.95 / 1, min. 1 / 0.8",
-                            "Apparent power: 910 kVA, 80 % / 95 %", "Fundamental, Network: 1250 A, 80 % / 1 %",
-                            "Harmonic 5, Load: 1.8 %, 5 % / 8.25 %"));
+           "<check><var>PF</var><nominal>1.000000</nominal><maxW>-0.950000</maxW><minD>0.800000</minD></check>");
+    const std::vector<std::string> lines = Section(L"Limits");
+    for (const std::string& line :
+         {std::string("Power factor, Nominal value: 1"), UserNumber("Power factor, Maximum, warning: -0.95"),
+          UserNumber("Power factor, Minimum, alarm: 0.8"), std::string("Fundamental, Network, Nominal value: 1250 A"),
+          std::string("Fundamental, Network, Maximum, warning: 80 %"),
+          UserNumber("Harmonic 5, Load, Nominal value: 1.8 %"), UserNumber("Harmonic 5, Load, Maximum, alarm: 8.25 %")})
+        EXPECT_THAT(lines, Contains(line));
 }
 
 TEST_F(SummaryTest, ShowsADashForALimitThatIsNoNumber)
 {
-    Checks("<check><var>AP</var><nominal>nan</nominal><maxW>inf</maxW></check>");
-    EXPECT_THAT(Section(L"Limits").back(), "Active power: – kW, – % / 1 %");
+    Checks("<check><var>AP</var><nominal>nan</nominal><maxW>inf</maxW><maxD>-inf</maxD></check>");
+    const std::vector<std::string> lines = Section(L"Limits");
+    EXPECT_THAT(std::vector<std::string>(lines.begin() + 5, lines.begin() + 8), Each(HasSubstr(": –")));
 }
