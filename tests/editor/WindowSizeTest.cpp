@@ -8,7 +8,7 @@ namespace {
 
 class MainWindowSize : public editor_tests::OpenMainWindow {
 protected:
-    static constexpr int GrowthX = 500;
+    static constexpr int GrowthX = 800;
     static constexpr int GrowthY = 300;
 
     void Grow()
