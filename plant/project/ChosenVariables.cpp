@@ -6,21 +6,6 @@ namespace plant {
 
 namespace {
 
-XmlDocument::XmlNode* FindSelection(const XmlDocument& document, const KZBasicString& driverId)
-{
-    return document.Root()->NodeV(L"selections/selection?driverId=%s?", driverId.c_str());
-}
-
-XmlDocument::XmlNode* MakeSelection(XmlDocument& document, const KZBasicString& driverId)
-{
-    XmlDocument::XmlNode* selections = document.Node(L"selections");
-    if (!selections)
-        selections = document.Root()->NewChild(L"selections", nullptr);
-    XmlDocument::XmlNode* selection = selections->NewChild(L"selection", nullptr);
-    selection->SetValue(L"driverId", driverId.c_str());
-    return selection;
-}
-
 VariableList Lines(std::wstring_view text)
 {
     VariableList lines;
@@ -37,7 +22,7 @@ VariableList Lines(std::wstring_view text)
 
 VariableList ChosenVariables(const XmlDocument& document, const KZBasicString& driverId)
 {
-    const XmlDocument::XmlNode* selection = FindSelection(document, driverId);
+    const XmlDocument::XmlNode* selection = zep::FindSetup(document, Selections, driverId);
     return selection ? Lines(selection->Value(L"variables", L"")) : VariableList{};
 }
 
@@ -45,9 +30,9 @@ void StoreChosenVariables(XmlDocument& document, const KZBasicString& driverId, 
 {
     if (ChosenVariables(document, driverId) == variables)
         return;
-    XmlDocument::XmlNode* selection = FindSelection(document, driverId);
+    XmlDocument::XmlNode* selection = zep::FindSetup(document, Selections, driverId);
     if (!selection)
-        selection = MakeSelection(document, driverId);
+        selection = &zep::AppendSetup(document, Selections, driverId);
     std::wstring text;
     for (const KZBasicString& variable : variables) {
         text += text.empty() ? L"" : L"\n";

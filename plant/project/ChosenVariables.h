@@ -5,10 +5,13 @@
 
 #include <list>
 
+#include "DriverSetup.h"
 #include "KZBasicString.h"
 #include "KZXmlDocument.h"
 
 namespace plant {
+
+inline constexpr zep::SetupList Selections{L"selections", L"selection"};
 
 using VariableList = std::list<KZBasicString>;
 

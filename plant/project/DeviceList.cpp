@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdint>
 #include <cwchar>
 #include <cwctype>
+#include <optional>
+#include <unordered_set>
 
+#include "DocumentName.h"
 #include "GroupMask.h"
 #include "KZUtf8.h"
-#include "text/Refusal.h"
 
 namespace plant {
 
@@ -16,21 +17,39 @@ namespace {
 
 class DeviceReader {
 public:
-    explicit DeviceReader(std::wstring file) : m_file(std::move(file)) {}
+    DeviceReader(std::wstring file, std::vector<DeviceFault>& faults) : m_file(std::move(file)), m_faults(faults) {}
 
-    KZDeviceIdentity Read(const XmlDocument::XmlNode& element);
+    // Nothing for a device without a driverId of its own.
+    std::optional<KZDeviceIdentity> Read(const XmlDocument::XmlNode& element);
 
 private:
-    [[noreturn]] void Fail(unsigned textId, const wchar_t* value) const;
+    void Fail(unsigned textId, const wchar_t* value) const;
     std::wstring Label() const;
     const wchar_t* Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const;
+    bool IsIdentifier(const wchar_t* driverId);
+    void CheckName(const wchar_t* name);
     int Number(const XmlDocument::XmlNode& element) const;
     KZVariableGroups Groups(const XmlDocument::XmlNode& element) const;
 
     std::wstring m_file;
+    std::vector<DeviceFault>& m_faults;
     int m_position = 0;
     const XmlDocument::XmlNode* m_device = nullptr;  // that is being read
+    std::unordered_set<std::wstring> m_driverIds;
+    std::unordered_set<std::wstring_view> m_names;
 };
+
+// The driverId names the device's document, and file names differ by more than case.
+std::wstring FoldCase(std::wstring text)
+{
+    std::transform(text.begin(), text.end(), text.begin(), [](wchar_t c) {
+        const bool isAscii = c <= L'~';  // nearly all of it is, and the library is slow to ask
+        const bool isCapital = c >= L'A' && c <= L'Z';
+        return isAscii ? static_cast<wchar_t>(isCapital ? c - L'A' + L'a' : c)
+                       : static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c)));
+    });
+    return text;
+}
 
 bool HasControlCharacter(std::wstring_view text)
 {
@@ -39,7 +58,7 @@ bool HasControlCharacter(std::wstring_view text)
 
 void DeviceReader::Fail(unsigned textId, const wchar_t* value) const
 {
-    throw Refusal(textId, {m_file, Label(), value});
+    m_faults.push_back({Label(), {textId, {m_file, Label(), value}}});
 }
 
 // What errors call the device.
@@ -60,6 +79,27 @@ const wchar_t* DeviceReader::Required(const XmlDocument::XmlNode& element, const
     return value;
 }
 
+bool DeviceReader::IsIdentifier(const wchar_t* driverId)
+{
+    if (!*driverId)
+        return false;
+    // In a query path "?" ends the text that is looked for.
+    if (HasControlCharacter(driverId) || std::wcschr(driverId, L'?'))
+        Fail(IDS_PLANT_DEVICE_BAD_DRIVER_ID, driverId);
+    const bool isOwn = m_driverIds.insert(FoldCase(driverId)).second;
+    if (!isOwn)
+        Fail(IDS_PLANT_DEVICE_DOUBLE_DRIVER_ID, driverId);
+    return isOwn;
+}
+
+void DeviceReader::CheckName(const wchar_t* name)
+{
+    if (HasControlCharacter(name))
+        Fail(IDS_PLANT_DEVICE_BAD_NAME, L"name");
+    if (*name && !m_names.insert(name).second)
+        Fail(IDS_PLANT_DEVICE_DOUBLE_NAME, name);
+}
+
 int DeviceReader::Number(const XmlDocument::XmlNode& element) const
 {
     const wchar_t* text = element.Value(L"number", L"0");
@@ -77,20 +117,17 @@ KZVariableGroups DeviceReader::Groups(const XmlDocument::XmlNode& element) const
     const auto groups = ParseGroupMask(text);
     if (!groups)
         Fail(IDS_PLANT_DEVICE_BAD_GROUPS, text);
-    return *groups;
+    return groups.value_or(KZVariableGroups{});
 }
 
-KZDeviceIdentity DeviceReader::Read(const XmlDocument::XmlNode& element)
+std::optional<KZDeviceIdentity> DeviceReader::Read(const XmlDocument::XmlNode& element)
 {
     ++m_position;
     m_device = &element;
     const wchar_t* const driverId = Required(element, L"driverId");
     const wchar_t* const name = Required(element, L"name");
-    // In a query path "?" ends the text that is looked for.
-    if (HasControlCharacter(driverId) || std::wcschr(driverId, L'?'))
-        Fail(IDS_PLANT_DEVICE_BAD_DRIVER_ID, driverId);
-    if (HasControlCharacter(name))
-        Fail(IDS_PLANT_DEVICE_BAD_NAME, L"name");
+    const bool isIdentified = IsIdentifier(driverId);
+    CheckName(name);
 
     KZDeviceIdentity identity;
     identity.driverId = driverId;
@@ -99,91 +136,55 @@ KZDeviceIdentity DeviceReader::Read(const XmlDocument::XmlNode& element)
     identity.typeName = element.Value(L"type", L"");
     identity.description = element.Value(L"description", L"");
     identity.groups = Groups(element);
-    return identity;
+    return isIdentified ? std::optional(std::move(identity)) : std::nullopt;
 }
 
-// The driverId names the device's document, and file names differ by more than case.
-wchar_t WithoutCase(wchar_t c) noexcept
+std::optional<std::size_t> Find(const DeviceList& devices, KZBasicString KZDeviceIdentity::*identity,
+                                std::wstring_view text)
 {
-    const bool isAscii = c <= L'~';  // nearly all of it is, and the library is slow to ask
-    const bool isCapital = c >= L'A' && c <= L'Z';
-    return isAscii ? static_cast<wchar_t>(isCapital ? c - L'A' + L'a' : c)
-                   : static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c)));
-}
-
-wchar_t AsItIs(wchar_t c) noexcept
-{
-    return c;
-}
-
-using Text = KZBasicString KZDeviceIdentity::*;
-using Fold = wchar_t (*)(wchar_t) noexcept;
-
-struct Hashed {
-    std::uint64_t hash;
-    const KZDeviceIdentity* device;
-};
-
-Hashed HashText(const KZDeviceIdentity& device, Text text, Fold fold) noexcept
-{
-    std::uint64_t hash = 0xCBF29CE484222325;
-    for (const wchar_t c : (device.*text).View())
-        hash = (hash ^ static_cast<std::uint64_t>(fold(c))) * 0x100000001B3;
-    return {hash, &device};
-}
-
-// By the hash, which tells nearly all texts apart, then by the text.
-int Compare(const Hashed& left, const Hashed& right, Text text, Fold fold) noexcept
-{
-    if (left.hash != right.hash)
-        return left.hash < right.hash ? -1 : 1;
-    const wchar_t* l = (left.device->*text).c_str();
-    const wchar_t* r = (right.device->*text).c_str();
-    for (; *l && fold(*l) == fold(*r); ++l)
-        ++r;
-    return fold(*l) - fold(*r);
-}
-
-// The first device whose text is that of an earlier one; null when each has its own. Sorting hashes takes a fraction of
-// the time of a table with very many texts.
-const KZDeviceIdentity* FirstDouble(const DeviceList& devices, Text text, Fold fold)
-{
-    std::vector<Hashed> sorted;
-    sorted.reserve(devices.size());
-    for (const KZDeviceIdentity& device : devices)
-        sorted.push_back(HashText(device, text, fold));
-    std::sort(sorted.begin(), sorted.end(), [&](const Hashed& left, const Hashed& right) {
-        const int order = Compare(left, right, text, fold);
-        return order != 0 ? order < 0 : left.device < right.device;
-    });
-    const KZDeviceIdentity* first = nullptr;
-    for (std::size_t at = 1; at < sorted.size(); ++at) {
-        const KZDeviceIdentity* device = sorted[at].device;
-        if (Compare(sorted[at - 1], sorted[at], text, fold) == 0 && (!first || device < first))
-            first = device;
-    }
-    return first;
+    const auto found = std::find_if(devices.begin(), devices.end(),
+                                    [&](const KZDeviceIdentity& device) { return (device.*identity).View() == text; });
+    return found == devices.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - devices.begin()));
 }
 
 }  // namespace
 
-DeviceList ReadDevices(const XmlDocument& document, const std::wstring& file)
+DeviceList ReadDevices(const XmlDocument& document, const std::wstring& file, std::vector<DeviceFault>& faults)
 {
-    std::vector<const XmlDocument::XmlNode*> elements;
+    DeviceList devices;
+    DeviceReader reader(file, faults);
     const XmlDocument::XmlNode* list = document.Node(L"devices");
     for (const auto* element = list ? list->FirstChild(L"device") : nullptr; element;
          element = element->NextSibling(L"device"))
-        elements.push_back(element);
-    DeviceList devices;
-    devices.reserve(elements.size());
-    DeviceReader reader(file);
-    for (const auto* element : elements)
-        devices.push_back(reader.Read(*element));
-    if (const KZDeviceIdentity* device = FirstDouble(devices, &KZDeviceIdentity::driverId, WithoutCase))
-        throw Refusal(IDS_PLANT_DEVICE_DOUBLE_DRIVER_ID, {file, device->name.c_str(), device->driverId.c_str()});
-    if (const KZDeviceIdentity* device = FirstDouble(devices, &KZDeviceIdentity::name, AsItIs))
-        throw Refusal(IDS_PLANT_DEVICE_DOUBLE_NAME, {file, device->name.c_str(), device->name.c_str()});
+        if (auto device = reader.Read(*element))
+            devices.push_back(std::move(*device));
     return devices;
+}
+
+DeviceList ReadDevices(const XmlDocument& document, const std::wstring& file)
+{
+    std::vector<DeviceFault> faults;
+    DeviceList devices = ReadDevices(document, file, faults);
+    if (!faults.empty())
+        throw Refusal(std::move(faults.front().reason));
+    return devices;
+}
+
+std::size_t DeviceByName(const DeviceList& devices, std::wstring_view name, const std::filesystem::path& file)
+{
+    if (const auto found = Find(devices, &KZDeviceIdentity::name, name))
+        return *found;
+    std::wstring known;
+    for (const KZDeviceIdentity& device : devices)
+        known.append(known.empty() ? L"" : L", ").append(device.name.View());
+    throw Refusal(IDS_PLANT_NO_DEVICE, {std::wstring(name), Shown(file), known});
+}
+
+std::size_t DeviceByNameOrId(const DeviceList& devices, std::wstring_view text, const std::filesystem::path& file)
+{
+    const auto named = Find(devices, &KZDeviceIdentity::name, text);
+    const auto found = named ? named : Find(devices, &KZDeviceIdentity::driverId, text);
+    return found ? *found : DeviceByName(devices, text, file);
 }
 
 }  // namespace plant

@@ -79,28 +79,14 @@ void Project::ReplaceMain(const std::string& bytes, DeviceList devices)
     m_devices = std::move(devices);
 }
 
-std::optional<std::size_t> Project::Find(KZBasicString KZDeviceIdentity::*identity, std::wstring_view text) const
-{
-    const auto found = std::find_if(m_devices.begin(), m_devices.end(),
-                                    [&](const KZDeviceIdentity& device) { return (device.*identity).View() == text; });
-    return found == m_devices.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - m_devices.begin()));
-}
-
 std::size_t Project::DeviceByName(std::wstring_view name) const
 {
-    if (const auto found = Find(&KZDeviceIdentity::name, name))
-        return *found;
-    std::wstring known;
-    for (const KZDeviceIdentity& device : m_devices)
-        known.append(known.empty() ? L"" : L", ").append(device.name.View());
-    throw Refusal(IDS_PLANT_NO_DEVICE, {std::wstring(name), Shown(m_folder / MainDocument), known});
+    return plant::DeviceByName(m_devices, name, m_folder / MainDocument);
 }
 
 std::size_t Project::DeviceByNameOrId(std::wstring_view text) const
 {
-    const auto named = Find(&KZDeviceIdentity::name, text);
-    const auto found = named ? named : Find(&KZDeviceIdentity::driverId, text);
-    return found ? *found : DeviceByName(text);
+    return plant::DeviceByNameOrId(m_devices, text, m_folder / MainDocument);
 }
 
 void Project::ReadDevice(const std::string& name, XmlDocument& document, SeenDocuments& seen) const

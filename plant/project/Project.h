@@ -107,8 +107,6 @@ private:
         DeviceList devices;
     };
 
-    [[nodiscard]] std::optional<std::size_t> Find(KZBasicString KZDeviceIdentity::*identity,
-                                                  std::wstring_view text) const;
     [[nodiscard]] std::string ReadMain(SeenDocuments& seen) const;
     void Open(XmlDocument& document, const std::string& bytes, DeviceList& devices) const;
     [[nodiscard]] DeviceList Rehearse(const std::string& mainBytes) const;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Disk.h"
+#include "DocumentFiles.h"
 #include "KZXmlDocument.h"
 
 namespace plant {
@@ -22,6 +23,9 @@ public:
     explicit StoredProject(const Path& folder, Disk& disk = RealDisk());
 
     [[nodiscard]] const Path& Folder() const noexcept { return m_folder; }
+
+    // Every document that there is.
+    [[nodiscard]] DocumentFiles Documents() const { return DocumentFilesIn(m_disk, m_folder); }
 
     // Reads the main configuration document. Throws Refusal when it is missing or broken.
     void ReadMain(XmlDocument& main) const;

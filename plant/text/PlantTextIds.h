@@ -63,3 +63,15 @@
 #define IDS_PLANT_TABLE_NO_DEVICE 3094     // %s %s %s %s: the file, the row, the column, the device
 #define IDS_PLANT_TABLE_SAME_DEVICE 3095   // %s %s %s %s: the file, the row, the column, the device
 #define IDS_PLANT_TABLE_NO_TYPE 3096       // %s %s %s %s: the file, the row, the column, the device
+
+#define IDS_PLANT_CHECK_NO_DOCUMENT 3100  // %s: the file
+#define IDS_PLANT_CHECK_STRAY_DOCUMENT 3101
+#define IDS_PLANT_CHECK_UNKNOWN_TYPE 3102     // %s: the type
+#define IDS_PLANT_CHECK_NO_WHOLE_NUMBER 3103  // %s: the stored text
+#define IDS_PLANT_CHECK_NO_CHOICE 3104        // %s %s: the stored number, the names that there are
+#define IDS_PLANT_CHECK_STRAY_SETUP 3105      // %s %s: the element, the driverId
+#define IDS_PLANT_CHECK_DOUBLE_SETUP 3106     // %s %s: the element, the driverId
+#define IDS_PLANT_CHECK_NO_VARIABLE 3107      // %s: the chosen name
+#define IDS_PLANT_CHECK_OTHER_DEVICE 3108     // %s: the chosen name
+#define IDS_PLANT_CHECK_DOUBLE_VARIABLE 3109  // %s: the chosen name
+#define IDS_PLANT_CHECK_NO_GROUPS 3110        // %s: the device's groups

@@ -32,6 +32,7 @@ public:
         : m_message{text, std::move(arguments), {}}
     {
     }
+    explicit Refusal(Message message) noexcept : m_message(std::move(message)) {}
     [[nodiscard]] const Message& What() const noexcept { return m_message; }
     [[nodiscard]] const char* what() const noexcept override { return "refused"; }
 
