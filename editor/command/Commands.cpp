@@ -118,6 +118,7 @@ ExitStatus RunCommand(const Arguments& arguments)
         {Command::Export, ExportDevices},
         {Command::Import, ImportDevices},
         {Command::Diff, CompareProjects},
+        {Command::Check, CheckForFaults},
     };
     for (const auto& [command, run] : commands) {
         if (command == arguments.command)

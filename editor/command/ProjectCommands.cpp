@@ -2,6 +2,8 @@
 
 #include "Console.h"
 #include "KZUtf8.h"
+#include "check/ProjectCheck.h"
+#include "project/Commit.h"
 #include "project/DocumentName.h"
 #include "project/GroupMask.h"
 #include "text/EditorError.h"
@@ -10,9 +12,9 @@
 
 namespace {
 
-void TellOfUnsaved(plant::Project& project)
+void TellOfUnsaved(const plant::Path& folder)
 {
-    const plant::Recoveries recoveries = project.FindUnsaved();
+    const plant::Recoveries recoveries = plant::FindRecoveries(plant::RealDisk(), folder);
     for (const plant::FoundRecovery& found : recoveries.found)
         PrintErrorLine(ToUtf8(FormatEditorText(IDS_UNSAVED_FOUND, FromUtf8(plant::UtcText(found.unsaved.time)).c_str(),
                                                plant::Shown(found.file).c_str())));
@@ -25,7 +27,7 @@ void TellOfUnsaved(plant::Project& project)
 std::unique_ptr<plant::Project> OpenProject(const Arguments& arguments, plant::Project::MainIs main)
 {
     auto project = std::make_unique<plant::Project>(arguments.project, plant::RealDisk(), main);
-    TellOfUnsaved(*project);
+    TellOfUnsaved(project->Folder());
     return project;
 }
 
@@ -56,6 +58,17 @@ ExitStatus RestoreSave(const Arguments& arguments)
     for (const auto& [name, bytes] : change)
         PrintLine(name + (bytes ? "\trestored" : "\tremoved"));
     return change.empty() ? ExitFalse : ExitTrue;
+}
+
+ExitStatus CheckForFaults(const Arguments& arguments)
+{
+    const plant::Path folder = plant::ExistingFolder(arguments.project);
+    plant::FinishInterruptedCommit(plant::RealDisk(), folder);
+    TellOfUnsaved(folder);
+    const plant::Findings findings = plant::CheckProject(plant::StoredProject(folder), arguments.devices);
+    for (const plant::Finding& finding : findings)
+        PrintRow({finding.device.empty() ? "-" : finding.device, finding.place, ToUtf8(PlantMessage(finding.reason))});
+    return findings.empty() ? ExitTrue : ExitFalse;
 }
 
 ExitStatus RecoverUnsaved(const Arguments& arguments)

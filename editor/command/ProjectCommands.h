@@ -15,4 +15,5 @@
 [[nodiscard]] ExitStatus ListDevices(const Arguments& arguments);
 [[nodiscard]] ExitStatus ListHistory(const Arguments& arguments);
 [[nodiscard]] ExitStatus RestoreSave(const Arguments& arguments);
+[[nodiscard]] ExitStatus CheckForFaults(const Arguments& arguments);
 [[nodiscard]] ExitStatus RecoverUnsaved(const Arguments& arguments);

@@ -19,11 +19,9 @@ namespace plant {
 
 namespace {
 
-// Bits that no dialog shows, numbers that a list has no item for.
+// A number that the list has no item for. Bits beyond a set do no harm: every reader leaves them out.
 bool IsBeyondChoices(const Field& field, int number) noexcept
 {
-    if (field.kind == FieldKind::Set)
-        return (number & ~zep::InformationFields[field.part].mask) != 0;
     return field.kind == FieldKind::Choice && field.section == FieldSection::Device &&
            static_cast<std::size_t>(number) >= field.choices.size();
 }

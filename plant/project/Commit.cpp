@@ -226,6 +226,12 @@ void FinishCommit(Disk& disk, const Path& project, const ProjectLock&)
     Commission(disk, project).Finish();
 }
 
+void FinishInterruptedCommit(Disk& disk, const Path& project)
+{
+    if (HasJournal(disk, project))
+        FinishCommit(disk, project, ProjectLock(disk, project));
+}
+
 void Commit(Disk& disk, const Path& project, const ProjectLock&, const Change& change)
 {
     Commission(disk, project).Run(change);

@@ -19,6 +19,9 @@ namespace plant {
 // or lacks what it is to put into place is refused, and then nothing is moved, written or removed.
 void FinishCommit(Disk& disk, const Path& project, const ProjectLock& lock);
 
+// The same for whoever has no lock, which is taken only where there is a journal.
+void FinishInterruptedCommit(Disk& disk, const Path& project);
+
 // Carries out a change, under the lock and after FinishCommit. The change may hold an entry of the history besides
 // documents. When a document cannot be put into place, those that were are put back, and Refusal is thrown with
 // everything as it was. Should that fail too, Refusal names the journal, which FinishCommit will carry out.

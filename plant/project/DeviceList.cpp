@@ -15,9 +15,9 @@ namespace plant {
 
 namespace {
 
-class DeviceReader {
+class ElementReader {
 public:
-    DeviceReader(std::wstring file, std::vector<DeviceFault>& faults) : m_file(std::move(file)), m_faults(faults) {}
+    ElementReader(std::wstring file, std::vector<DeviceFault>& faults) : m_file(std::move(file)), m_faults(faults) {}
 
     // Nothing for a device without a driverId of its own.
     std::optional<KZDeviceIdentity> Read(const XmlDocument::XmlNode& element);
@@ -56,13 +56,13 @@ bool HasControlCharacter(std::wstring_view text)
     return std::any_of(text.begin(), text.end(), [](wchar_t c) { return c < L' '; });
 }
 
-void DeviceReader::Fail(unsigned textId, const wchar_t* value) const
+void ElementReader::Fail(unsigned textId, const wchar_t* value) const
 {
     m_faults.push_back({Label(), {textId, {m_file, Label(), value}}});
 }
 
 // What errors call the device.
-std::wstring DeviceReader::Label() const
+std::wstring ElementReader::Label() const
 {
     for (const wchar_t* valueName : {L"name", L"driverId"}) {
         if (const wchar_t* value = m_device->Value(valueName, L""); *value)
@@ -71,7 +71,7 @@ std::wstring DeviceReader::Label() const
     return L"#" + std::to_wstring(m_position);
 }
 
-const wchar_t* DeviceReader::Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const
+const wchar_t* ElementReader::Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const
 {
     const wchar_t* const value = element.Value(valueName, L"");
     if (!*value)
@@ -79,7 +79,7 @@ const wchar_t* DeviceReader::Required(const XmlDocument::XmlNode& element, const
     return value;
 }
 
-bool DeviceReader::IsIdentifier(const wchar_t* driverId)
+bool ElementReader::IsIdentifier(const wchar_t* driverId)
 {
     if (!*driverId)
         return false;
@@ -92,7 +92,7 @@ bool DeviceReader::IsIdentifier(const wchar_t* driverId)
     return isOwn;
 }
 
-void DeviceReader::CheckName(const wchar_t* name)
+void ElementReader::CheckName(const wchar_t* name)
 {
     if (HasControlCharacter(name))
         Fail(IDS_PLANT_DEVICE_BAD_NAME, L"name");
@@ -100,7 +100,7 @@ void DeviceReader::CheckName(const wchar_t* name)
         Fail(IDS_PLANT_DEVICE_DOUBLE_NAME, name);
 }
 
-int DeviceReader::Number(const XmlDocument::XmlNode& element) const
+int ElementReader::Number(const XmlDocument::XmlNode& element) const
 {
     const wchar_t* text = element.Value(L"number", L"0");
     const std::string digits = ToUtf8(text);
@@ -111,7 +111,7 @@ int DeviceReader::Number(const XmlDocument::XmlNode& element) const
     return number;
 }
 
-KZVariableGroups DeviceReader::Groups(const XmlDocument::XmlNode& element) const
+KZVariableGroups ElementReader::Groups(const XmlDocument::XmlNode& element) const
 {
     const wchar_t* text = element.Value(L"groups", L"0x0");
     const auto groups = ParseGroupMask(text);
@@ -120,7 +120,7 @@ KZVariableGroups DeviceReader::Groups(const XmlDocument::XmlNode& element) const
     return groups.value_or(KZVariableGroups{});
 }
 
-std::optional<KZDeviceIdentity> DeviceReader::Read(const XmlDocument::XmlNode& element)
+std::optional<KZDeviceIdentity> ElementReader::Read(const XmlDocument::XmlNode& element)
 {
     ++m_position;
     m_device = &element;
@@ -152,7 +152,7 @@ std::optional<std::size_t> Find(const DeviceList& devices, KZBasicString KZDevic
 DeviceList ReadDevices(const XmlDocument& document, const std::wstring& file, std::vector<DeviceFault>& faults)
 {
     DeviceList devices;
-    DeviceReader reader(file, faults);
+    ElementReader reader(file, faults);
     const XmlDocument::XmlNode* list = document.Node(L"devices");
     for (const auto* element = list ? list->FirstChild(L"device") : nullptr; element;
          element = element->NextSibling(L"device"))

@@ -19,8 +19,7 @@ Project::Project(const Path& folder, Disk& disk, MainIs main)
     : m_disk(disk), m_folder(ExistingFolder(folder)), m_name(Shown(m_folder.filename())), m_seen(disk, m_folder),
       m_history(disk, m_folder), m_recovery(disk, m_folder)
 {
-    if (HasJournal(m_disk, m_folder))
-        FinishCommit(m_disk, m_folder, ProjectLock(m_disk, m_folder));
+    FinishInterruptedCommit(m_disk, m_folder);
     try {
         Open(*KZMainCfg::Get(), ReadMain(m_seen), m_devices);
     } catch (const Refusal&) {

@@ -105,11 +105,13 @@ TEST_F(ProjectChecks, FindChoicesThatNoDialogShows)
     EXPECT_EQ(FoundIn("<algorithm>3</algorithm><status>2</status>"),
               (Lines{Line("CPD", "device.algorithm", IDS_PLANT_CHECK_NO_CHOICE),
                      Line("CPD", "device.status", IDS_PLANT_CHECK_NO_CHOICE)}));
-    EXPECT_EQ(FoundIn("<mode>16</mode><filters>4096</filters>"),
-              (Lines{Line("CPD", "device.mode", IDS_PLANT_CHECK_NO_CHOICE),
-                     Line("CPD", "device.filters", IDS_PLANT_CHECK_NO_CHOICE)}));
     EXPECT_EQ(FoundIn("<algorithm>-1</algorithm>"),
               (Lines{Line("CPD", "device.algorithm", IDS_PLANT_CHECK_NO_CHOICE)}));
+}
+
+TEST_F(ProjectChecks, PutUpWithBitsThatEveryReaderLeavesOut)
+{
+    EXPECT_EQ(FoundIn("<mode>255</mode><filters>4096</filters>"), Lines());
 }
 
 TEST_F(ProjectChecks, FindDecimalsThatHaveNoRadio)
