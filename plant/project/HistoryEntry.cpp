@@ -120,7 +120,11 @@ Manifest ReadManifest(std::string_view bytes, const std::wstring& file)
     const std::optional<std::string_view> body = Unseal(Kind, bytes);
     if (!body)
         throw Refusal(IDS_PLANT_DAMAGED, {file});
-    return Reader(*body, file).Read();
+    Manifest manifest = Reader(*body, file).Read();
+    // Numbers in another spelling, documents in another order: nobody has written that.
+    if (WriteManifest(manifest) != bytes)
+        throw Refusal(IDS_PLANT_DAMAGED, {file});
+    return manifest;
 }
 
 std::string UtcText(std::int64_t time)

@@ -93,7 +93,10 @@ INSTANTIATE_TEST_SUITE_P(
                     StrangeBody{"HugeTime", Start + "\n1\t9223372036854775808\t0000000000000001\tmain.xml\n"},
                     StrangeBody{"ShortHash", Start + "\n1\t0\t01\tmain.xml\n"},
                     StrangeBody{"NoLineEnd", Start + "\n" + Line.substr(0, Line.size() - 1)},
-                    StrangeBody{"Twice", Start + "\n" + Line + Line}),
+                    StrangeBody{"Twice", Start + "\n" + Line + Line},
+                    StrangeBody{"LeadingZero", "012\t2026-11-21T21:28:04Z\tx\n\n"},
+                    StrangeBody{"LeadingZeroOfASize", Start + "\n01\t0\t0000000000000001\tmain.xml\n"},
+                    StrangeBody{"OtherOrder", Start + "\n" + Line + LineStart + "devices/x.xml\n"}),
     kztest::ByName);
 
 class StrangeNameInHistoryEntry : public testing::TestWithParam<StrangeBody> {};
