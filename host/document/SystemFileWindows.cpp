@@ -4,6 +4,7 @@
 #include <array>
 #include <memory>
 
+#include "FileKind.h"
 #include "FileStore.h"
 #include "KZSystemFile.h"
 
@@ -96,17 +97,24 @@ bool KZMoveOver(const std::filesystem::path& from, const std::filesystem::path& 
 
 namespace {
 
+// Which reparse point it is, only a search tells. What cannot be found out counts as a link.
+DWORD ReparseTagOf(const std::filesystem::path& path) noexcept
+{
+    WIN32_FIND_DATAW data;
+    const HANDLE search = ::FindFirstFileW(path.c_str(), &data);
+    if (search == INVALID_HANDLE_VALUE)
+        return IO_REPARSE_TAG_SYMLINK;
+    ::FindClose(search);
+    return data.dwReserved0;
+}
+
 // WIN32_FIND_DATAW and WIN32_FILE_ATTRIBUTE_DATA name them alike.
 template <class Data>
-KZFileEntry EntryOf(const Data& data)
+KZFileEntry EntryOf(const Data& data, DWORD reparseTag)
 {
     constexpr std::int64_t From1601To1970 = 116'444'736'000'000'000;
-    constexpr DWORD folderOrLink = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
     KZFileEntry entry;
-    if ((data.dwFileAttributes & folderOrLink) == 0)
-        entry.kind = KZFileEntry::Kind::File;
-    else if ((data.dwFileAttributes & folderOrLink) == FILE_ATTRIBUTE_DIRECTORY)
-        entry.kind = KZFileEntry::Kind::Folder;
+    entry.kind = KindOf(data.dwFileAttributes, reparseTag);
     entry.readOnly = (data.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
     entry.size = std::uint64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow;
     const FILETIME& written = data.ftLastWriteTime;
@@ -133,7 +141,7 @@ std::optional<std::vector<KZFileEntry>> KZListFolder(const std::filesystem::path
         const std::wstring_view name = data.cFileName;
         if (name == L"." || name == L"..")
             continue;
-        entries.push_back(EntryOf(data));
+        entries.push_back(EntryOf(data, data.dwReserved0));
         entries.back().name = name;
     } while (::FindNextFileW(search, &data));
     return ::GetLastError() == ERROR_NO_MORE_FILES ? std::optional(std::move(entries)) : std::nullopt;
@@ -144,7 +152,8 @@ std::optional<KZFileEntry> KZFindFile(const std::filesystem::path& path)
     WIN32_FILE_ATTRIBUTE_DATA data;
     if (!::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data))
         return std::nullopt;
-    KZFileEntry entry = EntryOf(data);
+    const bool isReparsePoint = (data.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    KZFileEntry entry = EntryOf(data, isReparsePoint ? ReparseTagOf(path) : 0);
     entry.name = path.filename();
     return entry;
 }
