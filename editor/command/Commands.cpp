@@ -16,10 +16,17 @@
 
 namespace {
 
-ExitStatus PrintAnswer(const char* what, bool answer)
+// What a command has to say once its save stands.
+struct Answer {
+    Answer(std::string line, bool isTrue) : lines{std::move(line)}, status(isTrue ? ExitTrue : ExitFalse) {}
+
+    std::vector<std::string> lines;
+    ExitStatus status;
+};
+
+Answer TrueOrFalse(const std::string& what, bool answer)
 {
-    PrintLine(std::string(what) + (answer ? ": true" : ": false"));
-    return answer ? ExitTrue : ExitFalse;
+    return {what + (answer ? ": true" : ": false"), answer};
 }
 
 ExitStatus PrintHostString(const Arguments& arguments)
@@ -38,42 +45,41 @@ struct Context {
     KZDriver* driver;
 };
 
-ExitStatus RunOptions(const Context& context)
+Answer RunOptions(const Context& context)
 {
     RequireDeviceDocument(context.project, context.driver->DriverId());
     RequirePictures();
-    return PrintAnswer("options", context.callbacks.options(nullptr, context.driver));
+    return TrueOrFalse("options", context.callbacks.options(nullptr, context.driver));
 }
 
-ExitStatus RunSelect(const Context& context)
+Answer RunSelect(const Context& context)
 {
     RequirePictures();
     const Arguments& arguments = context.arguments;
     plant::VariableList variables = arguments.variables;
-    const ExitStatus status =
-        PrintAnswer("select", context.callbacks.selectVariables(nullptr, context.driver, variables, arguments.groups,
+    Answer answer =
+        TrueOrFalse("select", context.callbacks.selectVariables(nullptr, context.driver, variables, arguments.groups,
                                                                 arguments.maxVariables,
                                                                 arguments.text ? arguments.text->c_str() : nullptr));
     for (const KZBasicString& variable : variables)
-        PrintLine("variable: " + ToUtf8(variable.View()));
-    return status;
+        answer.lines.push_back("variable: " + ToUtf8(variable.View()));
+    return answer;
 }
 
-ExitStatus RunThird(const Context& context)
+Answer RunThird(const Context& context)
 {
-    return PrintAnswer("third", context.callbacks.third(nullptr, context.driver));
+    return TrueOrFalse("third", context.callbacks.third(nullptr, context.driver));
 }
 
-ExitStatus RunChild(const Context& context)
+Answer RunChild(const Context& context)
 {
     RequireDeviceDocument(context.project, context.driver->DriverId());
     RequirePictures();
     const bool created = ShowChildWindow(context.driver, context.callbacks.createChildOptions);
-    PrintLine(created ? "child: created" : "child: null");
-    return created ? ExitTrue : ExitFalse;
+    return {created ? "child: created" : "child: null", created};
 }
 
-ExitStatus RunOnDevice(const Arguments& arguments, const char* command, ExitStatus (*run)(const Context&))
+ExitStatus RunOnDevice(const Arguments& arguments, const char* command, Answer (*run)(const Context&))
 {
     const std::unique_ptr<plant::Project> project = OpenProject(arguments);
     const std::size_t index = project->DeviceByName(arguments.device);
@@ -86,11 +92,13 @@ ExitStatus RunOnDevice(const Arguments& arguments, const char* command, ExitStat
         throw EditorError(status.reason + L" " + status.remedy);
     }
     DeviceDrivers drivers(project->Devices());
-    const ExitStatus status = run({arguments, *project, *callbacks, &drivers[index]});
+    const Answer answer = run({arguments, *project, *callbacks, &drivers[index]});
     project->Save(command);
     if (store.Refused())
         throw EditorError(*store.Refused());
-    return status;
+    for (const std::string& line : answer.lines)
+        PrintLine(line);
+    return answer.status;
 }
 
 }  // namespace

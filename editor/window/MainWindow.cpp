@@ -52,6 +52,7 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_MESSAGE(WM_ACTIVATEAPP, &MainWindow::OnActivateProgram)
     ON_MESSAGE(WM_KZ_LOOK_AT_FILES, &MainWindow::OnLookAtFiles)
     ON_MESSAGE(WM_KZ_UNPROTECTED, &MainWindow::OnUnprotected)
+    ON_MESSAGE(WM_KZ_WAITING, &MainWindow::OnWaiting)
     ON_MESSAGE(WM_QUERYENDSESSION, &MainWindow::OnQueryEndOfSession)
     ON_MESSAGE(WM_ENDSESSION, &MainWindow::OnEndOfSession)
 END_MESSAGE_MAP()
@@ -191,9 +192,14 @@ void MainWindow::ShowSummary()
 
 void MainWindow::ShowState()
 {
-    const unsigned title = IsDirty() ? IDS_TITLE_DIRTY : IDS_TITLE;
-    SetWindowText(FormatEditorText(title, m_project.Name().c_str()).c_str());
+    ShowTitle();
     ShowCommands();
+}
+
+void MainWindow::ShowTitle()
+{
+    const unsigned title = m_questions.IsWaiting() ? IDS_TITLE_WAITING : IsDirty() ? IDS_TITLE_DIRTY : IDS_TITLE;
+    SetWindowText(FormatEditorText(title, m_project.Name().c_str()).c_str());
 }
 
 void MainWindow::OnSize(UINT type, int cx, int cy)

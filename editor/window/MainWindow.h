@@ -50,6 +50,7 @@ protected:
     afx_msg LRESULT OnActivateProgram(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnLookAtFiles(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnUnprotected(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnWaiting(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnQueryEndOfSession(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnEndOfSession(WPARAM wParam, LPARAM lParam);
 
@@ -92,6 +93,7 @@ private:
     void ShowChosenVariables();
     void ShowSummary();
     void ShowState();
+    void ShowTitle();
     [[nodiscard]] const KZDeviceIdentity* SelectedDevice() const;
     [[nodiscard]] KZDriver* SelectedDriver();
     [[nodiscard]] const KZDriverCallbacks* SelectedCallbacks() const;

@@ -12,6 +12,7 @@ bool MainWindow::SaveOrSayWhy()
     auto outcome = plant::Project::Outcome::Cancelled;
     std::wstring failure;
     try {
+        const WaitCursor waiting;
         outcome = m_project.Save("window");
     } catch (const plant::Refusal& refusal) {
         failure = FormatEditorText(IDS_SAVE_FAILED, PlantMessage(refusal.What()).c_str());
@@ -140,6 +141,12 @@ LRESULT MainWindow::OnLookAtFiles(WPARAM, LPARAM)
 LRESULT MainWindow::OnUnprotected(WPARAM, LPARAM)
 {
     AfxMessageBox(m_questions.Warning().c_str(), MB_OK | MB_ICONWARNING);
+    return 0;
+}
+
+LRESULT MainWindow::OnWaiting(WPARAM, LPARAM)
+{
+    ShowTitle();
     return 0;
 }
 

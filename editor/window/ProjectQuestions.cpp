@@ -72,6 +72,15 @@ void ProjectQuestions::TellUnprotected(const plant::Message& why) noexcept
     }
 }
 
+void ProjectQuestions::TellWaiting(bool isWaiting) noexcept
+{
+    if (isWaiting)
+        m_waiting.emplace();
+    else
+        m_waiting.reset();
+    m_window.SendMessage(WM_KZ_WAITING);
+}
+
 bool ProjectQuestions::AskToLoadAnew(const std::vector<std::string>& documents) const
 {
     const bool loses = std::any_of(documents.begin(), documents.end(),

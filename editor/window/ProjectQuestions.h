@@ -3,10 +3,15 @@
 
 #include <afxwin.h>
 
+#include <optional>
+
+#include "WaitCursor.h"
 #include "project/Project.h"
 
 // To the main window: tell the user what ProjectQuestions::Warning gives.
 inline constexpr UINT WM_KZ_UNPROTECTED = WM_APP + 0x130;
+// To the main window: what ProjectQuestions::IsWaiting gives has changed.
+inline constexpr UINT WM_KZ_WAITING = WM_APP + 0x132;
 
 class ProjectQuestions : public plant::ProjectUser {
 public:
@@ -19,6 +24,9 @@ public:
     // The message may come out of the middle of a dialog's work, so the window is told later, and once for each reason.
     void TellUnprotected(const plant::Message& why) noexcept override;
     [[nodiscard]] const std::wstring& Warning() const noexcept { return m_warning; }
+    // The window is told at once: its thread does nothing else while it waits.
+    void TellWaiting(bool isWaiting) noexcept override;
+    [[nodiscard]] bool IsWaiting() const noexcept { return m_waiting.has_value(); }
 
     // Whether to load these documents anew. Without an answer of yes the user's own stay.
     [[nodiscard]] bool AskToLoadAnew(const std::vector<std::string>& documents) const;
@@ -34,4 +42,5 @@ private:
     const CWnd& m_window;
     const plant::Project& m_project;
     std::wstring m_warning;
+    std::optional<WaitCursor> m_waiting;
 };

@@ -198,7 +198,7 @@ DeviceList Project::RequireOpenable(const std::string& mainBytes, int number) co
 
 Change Project::Restore(int number, bool dryRun)
 {
-    const ProjectLock lock(m_disk, m_folder);
+    const ProjectLock lock = Lock();
     FinishCommit(m_disk, m_folder, lock);
     Change change = m_history.Restoring(number);
     const auto main = change.find(Main);

@@ -24,6 +24,8 @@ public:
     virtual Answer AskAboutForeignChanges(const std::vector<std::string>& documents) = 0;
     // What is not saved yet could not be put into the recovery file: it would be lost with the process.
     virtual void TellUnprotected(const Message& why) noexcept = 0;
+    // Another process is saving, so that this one has to wait; then, that it waits no longer.
+    virtual void TellWaiting(bool isWaiting) noexcept = 0;
 
 protected:
     ~ProjectUser() = default;
@@ -114,6 +116,7 @@ private:
     void RehearseDevice(const std::string& name, const std::optional<std::string>& bytes) const;
     void ReplaceMain(const std::string& bytes, DeviceList devices);
     void ReadDevice(const std::string& name, XmlDocument& document, SeenDocuments& seen) const;
+    [[nodiscard]] ProjectLock Lock() const;
     [[nodiscard]] Change Waiting() const;
     Outcome Write(Change change, const std::string& cause);
     [[nodiscard]] ForeignChanges WriteUnlessForeign(const Change& change, const std::string& cause,

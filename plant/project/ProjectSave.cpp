@@ -65,13 +65,21 @@ Project::Outcome Project::SaveTogether(Change devices, bool isMainChanged, const
     }
 }
 
+ProjectLock Project::Lock() const
+{
+    return ProjectLock(m_disk, m_folder, ProjectLock::LongestWait, [this](bool isWaiting) {
+        if (m_user)
+            m_user->TellWaiting(isWaiting);
+    });
+}
+
 // Writes nothing when another program has changed some of the documents since they were read, other than to what may be
 // overwritten, and returns these. Nobody waits for the lock while a person thinks.
 ForeignChanges Project::WriteUnlessForeign(const Change& change, const std::string& cause,
                                            const ForeignChanges& overwritten)
 {
     if (!change.empty()) {
-        const ProjectLock lock(m_disk, m_folder);
+        const ProjectLock lock = Lock();
         FinishCommit(m_disk, m_folder, lock);
         Change differing = change;
         ForeignChanges foreign = ForeignIn(differing, overwritten);

@@ -7,6 +7,7 @@ using editor_tests::CleanTitle;
 using editor_tests::DeviceXml;
 using editor_tests::DirtyTitle;
 using editor_tests::EditorProcess;
+using editor_tests::HeldByAnother;
 using editor_tests::ListCell;
 using editor_tests::MainXml;
 using editor_tests::Press;
@@ -281,4 +282,30 @@ TEST_F(ForeignChanges, ACommandEndsWithTwoAndWritesNothing)
     EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 1) << errors;
     EXPECT_THAT(errors, AllOf(HasSubstr("main.xml"), HasSubstr("nothing was written")));
     EXPECT_EQ(Documents(), theirs);
+}
+
+TEST_F(ForeignChanges, ThatAreBeingSavedLetTheWindowSayThatItWaits)
+{
+    // The window's thread waits, so it cannot be asked; the system knows its title.
+    const auto hasTitle = [this](std::wstring_view end) {
+        wchar_t title[200] = L"";
+        ::GetWindowTextW(m_window, title, 200);
+        return std::wstring_view(title).ends_with(end);
+    };
+    MakeDirty();
+    {
+        const HeldByAnother lock(m_folder.Path() / "plant" / "project.lock");
+        Press(m_window, IDC_SAVE);
+        EXPECT_TRUE(WaitUntil([&] { return hasTitle(L"waiting until another editor has saved"); }));
+    }
+    ExpectTitle(CleanTitle);
+}
+
+TEST_F(ForeignChanges, ThatTakeTooLongToSaveLeaveTheUsersOwnUnsaved)
+{
+    MakeDirty();
+    const HeldByAnother lock(m_folder.Path() / "plant" / "project.lock");
+    Press(m_window, IDC_SAVE);
+    EXPECT_THAT(AnswerBox(IDOK), AllOf(HasSubstr("project.lock"), HasSubstr("another editor is saving")));
+    ExpectTitle(DirtyTitle);
 }

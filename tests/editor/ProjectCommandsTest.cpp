@@ -5,6 +5,7 @@
 
 using editor_tests::DeviceXml;
 using editor_tests::EditorProcess;
+using editor_tests::HeldByAnother;
 using editor_tests::Press;
 using testing::AllOf;
 using testing::ElementsAre;
@@ -67,21 +68,6 @@ protected:
                       now.wMinute, now.wSecond);
         return text;
     }
-};
-
-// A file that nobody else may open as long as this lives.
-class HeldByAnother {
-public:
-    explicit HeldByAnother(const fs::path& file)
-        : m_file(::CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr))
-    {
-    }
-    ~HeldByAnother() { ::CloseHandle(m_file); }
-    HeldByAnother(const HeldByAnother&) = delete;
-    HeldByAnother& operator=(const HeldByAnother&) = delete;
-
-private:
-    HANDLE m_file;
 };
 
 }  // namespace
@@ -205,6 +191,7 @@ TEST_F(ProjectCommands, AHistoryThatCannotBeWrittenRefusesTheSave)
     Press(editor.WindowTitled(L"test options"), IDOK);
     EXPECT_EQ(editor.Wait(), 2);
     EXPECT_THAT(editor.Errors(), AllOf(HasSubstr("history"), HasSubstr("move it")));
+    EXPECT_THAT(editor.Output(), IsEmpty()) << "an answer though nothing was saved";
     EXPECT_EQ(Main(), main);
 }
 

@@ -7,6 +7,21 @@
 
 namespace editor_tests {
 
+// A file that nobody else may open as long as this lives.
+class HeldByAnother {
+public:
+    explicit HeldByAnother(const std::filesystem::path& file)
+        : m_file(::CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr))
+    {
+    }
+    ~HeldByAnother() { ::CloseHandle(m_file); }
+    HeldByAnother(const HeldByAnother&) = delete;
+    HeldByAnother& operator=(const HeldByAnother&) = delete;
+
+private:
+    HANDLE m_file;
+};
+
 class ProjectWindowTest : public MainWindowTest {
 protected:
     void OpenIn(const std::string& language)

@@ -150,6 +150,22 @@ TEST_F(RecoveryWindow, TellsOfADamagedLeftoverAndLeavesIt)
     EXPECT_EQ(m_folder.Read(name), "no such thing");
 }
 
+// The documents' paths are as long as Windows allows, that of the file for the changes would be longer.
+TEST_F(RecoveryWindow, WarnsOnceThatWhatADialogHasChangedIsNotProtected)
+{
+    const fs::path parent = m_folder.Path() / "long";
+    const std::size_t length = 238 - parent.native().size() - std::wstring_view(L"\\\\plant").size();
+    const fs::path project = parent / std::wstring(length, L'x') / "plant";
+    fs::create_directories(project.parent_path());
+    fs::copy(m_folder.Path() / "plant", project, fs::copy_options::recursive);
+    TakeWindow(StartBare({"--project", ToUtf8(project.wstring()), "--language", "en"}));
+    MakeDirty();
+    EXPECT_THAT(AnswerBox(IDOK), AllOf(HasSubstr("would be lost"), HasSubstr(".kzrecovery")));
+    ChooseVariables();
+    ExpectNothingAsked();
+    ExpectTitle(DirtyTitle);
+}
+
 TEST_F(RecoveryWindow, LeavesTheChangesOfARunningEditorAlone)
 {
     Open();

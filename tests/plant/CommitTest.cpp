@@ -303,6 +303,23 @@ TEST_F(ProjectLocks, AreHeldByOneAtATime)
     EXPECT_EQ(Refused([this] { ProjectLock(RealDisk(), m_folder.Path(), 50); }), IDS_PLANT_LOCKED);
 }
 
+TEST_F(ProjectLocks, SayThatSomebodyWaitsWhenHeWouldNoticeAndThatHeWaitsNoLonger)
+{
+    std::vector<bool> told;
+    const auto wait = [&](int longest) {
+        return Refused([&] {
+            ProjectLock(RealDisk(), m_folder.Path(), longest, [&](bool isWaiting) { told.push_back(isWaiting); });
+        });
+    };
+    EXPECT_EQ(wait(ProjectLock::LongestWait), 0U);
+    EXPECT_TRUE(told.empty());
+    const ProjectLock held(RealDisk(), m_folder.Path());
+    EXPECT_EQ(wait(50), IDS_PLANT_LOCKED);
+    EXPECT_TRUE(told.empty());
+    EXPECT_EQ(wait(ProjectLock::NoticeableWait + 200), IDS_PLANT_LOCKED);
+    EXPECT_EQ(told, (std::vector<bool>{true, false}));
+}
+
 TEST_F(ProjectLocks, AreFreeAgainWhenTheirOwnerEnds)
 {
     ProjectLock(RealDisk(), m_folder.Path());

@@ -164,6 +164,18 @@ TEST_F(ForeignChangesTest, DoNotKeepOthersFromSavingWhileTheUserThinks)
     EXPECT_EQ(SaveAnswering({Answer::Overwrite}), Outcome::Done);
 }
 
+TEST_F(ForeignChangesTest, ThatAreBeingSavedLetTheUserKnowThatASaveWaits)
+{
+    LeaveUnsaved({{"main.xml", MainText("mine")}});
+    Open();
+    RecoverAll();
+    std::optional<ProjectLock> theirs(std::in_place, RealDisk(), m_folder.Path());
+    m_user.whileWaiting = [&] { theirs.reset(); };
+    EXPECT_EQ(SaveAnswering({}), Outcome::Done);
+    EXPECT_EQ(m_user.waits, (std::vector<bool>{true, false}));
+    EXPECT_EQ(ReadMain(), MainText("mine"));
+}
+
 TEST_F(ForeignChangesTest, ThatAreTakenComeTogetherWithTheRestOrNotAtAll)
 {
     LeaveUnsaved({{"main.xml", MainText("mine")}, {"devices/a.xml", DeviceText("mine")}});

@@ -21,6 +21,8 @@ public:
     std::vector<std::vector<std::string>> asked;
     std::function<void()> whileAsked = [] {};
     unsigned told = 0;  // the text of the last thing told, 0 for nothing
+    std::vector<bool> waits;
+    std::function<void()> whileWaiting = [] {};
 
     Answer AskAboutForeignChanges(const std::vector<std::string>& documents) override
     {
@@ -35,6 +37,11 @@ public:
         return answer;
     }
     void TellUnprotected(const plant::Message& why) noexcept override { told = why.text; }
+    void TellWaiting(bool isWaiting) noexcept override
+    {
+        waits.push_back(isWaiting);
+        whileWaiting();
+    }
 };
 
 [[nodiscard]] inline std::string MainText(const std::string& note)

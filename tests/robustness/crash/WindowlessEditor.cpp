@@ -73,6 +73,7 @@ public:
         }
     }
     void TellUnprotected(const plant::Message&) noexcept override { std::abort(); }
+    void TellWaiting(bool) noexcept override {}
 
 private:
     void Offer()
