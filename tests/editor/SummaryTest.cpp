@@ -1,6 +1,4 @@
 // What the editor shows of a device's documents without opening its dialogs.
-#include <windows.h>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,11 +6,13 @@
 #include "KZQuorvelantaSetup.h"
 #include "KZUtf8.h"
 #include "TemporaryFolder.h"
+#include "UserNumber.h"
 #include "text/FieldText.h"
 #include "window/DeviceSummary.h"
 
 namespace {
 
+using editor_tests::UserNumber;
 using kztest::TemporaryFolder;
 using testing::AllOf;
 using testing::Contains;
@@ -30,16 +30,6 @@ std::vector<std::string> Lines(const SummaryRows& rows, const wchar_t* section)
         if (row.section == section)
             lines.push_back(ToUtf8(row.name + L": " + row.value + (row.unit.empty() ? L"" : L" ") + row.unit));
     return lines;
-}
-
-// A number as this user writes it.
-std::string UserNumber(std::string number)
-{
-    wchar_t separator[4] = L"";
-    ::GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, separator, 4);
-    if (const std::size_t point = number.find('.'); point != std::string::npos)
-        number.replace(point, 1, ToUtf8(separator));
-    return number;
 }
 
 class SummaryTest : public testing::Test {
