@@ -62,8 +62,8 @@ struct Arguments {
     std::string help;      // for Command::Help
 };
 
-// The arguments without the program's name, in UTF-8. Throws EditorError, naming the argument, when they are wrong.
-[[nodiscard]] Arguments ParseArguments(std::vector<std::string> arguments);
+// The command line without the program's name, in UTF-8. Throws EditorError, naming the argument, when they are wrong.
+[[nodiscard]] Arguments ParseArguments(std::vector<std::string> words);
 
 // This process's command line.
 [[nodiscard]] std::vector<std::string> ProcessArguments();
