@@ -2,46 +2,24 @@
 // exporting it.
 #include <expat.h>
 
-#include <array>
-#include <cstdio>
 #include <pugixml.hpp>
 #include <stdexcept>
 
 #include "KZMainCfg.h"
-#include "ProjectFolder.h"
+#include "PlantFolder.h"
 #include "Report.h"
-#include "project/DocumentName.h"
 #include "table/Export.h"
 #include "table/Import.h"
 
 namespace {
 
+using kzbench::Export;
 using kzbench::PairedTimes;
-using kzbench::ProjectFolder;
+using kzbench::PlantFolder;
 using kzbench::Settings;
 
 constexpr int Many = 10'000;
 constexpr int VeryMany = 100'000;
-
-// A project in which each device has its document.
-class PlantFolder {
-public:
-    PlantFolder(int devices, Settings settings) : m_folder(devices, settings)
-    {
-        std::filesystem::create_directory(m_folder.Path() / "devices");
-        for (int device = 0; device < devices; ++device)
-            m_documents.push_back(plant::FileOf(m_folder.Path(), plant::DeviceDocumentName(kzbench::DriverId(device))));
-        for (const std::filesystem::path& document : m_documents)
-            plant::RealDisk().WriteLoosely(document, kzbench::DeviceText());
-        m_documents.push_back(m_folder.Path() / "main.xml");
-    }
-    [[nodiscard]] const std::filesystem::path& Path() const noexcept { return m_folder.Path(); }
-    [[nodiscard]] const std::vector<std::filesystem::path>& Documents() const noexcept { return m_documents; }
-
-private:
-    ProjectFolder m_folder;
-    std::vector<std::filesystem::path> m_documents;
-};
 
 void PassOver(const PlantFolder& folder)
 {
@@ -56,22 +34,6 @@ void PassOver(const PlantFolder& folder)
                                              pugi::encoding_utf8))
             throw std::runtime_error("a document is malformed");
     }
-}
-
-std::vector<std::string> AllKeys()
-{
-    std::vector<std::string> keys;
-    for (const plant::Field& field : *plant::FieldsOfType(L"ZEP"))
-        keys.push_back(field.key);
-    return keys;
-}
-
-std::string Export(const PlantFolder& folder)
-{
-    plant::Project project(folder.Path());
-    const plant::StoredProject files(project.Folder());
-    plant::DeviceReader reader(*KZMainCfg::Get(), files);
-    return plant::ExportTable(project.Devices(), reader, AllKeys());
 }
 
 // The table with another minimum current in each row.
@@ -110,14 +72,6 @@ Times Measure(kzbench::Report& report, int devices, const char* shown, Settings 
     return {kzbench::Median(exporting.operation), kzbench::Median(importing.operation)};
 }
 
-void AddGrowth(kzbench::Report& report, const std::string& what, double small, double large)
-{
-    std::array<char, 32> ratio{};
-    std::snprintf(ratio.data(), ratio.size(), "%.1f ×", large / small);
-    report.Add(
-        kzbench::Quantity{what + " 10⁵ devices beside 10⁴", ratio.data(), "", "", "≤ 12 ×", large <= 12 * small});
-}
-
 }  // namespace
 
 int main()
@@ -126,7 +80,7 @@ int main()
     Measure(report, Many, "10⁴ devices", Settings::All);
     const Times few = Measure(report, Many, "10⁴ devices with one limit each", Settings::OneLimit);
     const Times many = Measure(report, VeryMany, "10⁵ devices with one limit each", Settings::OneLimit);
-    AddGrowth(report, "export", few.exporting, many.exporting);
-    AddGrowth(report, "import", few.importing, many.importing);
+    kzbench::AddGrowth(report, "export", few.exporting, many.exporting);
+    kzbench::AddGrowth(report, "import", few.importing, many.importing);
     return report.ExitCode();
 }
