@@ -132,5 +132,5 @@ ExitStatus RunCommand(const Arguments& arguments)
         if (command == arguments.command)
             return run(arguments);
     }
-    throw EditorError("This command is not there yet");
+    return ExitError;
 }
