@@ -74,3 +74,14 @@ void DeviceListView::Select(int row)
     SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     EnsureVisible(row, FALSE);
 }
+
+void DeviceListView::LeaveRow(WORD key)
+{
+    const int row = Selected();
+    const bool goesUp = key == VK_UP || key == VK_PRIOR || key == VK_HOME;
+    const bool goesDown = key == VK_DOWN || key == VK_NEXT || key == VK_END;
+    const bool goes = (goesUp && row > 0) || (goesDown && row >= 0 && row < GetItemCount() - 1);
+    // With Ctrl, Windows moves the focus alone, and the next key starts from there.
+    if (goes && row == GetNextItem(-1, LVNI_FOCUSED) && ::GetKeyState(VK_CONTROL) >= 0)
+        SetItemState(row, 0, LVIS_SELECTED);
+}

@@ -22,6 +22,9 @@ public:
     // The selected row, -1 when none is.
     [[nodiscard]] int Selected() const { return GetNextItem(-1, LVNI_SELECTED); }
     void Select(int row);
+    // A key is about to be carried out, to be called on LVN_KEYDOWN: where it goes to another row, this one loses its
+    // mark at once. Wine's list looks at every row before it marks another, but not when none is marked.
+    void LeaveRow(WORD key);
 
 private:
     [[nodiscard]] std::wstring Text(int row, int column) const;

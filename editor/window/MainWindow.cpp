@@ -45,6 +45,7 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_NOTIFY(LVN_GETDISPINFO, IDC_DEVICES, &MainWindow::OnDeviceText)
     ON_NOTIFY(LVN_ODFINDITEM, IDC_DEVICES, &MainWindow::OnFindDevice)
     ON_NOTIFY(LVN_ITEMCHANGED, IDC_DEVICES, &MainWindow::OnSelectDevice)
+    ON_NOTIFY(LVN_KEYDOWN, IDC_DEVICES, &MainWindow::OnDeviceKey)
     ON_NOTIFY(NM_DBLCLK, IDC_DEVICES, &MainWindow::OnDoubleClickDevice)
     ON_MESSAGE(WM_VKEYTOITEM, &MainWindow::OnListKey)
     ON_MESSAGE(WM_KZ_OPTIONS_CHANGED, &MainWindow::OnOptionsChanged)
@@ -250,6 +251,12 @@ LRESULT MainWindow::OnSelectionSettled(WPARAM, LPARAM)
     if (m_lstDevices.Selected() != m_nShownRow)
         ShowDevice();
     return 0;
+}
+
+void MainWindow::OnDeviceKey(NMHDR* header, LRESULT* result)
+{
+    *result = 0;
+    m_lstDevices.LeaveRow(reinterpret_cast<NMLVKEYDOWN*>(header)->wVKey);
 }
 
 void MainWindow::OnDoubleClickDevice(NMHDR*, LRESULT* result)

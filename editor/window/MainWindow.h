@@ -43,6 +43,7 @@ protected:
     afx_msg void OnDeviceText(NMHDR* header, LRESULT* result);
     afx_msg void OnFindDevice(NMHDR* header, LRESULT* result);
     afx_msg void OnSelectDevice(NMHDR* header, LRESULT* result);
+    afx_msg void OnDeviceKey(NMHDR* header, LRESULT* result);
     afx_msg void OnDoubleClickDevice(NMHDR* header, LRESULT* result);
     afx_msg LRESULT OnListKey(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnOptionsChanged(WPARAM wParam, LPARAM lParam);

@@ -81,6 +81,31 @@ TEST_F(ManyDevices, AreAskedForOnlyAsFarAsTheyAreSeen)
     EXPECT_LT(*m_window->asked.rbegin(), 50);
 }
 
+TEST_F(ManyDevices, KeepTheMarkWhereAKeyLeadsNoFurther)
+{
+    const auto press = [this](WPARAM key) {
+        ::SendMessageW(List(), WM_KEYDOWN, key, 0);
+        kztest::DispatchPending();
+    };
+    for (const WPARAM key : {VK_UP, VK_PRIOR, VK_HOME, VK_LEFT, VK_SHIFT}) {
+        press(key);
+        EXPECT_EQ(Selected(), 0) << key;
+        ExpectShown(L"F1");
+    }
+    press(VK_END);
+    for (const WPARAM key : {VK_DOWN, VK_NEXT, VK_END, VK_RIGHT, VK_CONTROL}) {
+        press(key);
+        EXPECT_EQ(Selected(), Many - 1) << key;
+        ExpectShown(L"F2000");
+    }
+    press(VK_PRIOR);
+    EXPECT_LT(Selected(), Many - 1);
+    press(VK_NEXT);
+    EXPECT_EQ(Selected(), Many - 1);
+    press(VK_HOME);
+    EXPECT_EQ(Selected(), 0);
+}
+
 TEST_F(ManyDevices, AreReachedByTheKeyboard)
 {
     ::SendMessageW(List(), WM_KEYDOWN, VK_END, 0);
