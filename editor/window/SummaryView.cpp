@@ -13,6 +13,9 @@ constexpr ReportColumn Columns[] = {
     {IDS_COLUMN_VALUE, 60},
 };
 
+constexpr std::wstring SummaryRow::*Texts[] = {&SummaryRow::section, &SummaryRow::name, &SummaryRow::unit,
+                                               &SummaryRow::value};
+
 }  // namespace
 
 void SummaryView::SetUp()
@@ -28,23 +31,33 @@ void SummaryView::SetRowCount(int count)
         InsertItem(row, L"");
 }
 
-void SummaryView::Show(const SummaryRows& rows)
+void SummaryView::Show(SummaryRows rows)
 {
+    for (std::size_t row = rows.size(); row-- > 1;)
+        if (rows[row].section == rows[row - 1].section)
+            rows[row].section.clear();
     SetRedraw(FALSE);
     SetRowCount(static_cast<int>(rows.size()));
-    std::wstring section;
-    int index = 0;
-    for (const SummaryRow& row : rows) {
-        SetItemText(index, ColumnSection, row.section == section ? L"" : row.section.c_str());
-        SetItemText(index, ColumnName, row.name.c_str());
-        SetItemText(index, ColumnUnit, row.unit.c_str());
-        SetItemText(index++, ColumnValue, row.value.c_str());
-        section = row.section;
-    }
-    FitToTexts(ColumnSection);
-    FitToTexts(ColumnName);
-    FitToTexts(ColumnUnit);
+    m_rows.resize(rows.size());
+    for (int column = ColumnSection; column <= ColumnValue; ++column)
+        SetTexts(rows, column);
+    m_rows = std::move(rows);
+    FitColumns();
     SetRedraw(TRUE);
     Invalidate();
-    FitColumns();
+}
+
+// Most texts are those of the device that was shown before, and a text costs more than comparing it.
+void SummaryView::SetTexts(const SummaryRows& rows, int column)
+{
+    const auto text = Texts[column];
+    bool isChanged = false;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (rows[row].*text == m_rows[row].*text)
+            continue;
+        SetItemText(static_cast<int>(row), column, (rows[row].*text).c_str());
+        isChanged = true;
+    }
+    if (isChanged && column != ColumnValue)
+        FitToTexts(column);
 }

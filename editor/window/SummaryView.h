@@ -11,9 +11,12 @@ public:
     void SetUp();
 
     // Shows the rows. A section is named at its first row only.
-    void Show(const SummaryRows& rows);
+    void Show(SummaryRows rows);
 
 private:
     // Makes the list have that many rows; new ones are empty. The others keep their texts and the list its place.
     void SetRowCount(int count);
+    void SetTexts(const SummaryRows& rows, int column);
+
+    SummaryRows m_rows;  // as shown
 };
