@@ -12,7 +12,7 @@
 namespace {
 
 constexpr unsigned FirstText = IDS_NO_HOST_STRING;
-constexpr unsigned LastText = IDS_NO_FIELDS_OF_TYPE;
+constexpr unsigned LastText = IDS_TITLE_WAITING;
 
 // The conversions of a printf format, in their order.
 std::vector<wchar_t> Conversions(const std::wstring& format)
