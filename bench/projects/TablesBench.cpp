@@ -19,7 +19,6 @@ using kzbench::PlantFolder;
 using kzbench::Settings;
 
 constexpr int Many = 10'000;
-constexpr int VeryMany = 100'000;
 
 void PassOver(const PlantFolder& folder)
 {
@@ -78,8 +77,8 @@ int main()
 {
     kzbench::Report report;
     Measure(report, Many, "10⁴ devices", Settings::All);
-    const Times few = Measure(report, Many, "10⁴ devices with one limit each", Settings::OneLimit);
-    const Times many = Measure(report, VeryMany, "10⁵ devices with one limit each", Settings::OneLimit);
+    const Times few = Measure(report, kzbench::Smaller.devices, kzbench::Smaller.shown, Settings::OneLimit);
+    const Times many = Measure(report, kzbench::Larger.devices, kzbench::Larger.shown, Settings::OneLimit);
     kzbench::AddGrowth(report, "export", few.exporting, many.exporting);
     kzbench::AddGrowth(report, "import", few.importing, many.importing);
     return report.ExitCode();
