@@ -5,7 +5,6 @@
 #include <cwchar>
 #include <cwctype>
 #include <optional>
-#include <unordered_set>
 
 #include "DocumentName.h"
 #include "GroupMask.h"
@@ -19,15 +18,13 @@ class ElementReader {
 public:
     ElementReader(std::wstring file, std::vector<DeviceFault>& faults) : m_file(std::move(file)), m_faults(faults) {}
 
-    // Nothing for a device without a driverId of its own.
+    // Nothing for a device without a driverId.
     std::optional<KZDeviceIdentity> Read(const XmlDocument::XmlNode& element);
 
 private:
     void Fail(unsigned textId, const wchar_t* value) const;
     std::wstring Label() const;
     const wchar_t* Required(const XmlDocument::XmlNode& element, const wchar_t* valueName) const;
-    bool IsIdentifier(const wchar_t* driverId);
-    void CheckName(const wchar_t* name);
     int Number(const XmlDocument::XmlNode& element) const;
     KZVariableGroups Groups(const XmlDocument::XmlNode& element) const;
 
@@ -35,21 +32,7 @@ private:
     std::vector<DeviceFault>& m_faults;
     int m_position = 0;
     const XmlDocument::XmlNode* m_device = nullptr;  // that is being read
-    std::unordered_set<std::wstring> m_driverIds;
-    std::unordered_set<std::wstring_view> m_names;
 };
-
-// The driverId names the device's document, and file names differ by more than case.
-std::wstring FoldCase(std::wstring text)
-{
-    std::transform(text.begin(), text.end(), text.begin(), [](wchar_t c) {
-        const bool isAscii = c <= L'~';  // nearly all of it is, and the library is slow to ask
-        const bool isCapital = c >= L'A' && c <= L'Z';
-        return isAscii ? static_cast<wchar_t>(isCapital ? c - L'A' + L'a' : c)
-                       : static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c)));
-    });
-    return text;
-}
 
 bool HasControlCharacter(std::wstring_view text)
 {
@@ -79,27 +62,6 @@ const wchar_t* ElementReader::Required(const XmlDocument::XmlNode& element, cons
     return value;
 }
 
-bool ElementReader::IsIdentifier(const wchar_t* driverId)
-{
-    if (!*driverId)
-        return false;
-    // In a query path "?" ends the text that is looked for.
-    if (HasControlCharacter(driverId) || std::wcschr(driverId, L'?'))
-        Fail(IDS_PLANT_DEVICE_BAD_DRIVER_ID, driverId);
-    const bool isOwn = m_driverIds.insert(FoldCase(driverId)).second;
-    if (!isOwn)
-        Fail(IDS_PLANT_DEVICE_DOUBLE_DRIVER_ID, driverId);
-    return isOwn;
-}
-
-void ElementReader::CheckName(const wchar_t* name)
-{
-    if (HasControlCharacter(name))
-        Fail(IDS_PLANT_DEVICE_BAD_NAME, L"name");
-    if (*name && !m_names.insert(name).second)
-        Fail(IDS_PLANT_DEVICE_DOUBLE_NAME, name);
-}
-
 int ElementReader::Number(const XmlDocument::XmlNode& element) const
 {
     const wchar_t* text = element.Value(L"number", L"0");
@@ -126,8 +88,11 @@ std::optional<KZDeviceIdentity> ElementReader::Read(const XmlDocument::XmlNode& 
     m_device = &element;
     const wchar_t* const driverId = Required(element, L"driverId");
     const wchar_t* const name = Required(element, L"name");
-    const bool isIdentified = IsIdentifier(driverId);
-    CheckName(name);
+    // In a query path "?" ends the text that is looked for.
+    if (HasControlCharacter(driverId) || std::wcschr(driverId, L'?'))
+        Fail(IDS_PLANT_DEVICE_BAD_DRIVER_ID, driverId);
+    if (HasControlCharacter(name))
+        Fail(IDS_PLANT_DEVICE_BAD_NAME, L"name");
 
     KZDeviceIdentity identity;
     identity.driverId = driverId;
@@ -136,7 +101,62 @@ std::optional<KZDeviceIdentity> ElementReader::Read(const XmlDocument::XmlNode& 
     identity.typeName = element.Value(L"type", L"");
     identity.description = element.Value(L"description", L"");
     identity.groups = Groups(element);
-    return isIdentified ? std::optional(std::move(identity)) : std::nullopt;
+    return *driverId ? std::optional(std::move(identity)) : std::nullopt;
+}
+
+// The driverId names the device's document, and file names differ by more than case.
+std::wstring FoldCase(std::wstring text)
+{
+    std::transform(text.begin(), text.end(), text.begin(), [](wchar_t c) {
+        const bool isAscii = c <= L'~';  // nearly all of it is, and the library is slow to ask
+        const bool isCapital = c >= L'A' && c <= L'Z';
+        return isAscii ? static_cast<wchar_t>(isCapital ? c - L'A' + L'a' : c)
+                       : static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c)));
+    });
+    return text;
+}
+
+// The places of the texts that an earlier one is equal to, in order. Sorting hashes takes a fraction of the time that a
+// table of very many texts does.
+std::vector<std::size_t> Doubles(const std::vector<std::wstring_view>& texts)
+{
+    std::vector<std::pair<std::size_t, std::size_t>> sorted;  // hash and place
+    sorted.reserve(texts.size());
+    for (std::size_t place = 0; place < texts.size(); ++place)
+        sorted.emplace_back(std::hash<std::wstring_view>{}(texts[place]), place);
+    std::sort(sorted.begin(), sorted.end());
+    std::vector<std::size_t> doubles;
+    for (std::size_t at = 1; at < sorted.size(); ++at) {
+        const auto& [hash, place] = sorted[at];
+        bool isDouble = false;
+        for (std::size_t before = at; !isDouble && before > 0 && sorted[before - 1].first == hash; --before)
+            isDouble = texts[sorted[before - 1].second] == texts[place];
+        if (isDouble)
+            doubles.push_back(place);
+    }
+    std::sort(doubles.begin(), doubles.end());
+    return doubles;
+}
+
+std::vector<std::size_t> DoubleNames(const DeviceList& devices)
+{
+    std::vector<std::wstring_view> names;
+    names.reserve(devices.size());
+    for (const KZDeviceIdentity& device : devices)
+        names.push_back(device.name.View());
+    // A name that is missing is a fault of its own.
+    std::vector<std::size_t> doubles = Doubles(names);
+    std::erase_if(doubles, [&](std::size_t place) { return names[place].empty(); });
+    return doubles;
+}
+
+std::vector<std::size_t> DoubleDriverIds(const DeviceList& devices)
+{
+    std::vector<std::wstring> folded;
+    folded.reserve(devices.size());
+    for (const KZDeviceIdentity& device : devices)
+        folded.push_back(FoldCase(std::wstring(device.driverId.View())));
+    return Doubles({folded.begin(), folded.end()});
 }
 
 std::optional<std::size_t> Find(const DeviceList& devices, KZBasicString KZDeviceIdentity::*identity,
@@ -158,6 +178,17 @@ DeviceList ReadDevices(const XmlDocument& document, const std::wstring& file, st
          element = element->NextSibling(L"device"))
         if (auto device = reader.Read(*element))
             devices.push_back(std::move(*device));
+    const auto fail = [&](std::size_t place, unsigned textId, const KZBasicString& text) {
+        const wchar_t* const name = devices[place].name.c_str();
+        faults.push_back({name, {textId, {file, name, text.c_str()}}});
+    };
+    for (const std::size_t place : DoubleNames(devices))
+        fail(place, IDS_PLANT_DEVICE_DOUBLE_NAME, devices[place].name);
+    std::vector<std::size_t> doubles = DoubleDriverIds(devices);
+    for (const std::size_t place : doubles)
+        fail(place, IDS_PLANT_DEVICE_DOUBLE_DRIVER_ID, devices[place].driverId);
+    for (; !doubles.empty(); doubles.pop_back())
+        devices.erase(devices.begin() + static_cast<std::ptrdiff_t>(doubles.back()));
     return devices;
 }
 

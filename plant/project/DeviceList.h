@@ -21,7 +21,7 @@ struct DeviceFault {
 
 // The devices in the document's order. The file is named in messages only. A driverId or name that is missing, used
 // twice or not fit for its use, and a number or groups mask that is none, are faults; of the devices those without a
-// driverId of their own are then left out.
+// driverId of their own are then left out. Those that are there twice are told last.
 [[nodiscard]] DeviceList ReadDevices(const XmlDocument& document, const std::wstring& file,
                                      std::vector<DeviceFault>& faults);
 

@@ -155,10 +155,10 @@ TEST_F(ProjectChecks, FindDocumentsThatAreMissingBrokenOrOfNoDevice)
 TEST_F(ProjectChecks, FindWhatIsWrongInTheListOfDevices)
 {
     Main("", Device("a", "CPD") + Device("A", "TREN") + Device("", "GRUA") + Device("b", "CPD", "<number>x</number>"));
-    EXPECT_EQ(Found(), (Lines{Line("TREN", "main.xml", IDS_PLANT_DEVICE_DOUBLE_DRIVER_ID),
-                              Line("GRUA", "main.xml", IDS_PLANT_DEVICE_VALUE_MISSING),
+    EXPECT_EQ(Found(), (Lines{Line("GRUA", "main.xml", IDS_PLANT_DEVICE_VALUE_MISSING),
+                              Line("CPD", "main.xml", IDS_PLANT_DEVICE_BAD_NUMBER),
                               Line("CPD", "main.xml", IDS_PLANT_DEVICE_DOUBLE_NAME),
-                              Line("CPD", "main.xml", IDS_PLANT_DEVICE_BAD_NUMBER)}));
+                              Line("TREN", "main.xml", IDS_PLANT_DEVICE_DOUBLE_DRIVER_ID)}));
 }
 
 TEST_F(ProjectChecks, FindTypesThatNobodyKnows)
