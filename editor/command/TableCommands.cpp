@@ -1,5 +1,7 @@
 #include "TableCommands.h"
 
+#include <algorithm>
+
 #include "Console.h"
 #include "FieldCommands.h"
 #include "KZMainCfg.h"
@@ -14,9 +16,8 @@ namespace {
 
 std::vector<std::string> KeysOf(const std::vector<const plant::Field*>& fields)
 {
-    std::vector<std::string> keys;
-    for (const plant::Field* field : fields)
-        keys.push_back(field->key);
+    std::vector<std::string> keys(fields.size());
+    std::transform(fields.begin(), fields.end(), keys.begin(), [](const plant::Field* field) { return field->key; });
     return keys;
 }
 

@@ -67,10 +67,11 @@ Project::Outcome Project::SaveTogether(Change devices, bool isMainChanged, const
 
 ProjectLock Project::Lock() const
 {
-    return ProjectLock(m_disk, m_folder, ProjectLock::LongestWait, [this](bool isWaiting) {
+    const auto tell = [this](bool isWaiting) {
         if (m_user)
             m_user->TellWaiting(isWaiting);
-    });
+    };
+    return {m_disk, m_folder, ProjectLock::LongestWait, tell};
 }
 
 // Writes nothing when another program has changed some of the documents since they were read, other than to what may be
