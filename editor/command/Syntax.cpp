@@ -18,12 +18,12 @@ bool NeedsShield(const std::string& word)
            !word.starts_with("--") && word != "-h";
 }
 
-std::string Shielded(std::string word)
+std::string Shielded(const std::string& word)
 {
     return NeedsShield(word) ? Shield + word : word;
 }
 
-std::string Unshielded(std::string word)
+std::string Unshielded(const std::string& word)
 {
     return word.starts_with(Shield) ? word.substr(1) : word;
 }
