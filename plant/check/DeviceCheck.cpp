@@ -1,9 +1,5 @@
 #include "DeviceCheck.h"
 
-#include <array>
-#include <cmath>
-#include <limits>
-
 #include "ChosenCheck.h"
 #include "InformationRecord.h"
 #include "KZStringIds.h"
