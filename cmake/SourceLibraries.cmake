@@ -39,6 +39,10 @@ if(WIN32)
   kz_source_library(kz_csv SHARED ${libcsv}/libcsv.c)
   set_target_properties(kz_csv PROPERTIES PREFIX "" IMPORT_PREFIX "" OUTPUT_NAME libcsv)
   target_link_options(kz_csv PRIVATE $<$<CONFIG:Release>:-s>)
+  file(STRINGS ${libcsv}/csv.h numbers REGEX "^#define CSV_(MAJOR|MINOR|RELEASE) ")
+  list(TRANSFORM numbers REPLACE ".* " "")
+  list(JOIN numbers . version)
+  kz_version(kz_csv "libcsv, the reader of CSV tables" ${version})
   add_custom_command(TARGET kz_csv POST_BUILD VERBATIM
     COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/licenses
     COMMAND ${CMAKE_COMMAND} -E copy ${libcsv}/COPYING.LESSER ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/licenses/libcsv.txt)

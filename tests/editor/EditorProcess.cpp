@@ -91,14 +91,19 @@ bool WaitUntil(const std::function<bool()>& condition)
 EditorFolder::EditorFolder(const fs::path& folder) : m_folder(folder)
 {
     fs::create_directories(m_folder);
-    for (const auto& file : fs::directory_iterator(BuildFolder() / "bin")) {
+    for (const auto& file : fs::directory_iterator(Products())) {
         const std::wstring name = file.path().filename().wstring();
         const bool isModule = name.starts_with(L"KZUsr");
         const bool isProgram = name == L"KZEditor.exe" || file.path().extension() == L".dll";
         if (isProgram && !isModule)
             fs::copy_file(file.path(), m_folder / name);
     }
-    fs::copy(BuildFolder() / "bin" / "images", m_folder / "images");
+    fs::copy(Products() / "images", m_folder / "images");
+}
+
+fs::path EditorFolder::Products()
+{
+    return BuildFolder() / "bin";
 }
 
 fs::path EditorFolder::ModuleFile(const std::string& kind)
@@ -108,7 +113,7 @@ fs::path EditorFolder::ModuleFile(const std::string& kind)
 
 void EditorFolder::AddRealModule() const
 {
-    fs::copy_file(BuildFolder() / "bin" / "KZUsrZEP.dll", m_folder / "KZUsrZEP.dll");
+    fs::copy_file(Products() / "KZUsrZEP.dll", m_folder / "KZUsrZEP.dll");
 }
 
 void EditorFolder::AddModule(const std::string& kind, const std::string& model) const

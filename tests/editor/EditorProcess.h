@@ -29,6 +29,8 @@ public:
     void AddModule(const std::string& kind, const std::string& model = "ZEP") const;
     [[nodiscard]] const std::filesystem::path& Path() const noexcept { return m_folder; }
 
+    // Where the program and its libraries were built.
+    [[nodiscard]] static std::filesystem::path Products();
     // Where the test modules were built.
     [[nodiscard]] static std::filesystem::path ModuleFile(const std::string& kind);
 

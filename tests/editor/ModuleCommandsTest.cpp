@@ -26,7 +26,7 @@ protected:
 TEST_F(ModuleCommands, ModulesPrintsFileModelVersionStateAndReason)
 {
     m_program.AddRealModule();
-    EXPECT_EQ(List(), "KZUsrZEP.dll\tZEP\t1.0.0.0\tready\t-\n");
+    EXPECT_EQ(List(), "KZUsrZEP.dll\tZEP\t" KZ_VERSION ".0\tready\t-\n");
 }
 
 TEST_F(ModuleCommands, ModulesPrintsADashForAVersionThatAFileLacks)
