@@ -15,6 +15,7 @@ if(WIN32)
     kz_consistency(${check} ${check})
   endforeach()
   kz_consistency(exports exports ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  kz_consistency(hardening hardening ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 
   # The linters that need no build; "./dev lint" has the others too.
   foreach(what format shell python)

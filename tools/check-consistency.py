@@ -8,6 +8,8 @@
   formats    the arguments of a text are those that its header promises and that its callers pass
   exports    KZUsrZEP.dll exports exactly the committed list and imports from the host only what the other list promises;
              the products import only what ships with them
+  hardening  every program and library that ships is moved to random addresses, cannot execute data and has no section that
+             is writable and executable
   files      no machine paths, no file of more than 400 lines, UTF-8, LF, no tabs, no blanks at line ends
   documents  links lead to files and headings, quotes of the code are in the code, each picture is shown
   guide      the messages that the user guide explains are the product's own
@@ -28,6 +30,7 @@ import exports  # noqa: E402
 import files  # noqa: E402
 import formats  # noqa: E402
 import guide  # noqa: E402
+import hardening  # noqa: E402
 import includes  # noqa: E402
 import names  # noqa: E402
 import texts  # noqa: E402
@@ -40,6 +43,7 @@ CHECKS = {
     "texts": texts.check,
     "formats": formats.check,
     "exports": exports.check,
+    "hardening": hardening.check,
     "files": files.check,
     "documents": documents.check,
     "guide": guide.check,

@@ -11,6 +11,8 @@ EditorApp theApp;
 
 int main()
 {
+    // What Windows loads later for itself, such as a shell extension, does not come from the current folder either.
+    ::SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_DEFAULT_DIRS);
     if (!AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWDEFAULT))
         return 2;
     return theApp.RunProgram();

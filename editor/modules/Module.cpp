@@ -50,8 +50,10 @@ private:
 HMODULE LoadQuietly(const std::filesystem::path& file, DWORD& error) noexcept
 {
     const QuietLoading quiet;
-    // The altered search path looks for the module's own DLLs beside the module.
-    const HMODULE library = ::LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    // What the module needs is beside it, beside the editor or Windows' own; never in the current folder or on the
+    // PATH.
+    const HMODULE library =
+        ::LoadLibraryExW(file.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS);
     error = ::GetLastError();
     return library;
 }

@@ -33,9 +33,11 @@ int Fail(const wchar_t* what, const wchar_t* name)
 // The module, freed only after the host has forgotten what it registered.
 class LoadedModule {
 public:
-    // A full path with LOAD_WITH_ALTERED_SEARCH_PATH finds the module's own DLLs beside it, and nothing elsewhere.
+    // The path must be a full one. What the module needs is then looked for beside it, beside the program and among
+    // Windows' own libraries, never in the current folder.
     explicit LoadedModule(const wchar_t* fullPath)
-        : m_library(::LoadLibraryExW(fullPath, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH))
+        : m_library(
+              ::LoadLibraryExW(fullPath, nullptr, LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS))
     {
     }
     ~LoadedModule()

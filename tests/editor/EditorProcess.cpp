@@ -149,7 +149,8 @@ void EditorProcess::Pipe::Close()
     read = nullptr;
 }
 
-EditorProcess::EditorProcess(const EditorFolder& folder, const std::vector<std::string>& arguments)
+EditorProcess::EditorProcess(const EditorFolder& folder, const std::vector<std::string>& arguments,
+                             const fs::path& currentFolder)
 {
     m_output.Open();
     m_errors.Open();
@@ -162,8 +163,9 @@ EditorProcess::EditorProcess(const EditorFolder& folder, const std::vector<std::
     std::wstring line = L"\"" + program.wstring() + L"\"";
     for (const std::string& argument : arguments)
         line += L" " + Quoted(argument);
-    if (!::CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, folder.Path().c_str(),
-                          &start, &m_process))
+    const fs::path& current = currentFolder.empty() ? folder.Path() : currentFolder;
+    if (!::CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, current.c_str(), &start,
+                          &m_process))
         throw std::runtime_error("the editor does not start");
     m_output.StartReading();
     m_errors.StartReading();

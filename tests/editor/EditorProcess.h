@@ -25,7 +25,7 @@ public:
 
     // Copies the real module.
     void AddRealModule() const;
-    // Copies one of the test modules ("ready", "noentry", "refusing") to KZUsr<model>.dll.
+    // Copies one of the test modules ("ready", "noentry", "refusing", "needing") to KZUsr<model>.dll.
     void AddModule(const std::string& kind, const std::string& model = "ZEP") const;
     [[nodiscard]] const std::filesystem::path& Path() const noexcept { return m_folder; }
 
@@ -40,8 +40,9 @@ private:
 
 class EditorProcess {
 public:
-    // Starts the editor of the folder; arguments in UTF-8.
-    EditorProcess(const EditorFolder& folder, const std::vector<std::string>& arguments);
+    // Starts the editor of the folder; arguments in UTF-8. The current folder is the editor's own unless told.
+    EditorProcess(const EditorFolder& folder, const std::vector<std::string>& arguments,
+                  const std::filesystem::path& currentFolder = {});
     // Ends the process if the test left it running.
     ~EditorProcess();
     EditorProcess(const EditorProcess&) = delete;
