@@ -5,6 +5,7 @@
 #include "Commit.h"
 #include "DocumentName.h"
 #include "KZMainCfg.h"
+#include "ProjectFolder.h"
 #include "StoredProject.h"
 
 namespace plant {
@@ -86,6 +87,19 @@ std::size_t Project::DeviceByName(std::wstring_view name) const
 std::size_t Project::DeviceByNameOrId(std::wstring_view text) const
 {
     return plant::DeviceByNameOrId(m_devices, text, m_folder / MainDocument);
+}
+
+bool Project::IsReadOnly()
+{
+    if (!m_isReadOnly)
+        m_isReadOnly = !CanBeWritten(m_disk, m_folder);
+    return *m_isReadOnly;
+}
+
+void Project::RequireWritable()
+{
+    if (IsReadOnly())
+        throw Refusal(IDS_PLANT_PROJECT_READ_ONLY, {Shown(m_folder)});
 }
 
 void Project::ReadDevice(const std::string& name, XmlDocument& document, SeenDocuments& seen) const

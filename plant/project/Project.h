@@ -1,6 +1,7 @@
 // A project: a folder with the main configuration document and one document per device, as saved and as changed since.
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "DeviceList.h"
 #include "Disk.h"
 #include "History.h"
+#include "ProjectListener.h"
 #include "ProjectLock.h"
 #include "Recovery.h"
 #include "SeenDocuments.h"
@@ -54,6 +56,20 @@ public:
 
     // Null, as at first: nobody is asked, and foreign changes are refused.
     void SetUser(ProjectUser* user) noexcept { m_user = user; }
+
+    // Whoever listens is told of every change that is made through the project or an UndoList. Not owned.
+    void AddListener(ProjectListener& listener) { m_listeners.push_back(&listener); }
+    void RemoveListener(ProjectListener& listener) noexcept { std::erase(m_listeners, &listener); }
+
+    // Whether the folder or the main configuration document cannot be written to, as it was found at the first call.
+    [[nodiscard]] bool IsReadOnly();
+    // Throws Refusal when it is so.
+    void RequireWritable();
+
+    // The driverIds of the devices that differ from what the files hold, those that were added or removed among them.
+    // Cheap to ask.
+    using DriverIds = std::set<KZBasicString>;
+    [[nodiscard]] const DriverIds& ChangedDevices();
 
     // Reads a device's document as it is now, saved or not, into one with the root element "device". A document that is
     // missing or empty is that of a device that nobody has set up yet: it leaves the document as it is. Throws Refusal.
@@ -139,6 +155,8 @@ private:
     History m_history;
     RecoveryFile m_recovery;
     ProjectUser* m_user = nullptr;
+    std::vector<ProjectListener*> m_listeners;
+    std::optional<bool> m_isReadOnly;
 };
 
 }  // namespace plant

@@ -75,3 +75,24 @@
 #define IDS_PLANT_CHECK_OTHER_DEVICE 3108     // %s: the chosen name
 #define IDS_PLANT_CHECK_DOUBLE_VARIABLE 3109  // %s: the chosen name
 #define IDS_PLANT_CHECK_NO_GROUPS 3110        // %s: the device's groups
+
+#define IDS_PLANT_NAME_USED 3120  // %s: the name
+#define IDS_PLANT_NAME_UNFIT 3121
+#define IDS_PLANT_NUMBER_UNFIT 3122
+#define IDS_PLANT_NUMBER_USED 3123  // %s %s: the device that has it, the number
+#define IDS_PLANT_GROUPS_UNFIT 3124
+#define IDS_PLANT_RATIO_UNFIT 3125
+#define IDS_PLANT_TEXT_UNFIT 3126
+#define IDS_PLANT_PROJECT_EXISTS 3130     // %s: the folder
+#define IDS_PLANT_PROJECT_READ_ONLY 3131  // %s: the folder
+#define IDS_PLANT_CANNOT_COME_BACK 3132   // %s: the device
+
+// What can be undone, as it stands behind "Undo".
+#define IDS_PLANT_STEP_ADD 3140          // %s: the device
+#define IDS_PLANT_STEP_DUPLICATE 3141    // %s: the device
+#define IDS_PLANT_STEP_RENAME 3142       // %s: the device
+#define IDS_PLANT_STEP_REMOVE 3143       // %s: the device
+#define IDS_PLANT_STEP_REMOVE_MANY 3144  // %s: how many devices
+#define IDS_PLANT_STEP_TAKE_BACK 3145
+#define IDS_PLANT_STEP_VARIABLES 3146  // %s: the device
+#define IDS_PLANT_STEP_OPTIONS 3147    // %s: the device
