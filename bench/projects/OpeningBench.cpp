@@ -10,7 +10,7 @@
 #include "main/ProjectStore.h"
 #include "modules/ModuleLoader.h"
 #include "resources/EditorIds.h"
-#include "window/MainWindow.h"
+#include "window/frame/MainWindow.h"
 
 namespace {
 

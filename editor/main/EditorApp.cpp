@@ -9,7 +9,7 @@
 #include "text/EditorError.h"
 #include "text/EditorText.h"
 #include "text/PlantMessage.h"
-#include "window/MainWindow.h"
+#include "window/frame/MainWindow.h"
 
 namespace {
 
@@ -81,8 +81,8 @@ int EditorApp::RunWindow(const Arguments& arguments)
     return ExitTrue;
 }
 
-// The window's shortcuts come first: a dialog that is embedded in it would take the keys before they reach the window.
+// The window's keys come first: a dialog that is embedded in it would take the keys before they reach the window.
 BOOL EditorApp::PreTranslateMessage(MSG* message)
 {
-    return (m_window && m_window->TranslateShortcut(message)) || CWinApp::PreTranslateMessage(message);
+    return (m_window && m_window->TranslateKey(*message)) || CWinApp::PreTranslateMessage(message);
 }

@@ -2,18 +2,18 @@
 #pragma once
 
 #define IDI_PROGRAM 100
-#define IDM_MAIN 101
-#define IDA_MAIN 102
 #define IDD_MAIN 103
 #define IDD_CHILD_PANE 104
 #define IDD_CHILD_WINDOW 105
 
-// Commands: menu items, accelerators and, where there is one, the button of the same id.
-#define IDC_OPTIONS 1001
-#define IDC_SELECT 1002
-#define IDC_REMOVE 1003
-#define IDC_SAVE 1004
-#define IDC_EXIT 1005
+// Commands: menu items and, where there is one, the button of the same id. A hundred numbers, twenty for each menu.
+#define IDC_FIRST_COMMAND 1100
+#define IDC_SAVE 1102
+#define IDC_EXIT 1119
+#define IDC_SELECT 1140
+#define IDC_OPTIONS 1141
+#define IDC_REMOVE 1150
+#define IDC_LAST_COMMAND 1199
 
 // Main window.
 #define IDC_DEVICES_LABEL 1010
@@ -103,3 +103,24 @@
 #define IDS_AND_MORE 2078
 #define IDS_NO_FIELDS_OF_TYPE 2079
 #define IDS_TITLE_WAITING 2080
+
+// Of the menus. The access key of an item is one that its menu does not have yet.
+#define IDS_MENU_FILE 2100
+#define IDS_MENU_DEVICE 2101
+#define IDS_COMMAND_SAVE 2102
+#define IDS_COMMAND_EXIT 2103
+#define IDS_COMMAND_SELECT 2104
+#define IDS_COMMAND_OPTIONS 2105
+#define IDS_COMMAND_REMOVE_VARIABLES 2106
+#define IDS_KEY_CTRL 2107
+#define IDS_KEY_SHIFT 2108
+#define IDS_KEY_ALT 2109
+#define IDS_KEY_INSERT 2110
+#define IDS_KEY_DELETE 2111
+#define IDS_KEY_ENTER 2112
+#define IDS_KEY_UP 2113
+#define IDS_KEY_DOWN 2114
+#define IDS_MENU_EDIT 2115
+#define IDS_MENU_PROJECT 2116
+#define IDS_MENU_VIEW 2117
+#define IDS_MENU_HELP 2118

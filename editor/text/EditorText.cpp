@@ -36,12 +36,3 @@ std::wstring EditorText(unsigned id)
 {
     return EditorText(id, CurrentLanguage());
 }
-
-HMENU LoadEditorMenu(unsigned id) noexcept
-{
-    const HMODULE program = ::GetModuleHandleW(nullptr);
-    const HRSRC resource =
-        ::FindResourceExW(program, RT_MENU, MAKEINTRESOURCEW(id), KZResourceLanguage(CurrentLanguage()));
-    const HGLOBAL menu = resource ? ::LoadResource(program, resource) : nullptr;
-    return menu ? ::LoadMenuIndirectW(::LockResource(menu)) : nullptr;
-}

@@ -1,4 +1,4 @@
-// The editor's own texts and menus, in the language that KZQuorvelantaSetup holds.
+// The editor's own texts, in the language that KZQuorvelantaSetup holds.
 #pragma once
 
 #include <afxwin.h>
@@ -27,6 +27,3 @@ template <typename... Arguments>
 {
     return KZBasicString::Format(EditorText(id).c_str(), arguments...).c_str();
 }
-
-// The menu of an id; null when there is none. The caller destroys it, or the window that gets it does.
-[[nodiscard]] HMENU LoadEditorMenu(unsigned id) noexcept;

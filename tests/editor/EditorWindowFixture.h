@@ -18,7 +18,7 @@
 #include "project/Project.h"
 #include "resources/EditorIds.h"
 #include "text/EditorText.h"
-#include "window/MainWindow.h"
+#include "window/frame/MainWindow.h"
 
 namespace editor_tests {
 

@@ -129,7 +129,7 @@ TEST_F(MainWindowTest, RemovesTheMarkedVariablesAndKeepsTheRestInTheProject)
     EXPECT_FALSE(::IsWindowEnabled(Control(IDC_REMOVE)));
     ::SendMessageW(Control(IDC_CHOSEN), WM_KEYDOWN, VK_HOME, 0);
     ASSERT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(Control(IDC_REMOVE)) != FALSE; }));
-    ::SendMessageW(Control(IDC_CHOSEN), WM_KEYDOWN, VK_DELETE, 0);
+    Type(Control(IDC_CHOSEN), VK_DELETE);
     EXPECT_TRUE(WaitUntil([&] { return ChosenCount() == 1; }));
     EXPECT_EQ(Chosen(0), "GRÚA.1.VI1N");
     Press(m_window, IDC_SAVE);

@@ -2,15 +2,8 @@
 #include "KZMainCfg.h"
 #include "MainWindow.h"
 #include "project/GroupMask.h"
-#include "text/EditorText.h"
-
-const MainWindow::CommandRow MainWindow::Commands[] = {
-    {IDC_OPTIONS, &MainWindow::OpenOptions, &MainWindow::HasCallbacks},
-    {IDC_SELECT, &MainWindow::SelectVariables, &MainWindow::HasCallbacks},
-    {IDC_REMOVE, &MainWindow::RemoveVariables, &MainWindow::HasMarkedVariables},
-    {IDC_SAVE, &MainWindow::Save, &MainWindow::IsDirty},
-    {IDC_EXIT, &MainWindow::Close, &MainWindow::Always},
-};
+#include "text/PlantMessage.h"
+#include "window/commands/CommandKeys.h"
 
 bool MainWindow::HasCallbacks() const
 {
@@ -27,16 +20,33 @@ bool MainWindow::IsDirty() const
     return m_project.IsDirty();
 }
 
-bool MainWindow::Always() const
+std::vector<KZBasicString> MainWindow::MarkedDevices() const
 {
-    return true;
+    const KZDeviceIdentity* device = SelectedDevice();
+    return device ? std::vector<KZBasicString>{device->driverId} : std::vector<KZBasicString>{};
+}
+
+bool MainWindow::Change(const std::function<void()>& change)
+{
+    std::wstring failure;
+    try {
+        change();
+    } catch (const plant::Refusal& refusal) {
+        failure = PlantMessage(refusal.What());
+    }
+    ShowProject();
+    if (!failure.empty())
+        AfxMessageBox(failure.c_str(), MB_OK | MB_ICONERROR);
+    return failure.empty();
 }
 
 void MainWindow::ShowCommands()
 {
     CMenu* menu = GetMenu();
-    for (const CommandRow& command : Commands) {
-        const bool enabled = (this->*command.enabled)();
+    for (const WindowCommand& command : WindowCommands()) {
+        if (command.id == 0)
+            continue;
+        const bool enabled = command.isEnabled(*this);
         menu->EnableMenuItem(static_cast<UINT>(command.id), enabled ? MF_ENABLED : MF_GRAYED);
         CWnd* button = GetDlgItem(command.id);
         if (!button)
@@ -50,16 +60,18 @@ void MainWindow::ShowCommands()
 
 void MainWindow::OnMenuCommand(UINT id)
 {
-    for (const CommandRow& command : Commands) {
-        if (static_cast<UINT>(command.id) == id && (this->*command.enabled)())
-            (this->*command.run)();
-    }
+    const WindowCommand* command = FindWindowCommand(static_cast<int>(id));
+    if (command && command->isEnabled(*this))
+        command->run(*this);
 }
 
-bool MainWindow::TranslateShortcut(MSG* message)
+bool MainWindow::TranslateKey(const MSG& message)
 {
-    const bool isOurs = message->hwnd == m_hWnd || ::IsChild(m_hWnd, message->hwnd);
-    return isOurs && IsWindowEnabled() && ::TranslateAcceleratorW(m_hWnd, m_hAccelerators, message) != 0;
+    const bool isOurs = message.hwnd == m_hWnd || ::IsChild(m_hWnd, message.hwnd);
+    const WindowCommand* command = isOurs && IsWindowEnabled() ? CommandOfKey(message) : nullptr;
+    if (command)
+        SendMessage(WM_COMMAND, MAKEWPARAM(command->id, 1));
+    return command != nullptr;
 }
 
 void MainWindow::OpenOptions()

@@ -3,13 +3,14 @@
 
 #include <climits>
 
-#include "EmbeddedCommand.h"
 #include "KZDlgOptions.h"
 #include "KZMainCfg.h"
 #include "KZUtf8.h"
-#include "WindowIcon.h"
 #include "modules/ModuleSummary.h"
 #include "text/EditorText.h"
+#include "window/EmbeddedCommand.h"
+#include "window/WindowIcon.h"
+#include "window/commands/MenuBar.h"
 
 namespace {
 
@@ -40,14 +41,13 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_WM_CLOSE()
     ON_WM_GETMINMAXINFO()
     ON_WM_SIZE()
-    ON_COMMAND_RANGE(IDC_OPTIONS, IDC_EXIT, &MainWindow::OnMenuCommand)
+    ON_COMMAND_RANGE(IDC_FIRST_COMMAND, IDC_LAST_COMMAND, &MainWindow::OnMenuCommand)
     ON_LBN_SELCHANGE(IDC_CHOSEN, &MainWindow::OnMarkVariable)
     ON_NOTIFY(LVN_GETDISPINFO, IDC_DEVICES, &MainWindow::OnDeviceText)
     ON_NOTIFY(LVN_ODFINDITEM, IDC_DEVICES, &MainWindow::OnFindDevice)
     ON_NOTIFY(LVN_ITEMCHANGED, IDC_DEVICES, &MainWindow::OnSelectDevice)
     ON_NOTIFY(LVN_KEYDOWN, IDC_DEVICES, &MainWindow::OnDeviceKey)
     ON_NOTIFY(NM_DBLCLK, IDC_DEVICES, &MainWindow::OnDoubleClickDevice)
-    ON_MESSAGE(WM_VKEYTOITEM, &MainWindow::OnListKey)
     ON_MESSAGE(WM_KZ_OPTIONS_CHANGED, &MainWindow::OnOptionsChanged)
     ON_MESSAGE(WM_KZ_SELECTION_SETTLED, &MainWindow::OnSelectionSettled)
     ON_MESSAGE(WM_ACTIVATEAPP, &MainWindow::OnActivateProgram)
@@ -73,8 +73,6 @@ bool MainWindow::Create()
 {
     if (!CDialog::Create(IDD_MAIN))
         return false;
-    // Windows frees the table with the program.
-    m_hAccelerators = ::LoadAcceleratorsW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDA_MAIN));
     ShowWindow(SW_SHOW);
     PostMessage(WM_KZ_LOOK_AT_FILES);
     return true;
@@ -117,7 +115,7 @@ void MainWindow::AddMenu()
     CRect window;
     GetClientRect(&before);
     CMenu menu;
-    menu.Attach(LoadEditorMenu(IDM_MAIN));
+    menu.Attach(MakeMenuBar().release());
     SetMenu(&menu);
     menu.Detach();  // the window destroys it
     GetClientRect(&after);
@@ -263,16 +261,6 @@ void MainWindow::OnDoubleClickDevice(NMHDR*, LRESULT* result)
 {
     *result = 0;
     OnMenuCommand(IDC_SELECT);
-}
-
-LRESULT MainWindow::OnListKey(WPARAM wParam, LPARAM)
-{
-    constexpr LRESULT KeyIsDone = -2;
-    constexpr LRESULT ListHandlesKey = -1;
-    if (LOWORD(wParam) != VK_DELETE)
-        return ListHandlesKey;
-    OnMenuCommand(IDC_REMOVE);
-    return KeyIsDone;
 }
 
 LRESULT MainWindow::OnOptionsChanged(WPARAM, LPARAM)

@@ -4,13 +4,16 @@
 
 #include <afxwin.h>
 
-#include "AnchoredControls.h"
-#include "ChildPane.h"
-#include "ChosenListBox.h"
-#include "DeviceListView.h"
+#include <functional>
+#include <vector>
+
 #include "ProjectQuestions.h"
-#include "SummaryView.h"
 #include "modules/DeviceDrivers.h"
+#include "window/AnchoredControls.h"
+#include "window/ChildPane.h"
+#include "window/ChosenListBox.h"
+#include "window/DeviceListView.h"
+#include "window/SummaryView.h"
 
 // To the main window, from itself: look for what other editors and programs have left or changed.
 inline constexpr UINT WM_KZ_LOOK_AT_FILES = WM_APP + 0x131;
@@ -24,9 +27,26 @@ public:
     // Creates and shows the window. Returns false when it cannot be created.
     bool Create();
 
-    // Runs the command of a shortcut that was pressed in this window or in what it embeds. Returns false for any other
+    // Runs the command of a key that was pressed in this window or in what it embeds. Returns false for any other
     // message, and for all while a dialog is open.
-    bool TranslateShortcut(MSG* message);
+    bool TranslateKey(const MSG& message);
+
+    // For the commands. MarkedDevices gives driverIds, in the order of the list.
+    [[nodiscard]] plant::Project& Project() noexcept { return m_project; }
+    [[nodiscard]] const ModuleLoader& Modules() const noexcept { return m_modules; }
+    [[nodiscard]] std::vector<KZBasicString> MarkedDevices() const;
+    // Carries out a change of these devices, after which everything is shown anew. What the plant refuses is told to
+    // the user, and false is returned.
+    bool Change(const std::function<void()>& change);
+
+    void OpenOptions();
+    void SelectVariables();
+    void RemoveVariables();
+    void Save();
+    void Close();
+    [[nodiscard]] bool HasCallbacks() const;
+    [[nodiscard]] bool HasMarkedVariables() const;
+    [[nodiscard]] bool IsDirty() const;
 
 protected:
     BOOL OnInitDialog() override;
@@ -45,7 +65,6 @@ protected:
     afx_msg void OnSelectDevice(NMHDR* header, LRESULT* result);
     afx_msg void OnDeviceKey(NMHDR* header, LRESULT* result);
     afx_msg void OnDoubleClickDevice(NMHDR* header, LRESULT* result);
-    afx_msg LRESULT OnListKey(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnOptionsChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSelectionSettled(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnActivateProgram(WPARAM wParam, LPARAM lParam);
@@ -58,25 +77,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // One row per command: the function, and whether it can be used now.
-    struct CommandRow {
-        int id;
-        void (MainWindow::*run)();
-        bool (MainWindow::*enabled)() const;
-    };
-    static const CommandRow Commands[];
-
-    // MainWindowCommands.cpp
-    void OpenOptions();
-    void SelectVariables();
-    void RemoveVariables();
-    void Save();
-    void Close();
-    [[nodiscard]] bool HasCallbacks() const;
-    [[nodiscard]] bool HasMarkedVariables() const;
-    [[nodiscard]] bool IsDirty() const;
-    [[nodiscard]] bool Always() const;
-
     // MainWindowFiles.cpp
     bool SaveOrSayWhy();
     bool MayClose();
@@ -108,7 +108,6 @@ private:
     ChosenListBox m_lstChosen;
     SummaryView m_lstSummary;
     ChildPane m_pane;
-    HACCEL m_hAccelerators = nullptr;
     int m_nShownRow = -1;                    // of the device that everything below the list is about
     KZBasicString m_shownDevice;             // its driverId
     bool m_bDamageTold = false;              // of what other editors have left

@@ -5,8 +5,8 @@
 
 #include <optional>
 
-#include "WaitCursor.h"
 #include "project/Project.h"
+#include "window/WaitCursor.h"
 
 // To the main window: tell the user what ProjectQuestions::Warning gives.
 inline constexpr UINT WM_KZ_UNPROTECTED = WM_APP + 0x130;
