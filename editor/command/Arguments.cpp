@@ -86,12 +86,13 @@ void TakeAssignments(const TypedArguments& typed, Arguments& arguments)
 Command CommandNamed(const std::string& name)
 {
     static const std::pair<const char*, Command> commands[] = {
-        {"devices", Command::Devices}, {"options", Command::Options}, {"select", Command::Select},
-        {"third", Command::Third},     {"child", Command::Child},     {"string", Command::String},
-        {"history", Command::History}, {"restore", Command::Restore}, {"recover", Command::Recover},
-        {"fields", Command::Fields},   {"get", Command::Get},         {"set", Command::Set},
-        {"copy", Command::Copy},       {"check", Command::Check},     {"export", Command::Export},
-        {"import", Command::Import},   {"diff", Command::Diff},       {"modules", Command::Modules},
+        {"devices", Command::Devices},   {"options", Command::Options}, {"select", Command::Select},
+        {"third", Command::Third},       {"child", Command::Child},     {"string", Command::String},
+        {"history", Command::History},   {"restore", Command::Restore}, {"recover", Command::Recover},
+        {"fields", Command::Fields},     {"get", Command::Get},         {"set", Command::Set},
+        {"copy", Command::Copy},         {"check", Command::Check},     {"export", Command::Export},
+        {"import", Command::Import},     {"diff", Command::Diff},       {"modules", Command::Modules},
+        {"diagnose", Command::Diagnose},
     };
     const auto found =
         std::find_if(std::begin(commands), std::end(commands), [&](const auto& entry) { return name == entry.first; });

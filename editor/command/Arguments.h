@@ -31,6 +31,7 @@ enum class Command {
     Import,
     Diff,
     Modules,
+    Diagnose,
     Help
 };
 

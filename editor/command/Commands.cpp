@@ -119,6 +119,7 @@ ExitStatus RunCommand(const Arguments& arguments)
         {Command::Restore, RestoreSave},
         {Command::Recover, RecoverUnsaved},
         {Command::Modules, ListModules},
+        {Command::Diagnose, DiagnoseInstallation},
         {Command::Fields, ListFields},
         {Command::Get, PrintValues},
         {Command::Set, SetValues},

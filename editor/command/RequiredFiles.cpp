@@ -22,13 +22,20 @@ void RequireDeviceDocument(plant::Project& project, const KZBasicString& driverI
     project.ReadDeviceDocument(name, document);
 }
 
-void RequirePictures()
+std::optional<std::wstring> MissingPicture()
 {
     const KZBasicString folder = KZQuorvelantaSetup::Get()->getImageFilePath();
     for (const wchar_t* picture : KZPictures) {
         const KZBasicString file = folder + picture;
         std::error_code ignored;
         if (!fs::exists(fs::path(file.c_str()), ignored))
-            throw EditorError(FormatEditorText(IDS_PICTURE_MISSING, file.c_str()));
+            return file.c_str();
     }
+    return std::nullopt;
+}
+
+void RequirePictures()
+{
+    if (const std::optional<std::wstring> missing = MissingPicture())
+        throw EditorError(FormatEditorText(IDS_PICTURE_MISSING, missing->c_str()));
 }

@@ -2,10 +2,15 @@
 // they say when a script runs the command.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "project/Project.h"
 
 // Throws EditorError when the device's document is missing and plant::Refusal when it is broken.
 void RequireDeviceDocument(plant::Project& project, const KZBasicString& driverId);
 
-// Throws EditorError when one of the host's pictures is missing.
+// The first of the host's pictures that is missing.
+[[nodiscard]] std::optional<std::wstring> MissingPicture();
+// Throws EditorError when there is one.
 void RequirePictures();

@@ -95,6 +95,7 @@ void Syntax::AddProjectCommands()
 {
     Add("devices", "Lists the devices: driverId, name, type, groups");
     Add("modules", "Lists the driver modules: file, model, version, state, reason");
+    Add("diagnose", "Looks at all that the editor needs: subject, name, value, what is wrong");
     Add("history", "Lists the saves of the project: number, time, cause, documents");
     CLI::App* restore = Add("restore", "Brings the project back as it was before a save");
     restore->add_option("NUMBER", m_typed.saveNumber, "The save's number in the history")->required();

@@ -67,10 +67,15 @@ const KZDriverCallbacks* ModuleLoader::CallbacksOf(const KZBasicString& typeName
                                         : nullptr;
 }
 
-fs::path ProgramFolder()
+fs::path ProgramFile(HMODULE library)
 {
     // The longest path that Windows knows; GetModuleFileName cuts what does not fit.
     std::wstring path(32768, L'\0');
-    path.resize(::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return fs::path(path).parent_path();
+    path.resize(::GetModuleFileNameW(library, path.data(), static_cast<DWORD>(path.size())));
+    return path;
+}
+
+fs::path ProgramFolder()
+{
+    return ProgramFile().parent_path();
 }

@@ -25,5 +25,7 @@ private:
     std::vector<Module> m_modules;
 };
 
+// The file of the running program, or of one of its libraries.
+[[nodiscard]] std::filesystem::path ProgramFile(HMODULE library = nullptr);
 // The folder of the running program.
 [[nodiscard]] std::filesystem::path ProgramFolder();

@@ -103,6 +103,11 @@
 #define IDS_AND_MORE 2078
 #define IDS_NO_FIELDS_OF_TYPE 2079
 #define IDS_TITLE_WAITING 2080
+#define IDS_DIAGNOSIS_OTHER_FOLDER 2081   // %s %s: file, folder
+#define IDS_DIAGNOSIS_OTHER_VERSION 2082  // %s %s %s: file, its version, the editor's
+#define IDS_DIAGNOSIS_SEPARATORS 2083
+#define IDS_DIAGNOSIS_ENLARGED 2084
+#define IDS_DIAGNOSIS_FONT 2085  // %s %s: font, characters
 
 // Of the menus. The access key of an item is one that its menu does not have yet.
 #define IDS_MENU_FILE 2100

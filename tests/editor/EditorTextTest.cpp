@@ -11,7 +11,7 @@ namespace {
 constexpr struct {
     unsigned first, last;
 } Blocks[] = {
-    {IDS_NO_HOST_STRING, IDS_TITLE_WAITING},
+    {IDS_NO_HOST_STRING, IDS_DIAGNOSIS_FONT},
     {IDS_MENU_FILE, IDS_MENU_HELP},
 };
 

@@ -114,7 +114,8 @@ TEST_F(UserGuide, ShowsWhatItsCommandsPrint)
 
 TEST_F(UserGuide, ShowsEachCommandOfTheFields)
 {
-    for (const char* command : {"fields", "get", "set", "copy", "export", "import", "check", "diff", "modules"}) {
+    for (const char* command :
+         {"fields", "get", "set", "copy", "export", "import", "check", "diff", "modules", "diagnose"}) {
         const std::string start = std::string("KZEditor.exe ") + command + " ";
         const auto examples = Examples();
         EXPECT_TRUE(std::any_of(examples.begin(), examples.end(), [&](const Example& example) {
