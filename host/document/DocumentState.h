@@ -1,6 +1,8 @@
 // What a document consists of.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <unordered_map>
 
 #include "DocumentSource.h"
@@ -11,9 +13,17 @@
 struct XmlDocument::State {
     DocumentSource source;
     TreeEdit edit{source.tree};
-    bool changed = false;     // the tree differs from the text
-    bool wasChanged = false;  // before the edit
+    // Which of all its contents the tree has: no two have the same number.
+    struct Version {
+        std::uint64_t number = 0;
+        bool isChanged = false;  // it differs from the text
+    };
+    Version version;
+    Version versionBefore;  // before the edit
+    std::uint64_t newestVersion = 0;
+    std::optional<std::uint64_t> savedVersion = 0;
     bool dirty = false;
+    std::unique_ptr<Change> recorded;  // what is being recorded
     XmlNode* root = nullptr;
     // The elements that somebody has asked for. Their addresses stay as long as the document's content.
     struct Asked : XmlNode {
@@ -32,16 +42,32 @@ struct XmlDocument::State {
         } catch (...) {
             indexes.Clear();
             edit.Undo([this](const void* element) { nodes.erase(element); });
-            changed = wasChanged;
+            version = versionBefore;
             throw;
         }
     }
+    void Changed() noexcept { version = {++newestVersion, true}; }
     void Keep() noexcept
     {
         edit.Keep();
-        wasChanged = changed;
+        versionBefore = version;
+    }
+    // The tree has become what it was once.
+    void Become(const Version& other) noexcept
+    {
+        indexes.Clear();
+        version = versionBefore = other;
+        dirty = savedVersion != other.number;
     }
 
     // The one object that stands for an element; null for the empty handle.
     [[nodiscard]] XmlNode* NodeOf(XmlDocument& document, pugi::xml_node element);
+};
+
+struct XmlDocument::Change::Record {
+    std::weak_ptr<State> state;
+    TreeSteps steps;
+    State::Version before;
+    State::Version after;
+    bool isTakenBack = false;
 };

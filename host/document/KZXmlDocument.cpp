@@ -47,7 +47,7 @@ XmlDocument::~XmlDocument() = default;
 
 KZDocumentResult XmlDocument::Replace(std::string_view utf8, const wchar_t* rootName)
 {
-    auto state = std::make_unique<State>();
+    auto state = std::make_shared<State>();
     state->source.utf8 = utf8;
     if (const std::optional<SourceFault> fault = ReadSource(state->source, rootName))
         return {false, KZBasicString(Describe(*fault))};
@@ -88,7 +88,7 @@ KZDocumentResult XmlDocument::Save(const std::filesystem::path& file)
 std::string XmlDocument::Serialize() const
 {
     const DocumentSource& source = m_state->source;
-    if (!m_state->changed)
+    if (!m_state->version.isChanged)
         return source.utf8;
     const std::string text = ToUtf8(SourceWriter(source, m_state->edit.Replaced()).Write());
     return source.HasByteOrderMark() ? "\xEF\xBB\xBF" + text : text;
@@ -106,8 +106,13 @@ XmlDocument::XmlNode* XmlDocument::Node(const wchar_t* path) const
 
 void XmlDocument::SetDirty(bool dirty) noexcept
 {
-    m_state->dirty = dirty;
-    m_state->Keep();
+    State& state = *m_state;
+    state.dirty = dirty;
+    state.Keep();
+    if (!dirty)
+        state.savedVersion = state.version.number;
+    else if (state.savedVersion == state.version.number)
+        state.savedVersion.reset();
     if (dirty && m_listener)
         m_listener->OnCommit(*this);
 }

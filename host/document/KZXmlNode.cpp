@@ -67,8 +67,21 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::NewChild(const wchar_t* name, XmlNod
             return nullptr;
         XmlNode* const node = state.NodeOf(*m_document, state.edit.AddElement(parent, name, successor));
         state.indexes.Changed(parent, name);
-        state.changed = true;
+        state.Changed();
         return node;
+    });
+}
+
+bool XmlDocument::XmlNode::RemoveChild(XmlNode* child)
+{
+    State& state = *m_document->m_state;
+    return state.Edit([&] {
+        if (!child || Element(child->m_element).parent() != Element(m_element))
+            return false;
+        state.edit.Remove(Element(child->m_element));
+        state.indexes.Clear();
+        state.Changed();
+        return true;
     });
 }
 
@@ -90,7 +103,8 @@ bool XmlDocument::XmlNode::SetValue(const wchar_t* name, const wchar_t* text)
             state.indexes.GotFirst(element, name);
         else if (isOther)
             state.indexes.Changed(element, name);
-        state.changed = state.changed || isNew || isOther;
+        if (isNew || isOther)
+            state.Changed();
         return true;
     });
 }

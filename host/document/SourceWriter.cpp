@@ -26,6 +26,8 @@ std::size_t PrefixLength(pugi::xml_node_type type) noexcept
         return std::wcslen(L"<![CDATA[");
     case pugi::node_comment:
         return std::wcslen(L"<!--");
+    case pugi::node_element:
+        return std::wcslen(L"<");
     default:
         return 0;
     }
@@ -50,7 +52,7 @@ std::wstring SourceWriter::Write()
 
 std::size_t SourceWriter::WriteElement(pugi::xml_node element)
 {
-    const StartTag tag = FindStartTag(element);
+    const StartTag tag = FindStartTag(static_cast<std::size_t>(element.offset_debug()));
     std::size_t end = tag.end;
     bool split = false;
     for (const pugi::xml_node child : element) {
@@ -74,10 +76,11 @@ std::size_t SourceWriter::WriteElement(pugi::xml_node element)
     return tag.isWholeElement ? tag.end : EndBehind(L">", end);
 }
 
-std::size_t SourceWriter::WriteReplaced(pugi::xml_node text, const ReplacedText& old)
+std::size_t SourceWriter::WriteReplaced(pugi::xml_node node, const ReplacedText& old)
 {
     CopyTo(static_cast<std::size_t>(old.firstOffset) - PrefixLength(old.firstType));
-    WriteNew(text);
+    if (node.type() != pugi::node_comment)
+        WriteNew(node);
     m_copied = EndOf(old.lastType, static_cast<std::size_t>(old.lastOffset));
     return m_copied;
 }
@@ -111,10 +114,9 @@ void SourceWriter::CopyTo(std::size_t end)
     m_copied = end;
 }
 
-SourceWriter::StartTag SourceWriter::FindStartTag(pugi::xml_node element) const noexcept
+SourceWriter::StartTag SourceWriter::FindStartTag(std::size_t at) const noexcept
 {
     wchar_t quote = L'\0';
-    auto at = static_cast<std::size_t>(element.offset_debug());
     for (; at < m_text.size(); ++at) {
         const wchar_t character = m_text[at];
         if (quote)
@@ -133,9 +135,35 @@ std::size_t SourceWriter::EndBehind(const wchar_t* mark, std::size_t from) const
     return found == std::wstring::npos ? m_text.size() : found + std::wcslen(mark);
 }
 
+// Of an element that the tree has no longer, by its tags.
+std::size_t SourceWriter::EndOfElement(std::size_t offset) const noexcept
+{
+    StartTag tag = FindStartTag(offset);
+    for (int open = tag.isWholeElement ? 0 : 1; open > 0;) {
+        const std::size_t mark = std::min(m_text.find(L'<', tag.end), m_text.size());
+        const std::wstring_view rest = std::wstring_view(m_text).substr(mark);
+        if (rest.starts_with(L"<!--")) {
+            tag.end = EndBehind(L"-->", mark);
+        } else if (rest.starts_with(L"<![CDATA[")) {
+            tag.end = EndBehind(L"]]>", mark);
+        } else if (rest.starts_with(L"<?")) {
+            tag.end = EndBehind(L"?>", mark);
+        } else if (rest.starts_with(L"</")) {
+            tag.end = EndBehind(L">", mark);
+            --open;
+        } else {
+            tag = FindStartTag(mark);
+            open += tag.isWholeElement ? 0 : 1;
+        }
+    }
+    return tag.end;
+}
+
 std::size_t SourceWriter::EndOf(pugi::xml_node_type type, std::size_t offset) const noexcept
 {
     switch (type) {
+    case pugi::node_element:
+        return EndOfElement(offset);
     case pugi::node_cdata:
         return EndBehind(L"]]>", offset);
     case pugi::node_comment:

@@ -19,13 +19,14 @@ private:
         std::size_t end;      // behind its ">"
         bool isWholeElement;  // <name/>
     };
-    [[nodiscard]] StartTag FindStartTag(pugi::xml_node element) const noexcept;
+    [[nodiscard]] StartTag FindStartTag(std::size_t offset) const noexcept;
+    [[nodiscard]] std::size_t EndOfElement(std::size_t offset) const noexcept;
     [[nodiscard]] std::size_t EndBehind(const wchar_t* mark, std::size_t from) const noexcept;
     [[nodiscard]] std::size_t EndOf(pugi::xml_node_type type, std::size_t offset) const noexcept;
 
     // Both return the place in the text behind what was written.
     std::size_t WriteElement(pugi::xml_node element);
-    std::size_t WriteReplaced(pugi::xml_node text, const ReplacedText& old);
+    std::size_t WriteReplaced(pugi::xml_node node, const ReplacedText& old);
 
     void WriteNew(pugi::xml_node node);
     void SplitTag(std::size_t tagEnd);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <new>
-#include <vector>
+#include <utility>
 
 #include "Indentation.h"
 #include "KZUtf8.h"
@@ -101,7 +101,7 @@ pugi::xml_node TreeEdit::Add(pugi::xml_node parent, pugi::xml_node_type type, pu
 {
     m_steps.emplace_back();
     const pugi::xml_node node = before ? parent.insert_child_before(type, before) : parent.append_child(type);
-    m_steps.back().node = node;
+    m_steps.back() = {node, parent, node.previous_sibling(), true};
     MustSucceed(!node.empty());
     return node;
 }
@@ -162,33 +162,99 @@ pugi::xml_node TreeEdit::Replace(pugi::xml_node text, std::wstring_view newText)
     for (bool isLast = false; !isLast;) {
         const pugi::xml_node old = node.next_sibling();
         isLast = old == last;
-        TakeAway(old, node);
+        TakeAway(old);
     }
     return node;
 }
 
-void TreeEdit::TakeAway(pugi::xml_node node, pugi::xml_node replacedBy)
+// A place in the source that is to be left out needs a node of the tree that stands for it; an empty comment is one
+// that nobody reads.
+void TreeEdit::Remove(pugi::xml_node element)
+{
+    const pugi::xml_node blanks = element.previous_sibling();
+    const bool hasLine = IsBlankText(blanks) && !m_replaced.contains(blanks.internal_object());
+    const bool blanksWereRead = hasLine && WasRead(blanks);
+    const bool wasRead = element.offset_debug() >= 0;
+    if (wasRead || blanksWereRead) {
+        const pugi::xml_node mark = Add(element.parent(), pugi::node_comment, hasLine ? blanks : element);
+        m_replaced.emplace(mark.internal_object(),
+                           PlaceOf(blanksWereRead ? blanks : element, wasRead ? element : blanks));
+    }
+    if (hasLine)
+        TakeAway(blanks);
+    TakeAway(element);
+}
+
+void TreeEdit::MakeAttic()
 {
     if (!m_attic)
         m_attic = m_tree.append_child(pugi::node_element);
     MustSucceed(!m_attic.empty());
-    m_steps.push_back({node, replacedBy});
+}
+
+void TreeEdit::TakeAway(pugi::xml_node node)
+{
+    MakeAttic();
+    m_steps.push_back({node, node.parent(), node.previous_sibling(), false});
     m_attic.append_move(node);
 }
 
 void TreeEdit::Keep() noexcept
 {
-    for (const pugi::xml_node old : m_attic)
-        m_replaced.erase(old.internal_object());
-    m_attic.remove_children();
+    if (m_isRecording) {
+        m_kept = m_steps.size();
+        return;
+    }
+    Destroy(m_steps, false, [](const void*) {});
     m_steps.clear();
 }
 
-// Returns the node that is no longer in the tree, or null when one has come back.
-const void* TreeEdit::TakeBack(const Step& step) noexcept
+void TreeEdit::StartRecording()
 {
-    if (step.replacedBy) {
-        pugi::xml_node(step.replacedBy).parent().insert_move_after(step.node, step.replacedBy);
+    Keep();
+    MakeAttic();
+    m_isRecording = true;
+}
+
+TreeSteps TreeEdit::StopRecording() noexcept
+{
+    m_isRecording = false;
+    m_kept = 0;
+    return std::exchange(m_steps, {});
+}
+
+void TreeEdit::Reverse(const TreeSteps& steps) noexcept
+{
+    for (auto step = steps.rbegin(); step != steps.rend(); ++step)
+        if (step->isAdded)
+            m_attic.append_move(step->node);
+        else
+            PutBack(*step);
+}
+
+void TreeEdit::Repeat(const TreeSteps& steps) noexcept
+{
+    for (const TreeStep& step : steps)
+        if (step.isAdded)
+            PutBack(step);
+        else
+            m_attic.append_move(step.node);
+}
+
+void TreeEdit::PutBack(const TreeStep& step) noexcept
+{
+    pugi::xml_node parent = step.parent;
+    if (step.previous)
+        parent.insert_move_after(step.node, step.previous);
+    else
+        parent.prepend_move(step.node);
+}
+
+// Returns the node that is no longer in the tree, or null when one has come back.
+const void* TreeEdit::TakeBack(const TreeStep& step) noexcept
+{
+    if (!step.isAdded) {
+        PutBack(step);
         return nullptr;
     }
     const void* const gone = step.node.internal_object();

@@ -64,6 +64,10 @@ public:
         bool SetValue(const wchar_t* name, const wchar_t* text);
         bool SetValue(const wchar_t* name, int value);
 
+        // Takes a child element out, with all that is in it and the blanks that put it on a line of its own; its
+        // XmlNodes are then invalid. Returns false, changing nothing, when it is no child of this element or null.
+        bool RemoveChild(XmlNode* child);
+
         // First child and next sibling with the given element name, or null.
         [[nodiscard]] XmlNode* FirstChild(const wchar_t* name) const;
         [[nodiscard]] XmlNode* NextSibling(const wchar_t* name) const;
@@ -114,6 +118,35 @@ public:
     void SetDirty(bool dirty) noexcept;
     [[nodiscard]] bool IsDirty() const noexcept;
 
+    // What was changed while it was recorded. It may outlive the document and its content.
+    class KZ_API Change {
+    public:
+        ~Change();
+        Change(const Change&) = delete;
+        Change& operator=(const Change&) = delete;
+
+        // The memory that it holds, in bytes, about.
+        [[nodiscard]] std::size_t Size() const noexcept;
+
+    private:
+        friend class XmlDocument;
+        struct Record;
+        Change();
+        std::unique_ptr<Record> m_record;
+    };
+
+    // Records what is changed from now on; what was changed before is then for good, whoever runs out of memory later.
+    // Throws std::bad_alloc, and records nothing then.
+    void StartRecording();
+    // Returns what was recorded, or null when the content is what it was, or another one that was read meanwhile.
+    [[nodiscard]] std::unique_ptr<Change> StopRecording() noexcept;
+
+    // Takes a change back, or makes it again, to the same bytes. The document is dirty then unless it is what was last
+    // read or saved; nobody hears of it. Returns false, changing nothing, when the document is not what the change has
+    // left, or has found. XmlNodes of elements that are no longer there must not be used until they are again.
+    bool TakeBack(Change& change) noexcept;
+    bool MakeAgain(Change& change) noexcept;
+
     // Who hears of every SetDirty(true), when the document is dirty already too; null for nobody. Not owned. Stays when
     // the content is replaced.
     void SetCommitListener(KZCommitListener* listener) noexcept { m_listener = listener; }
@@ -122,6 +155,6 @@ private:
     friend class XmlNode;
     struct State;
     KZDocumentResult Replace(std::string_view utf8, const wchar_t* rootName);
-    std::unique_ptr<State> m_state;
+    std::shared_ptr<State> m_state;
     KZCommitListener* m_listener = nullptr;
 };

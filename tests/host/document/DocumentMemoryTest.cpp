@@ -90,6 +90,7 @@ TEST_F(ScarceMemory, TakesBackAWholeEditThatFails)
         child.SetValue(L"e", std::wstring(30000, L'e').c_str());
         child.SetValue(L"f", 1234567);
         child.SetValue(L"\u00F1", L"1");
+        root.RemoveChild(root.FirstChild(L"c"));
     };
     WithScarceMemory(edit, [&] {
         EXPECT_EQ(document.Serialize(), before);
@@ -104,6 +105,46 @@ TEST_F(ScarceMemory, TakesBackAWholeEditThatFails)
     EXPECT_STREQ(undisturbed.Root()->Value(L"d/f", L""), L"1234567");
     document.SetDirty(true);
     EXPECT_EQ(document.Serialize(), after);
+}
+
+// Of what is recorded, the part before the edit that fails stays recorded.
+TEST_F(ScarceMemory, TakesBackAndMakesAgainWhatWasRecordedBeforeAnEditThatFails)
+{
+    XmlDocument document(L"r");
+    ASSERT_TRUE(document.Parse(Text));
+    const std::wstring longText(50000, L'x');
+    const std::string kept = "<r>\n  <a>\n    <v>old</v>\n  </a>\n  <w>kept</w>\n</r>\n";
+    const auto edit = [&] {
+        document.StartRecording();
+        document.Root()->SetValue(L"w", L"kept");
+        document.SetDirty(true);
+        document.Root()->RemoveChild(document.Node(L"a"));
+        document.Root()->SetValue(L"w", longText.c_str());
+    };
+    int keptOnes = 0;
+    for (long failing = 1;; ++failing) {
+        ASSERT_TRUE(document.Parse(Text));
+        FailAllocationsFrom(failing);
+        bool failed = false;
+        try {
+            edit();
+        } catch (const std::bad_alloc&) {
+            failed = true;
+        }
+        const auto change = document.StopRecording();
+        FailAllocation(0);
+        if (!failed)
+            break;
+        EXPECT_EQ(document.Serialize(), change ? kept : Text);
+        if (change) {
+            EXPECT_TRUE(document.TakeBack(*change));
+            EXPECT_EQ(document.Serialize(), Text);
+            EXPECT_TRUE(document.MakeAgain(*change));
+            EXPECT_EQ(document.Serialize(), kept);
+            ++keptOnes;
+        }
+    }
+    EXPECT_GT(keptOnes, 0);
 }
 
 TEST_F(ScarceMemory, LeavesNoHalfMadeValue)
