@@ -17,6 +17,8 @@ if(KZ_SANITIZE)
   # In the tests' own code the checks of undefined behaviour take half of its compile time, and debug information beyond
   # line numbers a fifth.
   list(APPEND KZ_TEST_OPTIMIZATION -fno-sanitize=undefined -g1)
+  # With the library's headers precompiled, GCC 12 takes the buffer in a string for the only one that it has.
+  list(APPEND KZ_TEST_OPTIMIZATION -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
 endif()
 if(KZ_COVERAGE OR (WIN32 AND NOT KZ_HARDEN))
   set(KZ_TEST_OPTIMIZATION -O0)
@@ -29,6 +31,17 @@ else()
   set(KZ_TEST_PLATFORM native)
 endif()
 
+# What nearly every test includes is most of what the compiler reads; it reads it once, for all programs.
+function(kz_test_headers)
+  file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/tests/Headers.cpp CONTENT "")
+  add_library(kz_test_headers OBJECT ${CMAKE_BINARY_DIR}/tests/Headers.cpp)
+  kz_common(kz_test_headers)
+  target_compile_options(kz_test_headers PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${KZ_TEST_OPTIMIZATION}>")
+  target_link_libraries(kz_test_headers PRIVATE $<TARGET_NAME_IF_EXISTS:KZMfc> gmock gtest)
+  target_precompile_headers(kz_test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h> <algorithm> <filesystem> <functional>
+    <map> <optional> <string> <vector> $<$<BOOL:${WIN32}>:<afxwin.h$<ANGLE-R>>)
+endfunction()
+
 function(kz_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "WHOLE;DPI;SPANISH" "TIMEOUT" "LIBS")
   if(NOT arg_TIMEOUT)
@@ -38,6 +51,7 @@ function(kz_test name)
   kz_common(${name})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support)
   target_compile_options(${name} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${KZ_TEST_OPTIMIZATION}>")
+  target_precompile_headers(${name} REUSE_FROM kz_test_headers)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   # gtest_main stands last: the linker takes its main only when nothing before it has one.
   target_link_libraries(${name} PRIVATE
