@@ -39,7 +39,7 @@ ExitStatus ExportDevices(const Arguments& arguments)
     const auto fields = plant::FieldsNamed(*plant::FieldsOfType(arguments.type), arguments.fields);
     const std::string table = plant::ExportTable(project->Devices(), reader, KeysOf(fields));
     if (arguments.output)
-        plant::ReplaceFile(plant::RealDisk(), *arguments.output, table);
+        plant::ReplaceInOneStep(plant::RealDisk(), *arguments.output, table);
     else
         PrintLines(table);
     return ExitTrue;

@@ -17,7 +17,7 @@ void RequireReplaceable(Disk& disk, const Path& file)
     });
 }
 
-void ReplaceFile(Disk& disk, const Path& file, std::string_view bytes)
+void ReplaceInOneStep(Disk& disk, const Path& file, std::string_view bytes)
 {
     RequireReplaceable(disk, file);
     // No other process uses the name; one of the same number that was killed may have left such a file.

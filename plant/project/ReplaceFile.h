@@ -31,6 +31,6 @@ void RequireReplaceable(Disk& disk, const Path& file);
 
 // Writes a file, over the one of that name if there is one. Throws Refusal; the old one then stands, and nothing is
 // left beside it.
-void ReplaceFile(Disk& disk, const Path& file, std::string_view bytes);
+void ReplaceInOneStep(Disk& disk, const Path& file, std::string_view bytes);
 
 }  // namespace plant

@@ -20,7 +20,7 @@ protected:
     unsigned Replace()
     {
         return Refused([this] {
-            ReplaceFile(m_disk, File(), "new");
+            ReplaceInOneStep(m_disk, File(), "new");
             return true;
         });
     }
