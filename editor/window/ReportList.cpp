@@ -9,9 +9,10 @@ void ReportList::SetColumns(std::span<const ReportColumn> columns, int stretchin
     m_columns = columns;
     m_nStretching = stretching;
     SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_DOUBLEBUFFER);
-    for (int column = 0; column < static_cast<int>(columns.size()); ++column)
-        InsertColumn(column, EditorText(columns[static_cast<std::size_t>(column)].caption).c_str(), LVCFMT_LEFT,
-                     OwnWidth(column));
+    for (int index = 0; index < ColumnCount(); ++index) {
+        const ReportColumn& column = columns[static_cast<std::size_t>(index)];
+        InsertColumn(index, EditorText(column.caption).c_str(), column.format, OwnWidth(index));
+    }
 }
 
 int ReportList::OwnWidth(int column) const

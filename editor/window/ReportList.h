@@ -9,6 +9,7 @@
 struct ReportColumn {
     unsigned caption;
     int width;
+    int format = LVCFMT_LEFT;
 };
 
 class ReportList : public CListCtrl {
@@ -24,6 +25,7 @@ public:
 protected:
     // Makes a column as wide as its texts, but no narrower than its own width.
     void FitToTexts(int column);
+    [[nodiscard]] int ColumnCount() const noexcept { return static_cast<int>(m_columns.size()); }
 
 private:
     [[nodiscard]] int OwnWidth(int column) const;

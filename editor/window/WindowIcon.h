@@ -4,3 +4,6 @@
 #include <afxwin.h>
 
 void SetProgramIcon(CWnd& window);
+
+// The same, large, in a control that shows an icon.
+void ShowProgramIcon(CWnd& dialog, int control);

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+#include "resources/DialogTextIds.h"
+
 namespace {
 
 // The texts' blocks of numbers, without gaps.
@@ -13,6 +15,7 @@ constexpr struct {
 } Blocks[] = {
     {IDS_NO_HOST_STRING, IDS_DIAGNOSIS_FONT},
     {IDS_MENU_FILE, IDS_MENU_HELP},
+    {IDS_LIST_COPY, IDS_ABOUT_COPY},
 };
 
 // The conversions of a printf format, in their order.

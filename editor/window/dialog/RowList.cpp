@@ -1,0 +1,113 @@
+#include "RowList.h"
+
+#include "Clipboard.h"
+#include "resources/DialogTextIds.h"
+#include "text/EditorText.h"
+
+namespace {
+
+constexpr UINT CommandCopy = 1;
+constexpr UINT CommandMarkAll = 2;
+
+bool IsDown(int key)
+{
+    return ::GetKeyState(key) < 0;
+}
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(RowList, ReportList)
+    ON_MESSAGE(WM_KEYDOWN, &RowList::OnKeyDown)
+    ON_MESSAGE(WM_CONTEXTMENU, &RowList::OnContextMenu)
+END_MESSAGE_MAP()
+
+void RowList::SetUp(std::span<const ReportColumn> columns, int stretching, Text text)
+{
+    m_text = std::move(text);
+    SetColumns(columns, stretching);
+}
+
+void RowList::ShowRows(int count)
+{
+    SetItemCount(count);
+    FitColumns();
+    Invalidate();
+}
+
+void RowList::MarkOnly(int row)
+{
+    constexpr UINT Both = LVIS_SELECTED | LVIS_FOCUSED;
+    SetItemState(-1, 0, LVIS_SELECTED);
+    SetItemState(row, Both, Both);
+    EnsureVisible(row, FALSE);
+}
+
+bool RowList::Answer(const NMHDR& header, LRESULT& result)
+{
+    if (header.code != LVN_GETDISPINFOW)
+        return false;
+    // The notification is for its receiver to fill in.
+    LVITEMW& item = reinterpret_cast<NMLVDISPINFOW&>(const_cast<NMHDR&>(header)).item;
+    if ((item.mask & LVIF_TEXT) != 0 && item.iItem < GetItemCount())
+        ::lstrcpynW(item.pszText, m_text(item.iItem, item.iSubItem).c_str(), item.cchTextMax);
+    result = 0;
+    return true;
+}
+
+LRESULT RowList::OnKeyDown(WPARAM key, LPARAM)
+{
+    const bool hasControl = IsDown(VK_CONTROL) && !IsDown(VK_SHIFT) && !IsDown(VK_MENU);
+    if (hasControl && key == 'C')
+        CopyMarked();
+    else if (hasControl && key == 'A')
+        MarkAll();
+    else
+        return Default();
+    return 0;
+}
+
+LRESULT RowList::OnContextMenu(WPARAM, LPARAM place)
+{
+    CPoint at(static_cast<short>(LOWORD(place)), static_cast<short>(HIWORD(place)));
+    if (place == -1) {  // by the keyboard
+        at = CPoint(0, 0);
+        ClientToScreen(&at);
+    }
+    const bool canCopy = Marked() >= 0;
+    CMenu menu;
+    menu.Attach(::CreatePopupMenu());
+    ::AppendMenuW(menu, canCopy ? MF_STRING : MF_GRAYED, CommandCopy, EditorText(IDS_LIST_COPY).c_str());
+    if ((GetStyle() & LVS_SINGLESEL) == 0)
+        ::AppendMenuW(menu, MF_STRING, CommandMarkAll, EditorText(IDS_LIST_MARK_ALL).c_str());
+    switch (::TrackPopupMenu(menu, TPM_RETURNCMD, at.x, at.y, 0, m_hWnd, nullptr)) {
+    case CommandCopy:
+        CopyMarked();
+        break;
+    case CommandMarkAll:
+        MarkAll();
+        break;
+    default:
+        break;
+    }
+    return 0;
+}
+
+void RowList::MarkAll()
+{
+    if ((GetStyle() & LVS_SINGLESEL) == 0)
+        SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+}
+
+// As spreadsheets take it: tabs between the columns, a line for each row.
+void RowList::CopyMarked()
+{
+    std::wstring lines;
+    const int columns = ColumnCount();
+    for (int row = Marked(); row >= 0; row = GetNextItem(row, LVNI_SELECTED)) {
+        for (int column = 0; column < columns; ++column)
+            lines.append(column == 0 ? L"" : L"\t").append(m_text(row, column));
+        lines.append(L"\r\n");
+    }
+    if (!lines.empty())
+        CopyText(*this, lines);
+}
