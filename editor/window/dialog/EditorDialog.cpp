@@ -100,12 +100,16 @@ KZLayout& EditorDialog::AddRow(KZLayout& page, int size, int gap)
     return row;
 }
 
-void EditorDialog::AddField(KZLayout& page, int label, int field)
+void EditorDialog::AddField(KZLayout& page, int label, int field, int unit)
 {
     KZLayout& row = AddRow(page, KZSizeEditLine);
     row.AddControl(label, 40);
     row.AddGap(KZSizeEditLine);
     row.AddControl(field, 60);
+    if (unit != 0) {
+        row.AddGap(KZSizeEditLine);
+        row.AddControl(unit, KZSizeNatural);
+    }
 }
 
 void EditorDialog::AddLabelled(KZLayout& page, int label, int control, int share)
@@ -131,14 +135,18 @@ void EditorDialog::AddButtons(KZLayout& page, std::initializer_list<int> buttons
     }
 }
 
-std::wstring EditorDialog::EntryIn(int edit) const
+void EditorDialog::Exchange(CDataExchange* pDX, int edit, std::wstring& text)
 {
-    CString text;
-    GetDlgItemText(edit, text);
-    const std::wstring entry = text.GetString();
-    const std::size_t first = entry.find_first_not_of(L" \t");
-    return first == std::wstring::npos ? std::wstring()
-                                       : entry.substr(first, entry.find_last_not_of(L" \t") - first + 1);
+    pDX->PrepareEditCtrl(edit);
+    if (!pDX->m_bSaveAndValidate) {
+        pDX->m_pDlgWnd->SetDlgItemText(edit, text.c_str());
+        return;
+    }
+    CString typed;
+    pDX->m_pDlgWnd->GetDlgItemText(edit, typed);
+    const std::wstring entry = typed.GetString();
+    const std::size_t first = std::min(entry.find_first_not_of(L" \t"), entry.size());
+    text = entry.substr(first, entry.find_last_not_of(L" \t") + 1 - first);
 }
 
 void EditorDialog::RefuseEntry(int control, const std::wstring& why)

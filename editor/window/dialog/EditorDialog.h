@@ -30,15 +30,16 @@ protected:
 
     // A row that lives as long as the dialog, added to the page with its gap in front of it.
     KZLayout& AddRow(KZLayout& page, int size = KZSizeNatural, int gap = KZSizeStandard);
-    // A label and its field beside it; the fields of a page stand below each other.
-    void AddField(KZLayout& page, int label, int field);
+    // A label and its field beside it, with its unit behind it if it has one; the fields of a page stand below each
+    // other.
+    void AddField(KZLayout& page, int label, int field, int unit = 0);
     // A label and, below it, what it labels, which takes what is left of the height.
     void AddLabelled(KZLayout& page, int label, int control, int share = 100);
     // Buttons at the right of the last line; those before the separator 0 stand at its left.
     void AddButtons(KZLayout& page, std::initializer_list<int> buttons);
 
-    // The text of an edit, blanks around it left out.
-    [[nodiscard]] std::wstring EntryIn(int edit) const;
+    // Moves a text between an edit and a member, for DoDataExchange; blanks around it are left out.
+    static void Exchange(CDataExchange* pDX, int edit, std::wstring& text);
     // Tells the user why an entry is refused, and turns to it.
     void RefuseEntry(int control, const std::wstring& why);
 

@@ -1,7 +1,11 @@
 #include "SampleDialogs.h"
 
 #include "window/about/AboutDialog.h"
+#include "window/add/AddDeviceDialog.h"
+#include "window/duplicate/DuplicateDeviceDialog.h"
 #include "window/modules/ModulesDialog.h"
+#include "window/remove/RemoveDevicesDialog.h"
+#include "window/rename/RenameDeviceDialog.h"
 
 namespace editor_tests {
 
@@ -11,6 +15,43 @@ std::unique_ptr<CDialog> About()
 {
     return std::make_unique<AboutDialog>(nullptr, L"1.0.0.0",
                                          L"file\tKZEditor.exe\t1.0.0.0\t-\nwindows\tWindows\t10.0\t-\n");
+}
+
+const plant::DeviceNaming Train{L"TREN1", L"1", L"Tren de laminación en frío, celda 4 de la subestación Norte"};
+
+std::unique_ptr<CDialog> AddDevice()
+{
+    plant::NewDevice device;
+    device.name = L"TREN7";
+    device.number = L"7";
+    device.typeName = L"ZEP";
+    device.transformerRatio = L"1000";
+    return std::make_unique<AddDeviceDialog>(nullptr, device, [](const auto&) { return plant::EntryRefusals(); });
+}
+
+std::unique_ptr<CDialog> RenameDevice()
+{
+    return std::make_unique<RenameDeviceDialog>(nullptr, Train, [](const auto&) { return plant::EntryRefusals(); });
+}
+
+std::unique_ptr<CDialog> DuplicateDevice()
+{
+    return std::make_unique<DuplicateDeviceDialog>(
+        nullptr, DuplicateEntries{L"3", L"TREN#", L"7", L"Tren de laminación"},
+        [](const DuplicateEntries&, std::size_t) {
+            return std::vector<plant::DeviceNaming>{
+                {L"TREN7", L"7", L""}, {L"TREN8", L"8", L""}, {L"TREN9", L"9", L""}};
+        },
+        [](std::span<const plant::DeviceNaming>) {
+            return plant::EntryRefusals{{1, plant::DeviceEntry::Name, {IDS_PLANT_NAME_USED, {L"TREN8"}}}};
+        });
+}
+
+std::unique_ptr<CDialog> RemoveDevices()
+{
+    return std::make_unique<RemoveDevicesDialog>(
+        nullptr, std::vector<RemovedDevice>{{Train.number, Train.name, Train.description, 118},
+                                            {L"12", L"CPD", L"Data hall, UPS busbar A", 0}});
 }
 
 std::unique_ptr<CDialog> Modules()
@@ -24,8 +65,8 @@ std::unique_ptr<CDialog> Modules()
 }
 
 constexpr SampleDialog Samples[] = {
-    {"About", About},
-    {"Modules", Modules},
+    {"About", About},     {"AddDevice", AddDevice},         {"DuplicateDevice", DuplicateDevice},
+    {"Modules", Modules}, {"RemoveDevices", RemoveDevices}, {"RenameDevice", RenameDevice},
 };
 
 }  // namespace

@@ -1,0 +1,18 @@
+// Resource ids of the dialog that adds a device.
+#pragma once
+
+#define IDD_ADD_DEVICE 200
+
+#define IDC_ADD_LABEL_NUMBER 4000
+#define IDC_ADD_NUMBER 4001
+#define IDC_ADD_LABEL_NAME 4002
+#define IDC_ADD_NAME 4003
+#define IDC_ADD_LABEL_DESCRIPTION 4004
+#define IDC_ADD_DESCRIPTION 4005
+#define IDC_ADD_LABEL_MODEL 4006
+#define IDC_ADD_MODEL 4007
+#define IDC_ADD_LABEL_GROUPS 4008
+#define IDC_ADD_GROUPS 4009
+#define IDC_ADD_LABEL_RATIO 4010
+#define IDC_ADD_RATIO 4011
+#define IDC_ADD_SECONDARY 4012
