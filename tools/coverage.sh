@@ -42,7 +42,7 @@ run ctest e2e --test-dir "$windows" -L e2e --output-on-failure --no-tests=error
 # source has written them
 count() {
   KZ_GCOV=$2 gcovr --root "$root" --gcov-executable "$root/tools/coverage-gcov.sh" \
-    --filter "$root/(module|host|mfc|plant|editor)/" --exclude-throw-branches --exclude-unreachable-branches \
+    --filter "$root/(module|host|access|mfc|plant|editor)/" --exclude-throw-branches --exclude-unreachable-branches \
     --json "$report/$3.json" "$1"
 }
 count "$native" gcov native

@@ -16,7 +16,7 @@ from functools import lru_cache
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[1]
-PRODUCT = ("editor/", "host/", "mfc/", "module/", "plant/")
+PRODUCT = ("access/", "editor/", "host/", "mfc/", "module/", "plant/")
 TIDY = "clang-tidy-14"
 STAMPS = ROOT / "build/tidy"
 

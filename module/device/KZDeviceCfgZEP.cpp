@@ -1,6 +1,7 @@
 #include "KZDeviceCfgZEP.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ControlText.h"
 #include "DeviceControls.h"
@@ -145,7 +146,19 @@ BOOL KZDeviceCfgZEP::OnInitDialog()
     ShowRecord(record);
     LayoutControls();
     UpdateData(FALSE);
+    m_access.Attach(m_hWnd, {.nameControls = [this](AccessibleNames& names) { NameControls(names); }});
     return TRUE;
+}
+
+// Each field is called as the box around it.
+void KZDeviceCfgZEP::NameControls(AccessibleNames& names) const
+{
+    constexpr std::pair<int, int> FieldsInBoxes[] = {
+        {IDC_RATIO, IDC_RATIO_GROUP},     {IDC_STATUS, IDC_STATUS_GROUP}, {IDC_ALGORITHM, IDC_ALGORITHM_GROUP},
+        {IDC_CURRENT, IDC_CURRENT_GROUP}, {IDC_UNITS, IDC_UNITS_GROUP},
+    };
+    for (const auto& [field, box] : FieldsInBoxes)
+        names.Set(::GetDlgItem(m_hWnd, field), ControlText(m_hWnd, box).c_str());
 }
 
 void KZDeviceCfgZEP::SetTexts()

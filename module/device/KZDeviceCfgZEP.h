@@ -8,6 +8,7 @@
 #include <array>
 
 #include "CImageButton.h"
+#include "DialogAccess.h"
 #include "InformationRecord.h"
 #include "KZBaseDeviceCfg.h"
 
@@ -31,6 +32,7 @@ private:
     void ShowIdentity();
     void ShowRecord(const zep::InformationRecord& record);
     void LayoutControls();
+    void NameControls(AccessibleNames& names) const;
 
     [[nodiscard]] zep::InformationEntries Entries();
     // Checks the entries; the first that is refused is shown in a message and focused.
@@ -55,4 +57,6 @@ private:
     XmlDocument::XmlNode* m_pNode;
     zep::InformationSettings m_settings;  // as accepted by the last validation
     zep::InformationSettings m_initial;   // as read when the dialog opened
+
+    DialogAccess m_access;
 };

@@ -1,5 +1,6 @@
 #include "CDlgLimitsArmonicZEP.h"
 
+#include "HostText.h"
 #include "KZStringIds.h"
 #include "LimitsControls.h"
 
@@ -104,7 +105,7 @@ private:
 
 }  // namespace
 
-CDlgLimitsArmonicZEP::CDlgLimitsArmonicZEP(zep::Side side) : LimitsPage(TableOf(side)) {}
+CDlgLimitsArmonicZEP::CDlgLimitsArmonicZEP(zep::Side side) : LimitsPage(TableOf(side)), m_side(side) {}
 
 void CDlgLimitsArmonicZEP::SetLabels()
 {
@@ -121,6 +122,11 @@ void CDlgLimitsArmonicZEP::SetLabels()
 int CDlgLimitsArmonicZEP::RowLabelId(std::size_t variable) const noexcept
 {
     return IDC_HARMONIC_ROW + static_cast<int>(variable);
+}
+
+KZBasicString CDlgLimitsArmonicZEP::SideName() const
+{
+    return SideText(m_side);
 }
 
 // The fundamental alone at the top, as wide as the left one of the two blocks below it.

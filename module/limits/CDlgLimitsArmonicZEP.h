@@ -11,4 +11,8 @@ protected:
     void SetLabels() override;
     void PlanLayout(LayoutPlan& plan) override;
     [[nodiscard]] int RowLabelId(std::size_t variable) const noexcept override;
+    [[nodiscard]] KZBasicString SideName() const override;
+
+private:
+    zep::Side m_side;
 };

@@ -50,6 +50,7 @@ BOOL CDlgLimitsZEP::OnInitDialog()
     Layout();
     m_container.ShowSelected();
     UpdateData(FALSE);
+    m_container.Attach();
     return TRUE;
 }
 
@@ -71,8 +72,8 @@ void CDlgLimitsZEP::CreateTabs()
                           {L"ZEP-var_power.png", L"SYSTEM-var_armonic_current.png", L"SYSTEM-var_armonic_current.png"});
     const KZBasicString harmonics = HostText(KZS_HARMONIC_CURRENTS) + L" ";
     m_container.Add(*m_pages[0], HostText(KZS_POWERS), 0);
-    m_container.Add(*m_pages[1], harmonics + HostText(KZS_NET_SIDE), 1);
-    m_container.Add(*m_pages[2], harmonics + HostText(KZS_LOAD_SIDE), 2);
+    m_container.Add(*m_pages[1], harmonics + SideText(zep::Side::Net), 1);
+    m_container.Add(*m_pages[2], harmonics + SideText(zep::Side::Load), 2);
 }
 
 // Before the pages have windows, so that their many boxes get their texts once.

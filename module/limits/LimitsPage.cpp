@@ -3,6 +3,7 @@
 #include "ControlText.h"
 #include "DialogSetup.h"
 #include "HostText.h"
+#include "JoinedName.h"
 #include "NumericLocale.h"
 
 using zep::LimitCell;
@@ -43,7 +44,6 @@ LimitsPage::LimitsPage(const LimitsPageTable& table)
 
 LimitsPage::~LimitsPage()
 {
-    m_names.Clear();
     DestroyWindow();  // here, while the edit boxes that its controls are bound to still exist
 }
 
@@ -84,17 +84,16 @@ BOOL LimitsPage::OnInitDialog()
 {
     TabPage::OnInitDialog();
     SetLabels();
-    NameForScreenReaders();
     return TRUE;
 }
 
-void LimitsPage::NameForScreenReaders()
+void LimitsPage::NameControls(AccessibleNames& names, const KZBasicString&)
 {
     KZBasicString row;
     ForEachCell([&](LimitCell cell, int) {
         if (cell.field == zep::LimitField::Nominal)
-            row = ControlText(*GetDlgItem(RowLabelId(cell.variable)));
-        m_names.Set(Edit(cell), row + std::wstring_view(L", ") + HostText(zep::LimitFieldTitle(cell.field)));
+            row = JoinedName({ControlText(m_hWnd, RowLabelId(cell.variable)), SideName()});
+        names.Set(Edit(cell), JoinedName({row, HostText(zep::LimitFieldTitle(cell.field))}).c_str());
     });
 }
 

@@ -8,7 +8,6 @@
 #include <span>
 #include <vector>
 
-#include "AccessibleNames.h"
 #include "LimitsRules.h"
 #include "TabPage.h"
 
@@ -41,6 +40,9 @@ public:
     // Writes the page's variables into a "viewSetup", as the table's saving rule says.
     void Save(XmlDocument::XmlNode& viewSetup) const;
 
+    // An edit box is called by its row, its side and its column.
+    void NameControls(AccessibleNames& names, const KZBasicString& title) override;
+
 protected:
     explicit LimitsPage(const LimitsPageTable& table);
 
@@ -55,6 +57,8 @@ protected:
 
     // The control whose text names the row, or the group, of a variable.
     [[nodiscard]] virtual int RowLabelId(std::size_t variable) const noexcept = 0;
+    // What the page's side is called; empty when it has none.
+    [[nodiscard]] virtual KZBasicString SideName() const { return {}; }
 
 private:
     struct EditRow {
@@ -64,11 +68,9 @@ private:
     [[nodiscard]] CEdit& Edit(zep::LimitCell cell);
     template <class Visitor>
     void ForEachCell(Visitor visit) const;
-    void NameForScreenReaders();
     void ShowFailure(const zep::LimitFailure& failure);
 
     const LimitsPageTable& m_table;
     zep::LimitsStore m_store;
     std::vector<EditRow> m_edits;
-    AccessibleNames m_names;
 };

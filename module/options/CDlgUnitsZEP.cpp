@@ -1,7 +1,11 @@
 #include "CDlgUnitsZEP.h"
 
+#include <span>
+
+#include "ControlText.h"
 #include "DialogSetup.h"
 #include "HostText.h"
+#include "JoinedName.h"
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
 #include "KZStringIds.h"
@@ -101,6 +105,7 @@ BOOL CDlgUnitsZEP::OnInitDialog()
     SetUpOkCancel(m_btnOK, m_btnCancel);
     LayoutControls();
     SetIcon(m_hIcon, TRUE);
+    m_access.Attach(m_hWnd, {.nameControls = [this](AccessibleNames& names) { NameControls(names); }});
     return TRUE;
 }
 
@@ -123,6 +128,22 @@ void CDlgUnitsZEP::SetTexts()
         SetDlgItemText(unit.decimalsLabel, HostText(KZS_DECIMALS).c_str());
         for (int i = 0; i < zep::DecimalsChoiceCount; ++i)
             SetDlgItemText(unit.decimals[i], DecimalsText(i).c_str());
+    }
+}
+
+// The two units have the same choices: each is called by its unit, by what it chooses, and by its own text.
+void CDlgUnitsZEP::NameControls(AccessibleNames& names) const
+{
+    const auto name = [&](const UnitControls& unit, int label, std::span<const int> choices) {
+        for (const int choice : choices)
+            names.Set(
+                ::GetDlgItem(m_hWnd, choice),
+                JoinedName({ControlText(m_hWnd, unit.group), ControlText(m_hWnd, label), ControlText(m_hWnd, choice)})
+                    .c_str());
+    };
+    for (const UnitControls& unit : Units) {
+        name(unit, unit.unitLabel, unit.units);
+        name(unit, unit.decimalsLabel, unit.decimals);
     }
 }
 

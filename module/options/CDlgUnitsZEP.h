@@ -6,6 +6,7 @@
 #include <afxwin.h>
 
 #include "CImageButton.h"
+#include "DialogAccess.h"
 #include "KZDriver.h"
 #include "UnitsRecord.h"
 
@@ -27,6 +28,7 @@ private:
     void KeepDecimalsReachable();
     void SetTexts();
     void LayoutControls();
+    void NameControls(AccessibleNames& names) const;
 
     CImageButton m_btnCancel;
     CImageButton m_btnOK;
@@ -35,4 +37,5 @@ private:
     zep::UnitChoices m_initial;  // when the dialog opened
     zep::UnitChoices m_choices;  // as the radio buttons stand
     KZDriver* m_pDriver;
+    DialogAccess m_access;
 };

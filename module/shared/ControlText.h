@@ -5,4 +5,8 @@
 
 #include "KZBasicString.h"
 
-[[nodiscard]] KZBasicString ControlText(const CWnd& control);
+[[nodiscard]] KZBasicString ControlText(HWND control);
+[[nodiscard]] inline KZBasicString ControlText(HWND dialog, int id)
+{
+    return ControlText(::GetDlgItem(dialog, id));
+}

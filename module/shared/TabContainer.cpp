@@ -1,5 +1,9 @@
 #include "TabContainer.h"
 
+#include <utility>
+
+#include "CaughtException.h"
+#include "ControlText.h"
 #include "HostText.h"
 #include "KZStringIds.h"
 #include "TabImages.h"
@@ -22,13 +26,29 @@ private:
 
 void TabContainer::SetImages(CImageList& images, std::initializer_list<const wchar_t*> fileNames)
 {
-    CreateTabImages(images, fileNames);
+    m_images = &images;
+    m_imageFiles = fileNames;
+    CreateTabImages(images, m_imageFiles);
     m_tab.SetImageList(&images);
+}
+
+// The tabs keep their pictures when there is no memory for new ones.
+void TabContainer::LoadImages() noexcept
+{
+    try {
+        CImageList fresh;
+        CreateTabImages(fresh, m_imageFiles);
+        m_tab.SendMessage(TCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(fresh.GetSafeHandle()));
+        m_images->DeleteImageList();
+        m_images->Attach(fresh.Detach());
+    } catch (...) {
+        TakeException();
+    }
 }
 
 void TabContainer::Add(TabPage& page, const KZBasicString& text, int image)
 {
-    m_pages.push_back(&page);
+    m_pages.push_back({&page, text});
     m_tab.InsertItem(m_tab.GetItemCount(), text.c_str(), image);
 }
 
@@ -40,16 +60,49 @@ void TabContainer::Clear() noexcept
 
 void TabContainer::ShowSelected()
 {
-    if (m_current)
-        m_current->ShowWindow(SW_HIDE);
+    TabPage* const previous = m_current;
+    const bool hadFocus = previous && ::IsChild(previous->m_hWnd, ::GetFocus());
     const int tab = m_tab.GetCurSel();
     const bool hasPage = tab >= 0 && static_cast<std::size_t>(tab) < m_pages.size();
-    m_current = hasPage ? m_pages[static_cast<std::size_t>(tab)] : nullptr;
-    if (!m_current)
-        return;
-    m_current->Show();
-    m_current->BringWindowToTop();
-    m_current->Invalidate(TRUE);
+    m_current = hasPage ? m_pages[static_cast<std::size_t>(tab)].page : nullptr;
+    if (m_current) {
+        m_current->Show();
+        m_current->BringWindowToTop();
+        m_current->Invalidate(TRUE);
+    }
+    // Before the page is hidden: Windows would give its focus to the dialog, and a screen reader would read that out.
+    if (hadFocus && m_current != previous) {
+        const HWND target = m_current ? ::GetNextDlgTabItem(m_current->m_hWnd, nullptr, FALSE) : m_tab.m_hWnd;
+        m_dialog.SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(target), TRUE);
+    }
+    if (previous && previous != m_current)
+        previous->ShowWindow(SW_HIDE);
+}
+
+void TabContainer::Attach()
+{
+    DialogNeeds needs;
+    needs.tabs = m_tab.m_hWnd;
+    needs.beforeShown = [this] { OrderForTab(); };
+    needs.nameControls = [this](AccessibleNames& names) {
+        names.Set(m_tab.m_hWnd, ControlText(m_dialog).c_str());
+        for (const Tab& tab : m_pages)
+            tab.page->NameControls(names, tab.title);
+    };
+    needs.followColours = [this] { LoadImages(); };
+    needs.walk = [this](HWND control, WPARAM key) {
+        return m_current && ::IsChild(m_current->m_hWnd, control) && m_current->Walk(control, key);
+    };
+    m_access.Attach(m_dialog.m_hWnd, std::move(needs));
+}
+
+// The Tab key follows the order in depth. The page must lie above the tab control, or that would paint over it; so the
+// tabs come last, and the walk goes round: tabs, page, OK, Cancel.
+void TabContainer::OrderForTab() const
+{
+    ::SetWindowPos(m_tab.m_hWnd, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    if (m_current)
+        m_current->BringWindowToTop();
 }
 
 void TabContainer::Layout(LayoutPlan& plan, int tabHeight)
@@ -59,8 +112,8 @@ void TabContainer::Layout(LayoutPlan& plan, int tabHeight)
         plan.FitAndApply();
     }
     const CRect area = PageArea(tabHeight);
-    for (TabPage* page : m_pages)
-        page->MoveTo(area);
+    for (const Tab& tab : m_pages)
+        tab.page->MoveTo(area);
     m_dialog.Invalidate(TRUE);
 }
 

@@ -1,4 +1,5 @@
-// What a dialog with pages under a tab control does: it makes the tabs, shows one page at a time, and places the pages.
+// What a dialog with pages under a tab control does: it makes the tabs, shows one page at a time, places the pages, and
+// lets the keyboard walk from the tabs into the page and on to OK and Cancel.
 //
 // A dialog has one as a member. The pages and the controls stay the dialog's own.
 #pragma once
@@ -8,6 +9,7 @@
 #include <initializer_list>
 #include <vector>
 
+#include "DialogAccess.h"
 #include "KZBasicString.h"
 #include "TabPage.h"
 
@@ -19,15 +21,19 @@ public:
     {
     }
 
-    // Gives the tabs pictures of the host's image folder.
+    // Gives the tabs pictures of the host's image folder. They are made anew when the system's colours change, in which
+    // their edges are drawn.
     void SetImages(CImageList& images, std::initializer_list<const wchar_t*> fileNames);
     // Adds a tab at the end for a page that has its window.
     void Add(TabPage& page, const KZBasicString& text, int image);
     // Forgets the pages, which are about to be destroyed.
     void Clear() noexcept;
 
-    // Shows the page of the tab that is selected instead of the current one.
+    // Shows the page of the tab that is selected instead of the current one, to which the focus goes if it was in
+    // there.
     void ShowSelected();
+    // Starts to work for keyboard, screen readers and small screens; the last thing that OnInitDialog does.
+    void Attach();
 
     // Whether there are pages to lay out. Not while a layout is under way: fitting the dialog's height sends WM_SIZE,
     // and the outer layout finishes with the new client area.
@@ -46,11 +52,21 @@ public:
     void GiveUp();
 
 private:
+    struct Tab {
+        TabPage* page;
+        KZBasicString title;
+    };
+
     [[nodiscard]] CRect PageArea(int tabHeight) const;
+    void OrderForTab() const;
+    void LoadImages() noexcept;
 
     CDialog& m_dialog;
     CTabCtrl& m_tab;
     TabPage*& m_current;
-    std::vector<TabPage*> m_pages;  // in tab order
+    std::vector<Tab> m_pages;  // in tab order
+    CImageList* m_images = nullptr;
+    std::vector<const wchar_t*> m_imageFiles;
     bool m_layingOut = false;
+    DialogAccess m_access;
 };

@@ -13,7 +13,7 @@ bool CreateLike(CImageList& list, CBitmap& bitmap)
 
 }  // namespace
 
-void CreateTabImages(CImageList& list, std::initializer_list<const wchar_t*> fileNames)
+void CreateTabImages(CImageList& list, const std::vector<const wchar_t*>& fileNames)
 {
     const KZBasicString folder = KZQuorvelantaSetup::Get()->getImageFilePath();
     int place = 0;

@@ -27,6 +27,13 @@ void TabPage::Show()
     ShowWindow(SW_SHOW);
 }
 
+void TabPage::NameControls(AccessibleNames&, const KZBasicString&) {}
+
+bool TabPage::Walk(HWND, WPARAM)
+{
+    return false;
+}
+
 void TabPage::LayoutControls()
 {
     if ((GetStyle() & WS_VISIBLE) != 0)

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include "AccessibleNames.h"
+#include "KZBasicString.h"
 #include "LayoutPlan.h"
 
 class TabPage : public CDialog {
@@ -19,6 +21,12 @@ public:
 
     // Shows the page, laid out.
     void Show();
+
+    // Names the controls that neither their text nor a label names.
+    //   title   the text of the page's tab
+    virtual void NameControls(AccessibleNames& names, const KZBasicString& title);
+    // Moves the focus from a control of the page where an arrow key leads. Returns whether the page has used the key.
+    virtual bool Walk(HWND control, WPARAM key);
 
 protected:
     explicit TabPage(UINT templateId) noexcept : m_nTemplate(templateId) {}

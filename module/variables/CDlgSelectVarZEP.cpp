@@ -104,6 +104,7 @@ BOOL CDlgSelectVarZEP::OnInitDialog()
     AddTab(m_container, m_pGeneral, KZS_GENERAL, 0);
     AddTab(m_container, m_pPower, KZS_POWERS, 1);
     AddTab(m_container, m_pArmonic, KZS_HARMONIC_CURRENTS, 2);
+    m_container.Attach();
     if (m_pages.empty()) {
         // OK without pages empties the host's list: right when it asked for nothing that they hold, and only then.
         if (isOffered)

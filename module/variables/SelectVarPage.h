@@ -27,6 +27,12 @@ public:
     // Appends the full names of the newly selected variables: by row, net before load, L1 to L3.
     void CollectSelected(std::list<KZBasicString>& fullNames);
 
+    // Boxes get their names as texts, for which they have no room to show; buttons of pictures and columns get them for
+    // screen readers alone.
+    void NameControls(AccessibleNames& names, const KZBasicString& title) override;
+    // Left and Right walk the row, Up and Down the column, both in a ring.
+    bool Walk(HWND control, WPARAM key) override;
+
 protected:
     SelectVarPage(KZDriverDeviceZEP* device, zep::Family family);
 
@@ -49,6 +55,8 @@ private:
     void ForEachBox(Visitor visit);
 
     void LoadTexts();
+    void NameColumns(AccessibleNames& names, const KZBasicString& title, zep::Side side) const;
+    void NameRow(AccessibleNames& names, int row, zep::Side side);
     void OnBox(CButton& box);
     // Returns false when the container refused.
     bool Toggle(const zep::SelectionCommand& command);

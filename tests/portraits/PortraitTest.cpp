@@ -12,6 +12,7 @@
 #include "ParameterNames.h"
 #include "Portrait.h"
 #include "PortraitFile.h"
+#include "WorkArea.h"
 #include "ZepProject.h"
 
 namespace {
@@ -76,6 +77,7 @@ protected:
 
     ZepProject m_project;
     Artist m_artist;
+    kztest::WorkArea m_screen{m_project.Module(), kztest::LargeScreenWidth, kztest::LargeScreenHeight};
 };
 
 TEST_P(Portraits, Hub)

@@ -4,14 +4,15 @@ import re
 from tree import CODE, ROOT, line_at, place, text_of, tree, without_comments
 
 # The first folder that contains a file is its area.
-FOLDERS = ("mfc", "host", "module", "plant", "editor")
+FOLDERS = ("access", "mfc", "host", "module", "plant", "editor")
 AREAS = [
-    "mfc", "host/include", "host", "module/entry", "module/device", "module/options", "module/limits",
+    "access", "mfc", "host/include", "host", "module/entry", "module/device", "module/options", "module/limits",
     "module/variables", "module/resources", "module/shared", "plant", "editor",
 ]
-PUBLIC = {"mfc", "host/include"}
+PUBLIC = {"access", "mfc", "host/include"}
 BASE = PUBLIC | {"module/shared", "module/resources"}
 ALLOWED = {
+    "access": set(),
     "mfc": set(),
     "host/include": {"mfc"},
     "host": PUBLIC,

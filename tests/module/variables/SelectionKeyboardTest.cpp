@@ -33,7 +33,7 @@ TEST_F(SelectionKeyboard, WalksTheArrowsOverTheTabs)
                 [&] { EXPECT_TRUE(::IsWindowVisible(dialog.Page(Family::Power))); }});
 }
 
-TEST_F(SelectionKeyboard, WalksWithTabThroughEveryControlOfThePageAndBack)
+TEST_F(SelectionKeyboard, WalksWithTabFromRowToRow)
 {
     TestSelection dialog(m_device, m_names);
     std::vector<int> visited;
@@ -44,15 +44,12 @@ TEST_F(SelectionKeyboard, WalksWithTabThroughEveryControlOfThePageAndBack)
         });
     };
     dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, IDC_NET_COLUMN)); }, step(VK_TAB), step(VK_TAB),
-                step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB),
-                step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB), step(VK_TAB)});
-    EXPECT_THAT(visited, ElementsAre(IDC_NET_COLUMN, IDC_NET_COLUMN + 1, IDC_NET_COLUMN + 2, IDC_NET_COLUMN + 3,
-                                     IDC_LOAD_COLUMN, IDC_LOAD_COLUMN + 1, IDC_LOAD_COLUMN + 2, IDC_LOAD_COLUMN + 3,
-                                     IDC_GENERAL_CAPTION, IDC_GENERAL_NET_ROW, IDC_GENERAL_NET_BOX,
-                                     IDC_GENERAL_NET_BOX + 4, IDC_GENERAL_NET_BOX + 8, IDC_GENERAL_CAPTION + 1));
+                step(VK_TAB), step(VK_TAB), step(VK_TAB)});
+    EXPECT_THAT(visited, ElementsAre(IDC_NET_COLUMN, IDC_GENERAL_CAPTION, IDC_GENERAL_CAPTION + 1,
+                                     IDC_GENERAL_CAPTION + 2, IDC_GENERAL_CAPTION + 3));
 }
 
-TEST_F(SelectionKeyboard, LeavesThePageForTheTabsAndButtonsAndComesBack)
+TEST_F(SelectionKeyboard, LeavesThePageForTheButtonsAndTheTabsAndComesBack)
 {
     TestSelection dialog(m_device, m_names);
     std::vector<int> visited;
@@ -62,7 +59,7 @@ TEST_F(SelectionKeyboard, LeavesThePageForTheTabsAndButtonsAndComesBack)
     });
     dialog.Run({[&] { ::SetFocus(dialog.Control(Family::General, IDC_GENERAL_LOAD_BOX + 11)); }, step, step, step, step,
                 step});
-    EXPECT_THAT(visited, ElementsAre(IDC_GENERAL_LOAD_BOX + 11, IDC_SELECTVAR_TAB, IDOK, IDCANCEL, IDC_NET_COLUMN));
+    EXPECT_THAT(visited, ElementsAre(IDC_GENERAL_LOAD_BOX + 11, IDOK, IDCANCEL, IDC_SELECTVAR_TAB, IDC_NET_COLUMN));
 }
 
 TEST_F(SelectionKeyboard, ChecksABoxWithSpace)

@@ -6,12 +6,16 @@
 #include "DialogLayout.h"
 #include "SelectVarControls.h"
 #include "SelectionFixture.h"
+#include "WorkArea.h"
 
 namespace {
 
 using zep::Family;
 
-class SelectionLook : public SelectionTest {};
+class SelectionLook : public SelectionTest {
+private:
+    kztest::WorkArea m_screen{::GetModuleHandleW(L"KZUsrZEP.dll"), kztest::LargeScreenWidth, kztest::LargeScreenHeight};
+};
 
 TEST_F(SelectionLook, IsTidyOnEveryPageInBothLanguages)
 {

@@ -14,7 +14,8 @@ namespace kztest {
 
 class FakeAccessibility final : public IAccPropServices {
 public:
-    FakeAccessibility();
+    // importer: the program or library that asks for the service; null: the test program.
+    explicit FakeAccessibility(HMODULE importer = nullptr);
     ~FakeAccessibility() = default;
     FakeAccessibility(const FakeAccessibility&) = delete;
     FakeAccessibility& operator=(const FakeAccessibility&) = delete;

@@ -22,19 +22,24 @@ AccessibleNames::~AccessibleNames()
         ::CoUninitialize();
 }
 
-void AccessibleNames::Set(HWND window, const KZBasicString& name)
+void AccessibleNames::Set(HWND window, const std::wstring& name)
 {
-    if (!m_service || !window)
+    if (!window)
         return;
-    m_windows.push_back(window);
-    if (FAILED(m_service->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME,
-                                         name.c_str())))
-        m_windows.pop_back();
+    m_names[window] = name;
+    // A system that refuses one name refuses them all.
+    if (m_service && FAILED(m_service->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
+                                                      PROPID_ACC_NAME, name.c_str()))) {
+        m_service->Release();
+        m_service = nullptr;
+    }
 }
 
 void AccessibleNames::Clear() noexcept
 {
-    for (const HWND window : m_windows)
-        m_service->ClearHwndProps(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, &PROPID_ACC_NAME, 1);
-    m_windows.clear();
+    for (const auto& [window, name] : m_names) {
+        if (m_service)
+            m_service->ClearHwndProps(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, &PROPID_ACC_NAME, 1);
+    }
+    m_names.clear();
 }

@@ -19,7 +19,6 @@ HRESULT WINAPI OfferNothing(REFCLSID, LPUNKNOWN, DWORD, REFIID, LPVOID*)
     return REGDB_E_CLASSNOTREG;
 }
 
-// The dialogs are part of the test program, so it is the program that asks for the service.
 HMODULE Program() noexcept
 {
     return ::GetModuleHandleW(nullptr);
@@ -27,7 +26,8 @@ HMODULE Program() noexcept
 
 }  // namespace
 
-FakeAccessibility::FakeAccessibility() : m_patch(Program(), "CoCreateInstance", reinterpret_cast<void*>(Offer))
+FakeAccessibility::FakeAccessibility(HMODULE importer)
+    : m_patch(importer ? importer : Program(), "CoCreateInstance", reinterpret_cast<void*>(Offer))
 {
     offered = this;
 }
