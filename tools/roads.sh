@@ -50,21 +50,24 @@ show_tab() {
   until_control "$1" "$4" shown
 }
 
-# tab_to TITLE ID: presses Tab until the control has the focus. A Tab that was not seen to arrive is not pressed again, or
-# the focus could go past the control on a busy machine.
-tab_to() {
+# tab_to TITLE ID: presses Tab until the control has the focus
+tab_to() { walk_to "$1" "$2" Tab; }
+
+# walk_to TITLE ID KEY: presses the key until the control has the focus. A key that was not seen to arrive is not pressed
+# again, or the focus could go past the control on a busy machine.
+walk_to() {
   local focus before _
   focus=$(probe focus)
   for _ in $(seq 60); do
     if [ "$focus" = "$2" ]; then return; fi
     before=$focus
-    key Tab
+    key "$3"
     for _ in $(seq 1000); do
       focus=$(probe focus)
       if [ "$focus" != "$before" ]; then break; fi
     done
   done
-  desktop_die "Tab does not reach control $2 of \"$1\""
+  desktop_die "$3 does not reach control $2 of \"$1\""
 }
 
 # fill ID TEXT: puts the text into an edit box of the dialog that takes input

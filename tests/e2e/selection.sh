@@ -42,7 +42,8 @@ test_select_by_keyboard() {
   tab_to "$dialog" $IDC_NET_COLUMN
   key space
   until_control "$dialog" $((IDC_POWER_NET_BOX + 11)) checked
-  tab_to "$dialog" $((IDC_POWER_LOAD_BOX + 3))
+  tab_to "$dialog" $((IDC_POWER_CAPTION + 3))
+  walk_to "$dialog" $((IDC_POWER_LOAD_BOX + 3)) Right
   key space
   until_control "$dialog" $((IDC_POWER_LOAD_BOX + 3)) checked
   snapshot selection
