@@ -6,9 +6,16 @@
 
 namespace {
 
-pugi::xml_node Element(void* element) noexcept
+pugi::xml_node Handle(void* element) noexcept
 {
     return pugi::xml_node(static_cast<pugi::xml_node_struct*>(element));
+}
+
+void* ElementFrom(pugi::xml_node node) noexcept
+{
+    while (node && node.type() != pugi::node_element)
+        node = node.next_sibling();
+    return node.internal_object();
 }
 
 // A document that is nested deeper could not be read again.
@@ -22,6 +29,26 @@ bool MayHaveChildren(pugi::xml_node element) noexcept
 
 }  // namespace
 
+const wchar_t* XmlDocument::Element::Name() const noexcept
+{
+    return Handle(m_element).name();
+}
+
+const wchar_t* XmlDocument::Element::Text() const noexcept
+{
+    return TextOf(Handle(m_element));
+}
+
+XmlDocument::Element XmlDocument::Element::FirstChild() const noexcept
+{
+    return Element(ElementFrom(Handle(m_element).first_child()));
+}
+
+XmlDocument::Element XmlDocument::Element::NextSibling() const noexcept
+{
+    return Element(ElementFrom(Handle(m_element).next_sibling()));
+}
+
 XmlDocument::XmlNode::XmlNode(XmlDocument& document, void* element) noexcept : m_document(&document), m_element(element)
 {
 }
@@ -29,23 +56,23 @@ XmlDocument::XmlNode::XmlNode(XmlDocument& document, void* element) noexcept : m
 XmlDocument::XmlNode* XmlDocument::XmlNode::Wrap(void* element) const
 {
     State& state = *m_document->m_state;
-    return state.Edit([&] { return state.NodeOf(*m_document, Element(element)); });
+    return state.Edit([&] { return state.NodeOf(*m_document, Handle(element)); });
 }
 
 const wchar_t* XmlDocument::XmlNode::Name() const noexcept
 {
-    return Element(m_element).name();
+    return Handle(m_element).name();
 }
 
 const wchar_t* XmlDocument::XmlNode::Value(const wchar_t* path, const wchar_t* defaultText) const noexcept
 {
-    const pugi::xml_node value = FindElement(Element(m_element), path, m_document->m_state->indexes);
+    const pugi::xml_node value = FindElement(Handle(m_element), path, m_document->m_state->indexes);
     return value ? TextOf(value) : defaultText;
 }
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::Node(const wchar_t* path) const
 {
-    return Wrap(FindElement(Element(m_element), path, m_document->m_state->indexes).internal_object());
+    return Wrap(FindElement(Handle(m_element), path, m_document->m_state->indexes).internal_object());
 }
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::NodeV(const wchar_t* format, ...) const
@@ -59,8 +86,8 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::NodeV(const wchar_t* format, ...) co
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::NewChild(const wchar_t* name, XmlNode* before)
 {
-    const pugi::xml_node parent = Element(m_element);
-    const pugi::xml_node successor = before ? Element(before->m_element) : pugi::xml_node();
+    const pugi::xml_node parent = Handle(m_element);
+    const pugi::xml_node successor = before ? Handle(before->m_element) : pugi::xml_node();
     State& state = *m_document->m_state;
     return state.Edit([&]() -> XmlNode* {
         if (!name || !IsElementName(name) || (before && successor.parent() != parent) || !MayHaveChildren(parent))
@@ -76,9 +103,9 @@ bool XmlDocument::XmlNode::RemoveChild(XmlNode* child)
 {
     State& state = *m_document->m_state;
     return state.Edit([&] {
-        if (!child || Element(child->m_element).parent() != Element(m_element))
+        if (!child || Handle(child->m_element).parent() != Handle(m_element))
             return false;
-        state.edit.Remove(Element(child->m_element));
+        state.edit.Remove(Handle(child->m_element));
         state.indexes.Clear();
         state.Changed();
         return true;
@@ -91,7 +118,7 @@ bool XmlDocument::XmlNode::SetValue(const wchar_t* name, const wchar_t* text)
     return state.Edit([&] {
         if (!name || !IsElementName(name))
             return false;
-        const pugi::xml_node element = Element(m_element);
+        const pugi::xml_node element = Handle(m_element);
         pugi::xml_node value = ChildElement(element, name);
         const bool isNew = !value;
         if (isNew && !MayHaveChildren(element))
@@ -116,10 +143,10 @@ bool XmlDocument::XmlNode::SetValue(const wchar_t* name, int value)
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::FirstChild(const wchar_t* name) const
 {
-    return name ? Wrap(ChildElement(Element(m_element), name).internal_object()) : nullptr;
+    return name ? Wrap(ChildElement(Handle(m_element), name).internal_object()) : nullptr;
 }
 
 XmlDocument::XmlNode* XmlDocument::XmlNode::NextSibling(const wchar_t* name) const
 {
-    return name ? Wrap(NextElement(Element(m_element), name).internal_object()) : nullptr;
+    return name ? Wrap(NextElement(Handle(m_element), name).internal_object()) : nullptr;
 }

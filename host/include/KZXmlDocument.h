@@ -33,6 +33,25 @@ protected:
 
 class KZ_API XmlDocument {
 public:
+    // A look at an element, for passing over many of them: unlike an XmlNode it costs no memory. An empty one has no
+    // name, text or children. Valid until the document changes.
+    class KZ_API Element {
+    public:
+        Element() = default;
+        [[nodiscard]] explicit operator bool() const noexcept { return m_element != nullptr; }
+        [[nodiscard]] const wchar_t* Name() const noexcept;
+        // As XmlNode::Value gives it.
+        [[nodiscard]] const wchar_t* Text() const noexcept;
+        // Elements of any name; empty when there is none.
+        [[nodiscard]] Element FirstChild() const noexcept;
+        [[nodiscard]] Element NextSibling() const noexcept;
+
+    private:
+        friend class XmlDocument;
+        explicit Element(void* element) noexcept : m_element(element) {}
+        void* m_element = nullptr;
+    };
+
     class KZ_API XmlNode {
     public:
         // The element's name; valid until the next Parse or Load.
@@ -67,6 +86,8 @@ public:
         // Takes a child element out, with all that is in it and the blanks that put it on a line of its own; its
         // XmlNodes are then invalid. Returns false, changing nothing, when it is no child of this element or null.
         bool RemoveChild(XmlNode* child);
+
+        [[nodiscard]] Element Look() const noexcept { return Element(m_element); }
 
         // First child and next sibling with the given element name, or null.
         [[nodiscard]] XmlNode* FirstChild(const wchar_t* name) const;

@@ -17,7 +17,8 @@ UnitChoice ReadUnit(const XmlDocument::XmlNode& unit)
 
 XmlDocument::XmlNode& WriteUnit(XmlDocument::XmlNode& setup, PowerUnit name, const UnitChoice& choice)
 {
-    XmlDocument::XmlNode& unit = ChildOrNew(setup, L"unit", L"name", PowerUnitNames[static_cast<std::size_t>(name)]);
+    XmlDocument::XmlNode& unit =
+        ChildOrNew(setup, UnitElement, UnitName, PowerUnitNames[static_cast<std::size_t>(name)]);
     unit.SetValue(DecimalsName, choice.decimals);
     unit.SetValue(FactorName, FactorOf(choice.scale));
     return unit;
@@ -43,7 +44,7 @@ const wchar_t* FactorOf(int scale) noexcept
 
 XmlDocument::XmlNode* FindUnit(const XmlDocument::XmlNode& setup, PowerUnit unit)
 {
-    return setup.NodeV(L"unit?name=%s?", PowerUnitNames[static_cast<std::size_t>(unit)]);
+    return setup.NodeV(L"%s?%s=%s?", UnitElement, UnitName, PowerUnitNames[static_cast<std::size_t>(unit)]);
 }
 
 UnitsRecord::UnitsRecord(XmlDocument& configuration, const KZBasicString& driverId)

@@ -37,7 +37,9 @@ struct UnitChoice {
 
 using UnitChoices = std::array<UnitChoice, PowerUnitCount>;
 
-// The named values of a unit, and what they are in a unit that lacks them.
+inline constexpr const wchar_t* UnitElement = L"unit";
+inline constexpr const wchar_t* UnitName = L"name";
+// The other named values of a unit, and what they are in a unit that lacks them.
 inline constexpr const wchar_t* DecimalsName = L"decimals";
 inline constexpr const wchar_t* DecimalsDefault = L"1";
 inline constexpr const wchar_t* FactorName = L"factor";

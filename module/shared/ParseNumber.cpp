@@ -1,5 +1,6 @@
 #include "ParseNumber.h"
 
+#include <charconv>
 #include <clocale>
 #include <cstdlib>
 #include <string>
@@ -21,6 +22,12 @@ double ParseNumber(const wchar_t* text)
         else
             break;
     }
+    // Nearly all are digits and a point, for which this takes a fraction of the time.
+    double number = 0.0;
+    const char* const last = copy.data() + copy.size();
+    const auto [end, error] = std::from_chars(copy.data(), last, number, std::chars_format::fixed);
+    if (separator == "." && error == std::errc{} && end == last)
+        return number;
     return std::strtod(copy.c_str(), nullptr);
 }
 

@@ -1,6 +1,6 @@
 #include "DeviceRecords.h"
 
-#include <algorithm>
+#include <cwchar>
 
 #include "FieldValue.h"
 #include "InformationRecord.h"
@@ -11,55 +11,106 @@ namespace plant {
 
 namespace {
 
-using Node = XmlDocument::XmlNode;
+using Element = XmlDocument::Element;
 
-// The first element of a variable counts, as everywhere in the documents.
-void FindChecks(const Node* setup, std::vector<const Node*>& checks)
+bool Is(const wchar_t* text, const wchar_t* other) noexcept
 {
-    checks.assign(LimitVariables().size(), nullptr);
-    for (const Node* check = setup ? setup->FirstChild(zep::CheckElement) : nullptr; check;
-         check = check->NextSibling(zep::CheckElement)) {
-        const auto part = FindLimitVariable(check->Value(zep::CheckVariable, L""));
-        if (part && !checks[*part])
-            checks[*part] = check;
-    }
+    return std::wcscmp(text, other) == 0;
+}
+
+// The first of a name counts, as everywhere in the documents.
+Element FirstNamed(Element parent, const wchar_t* name) noexcept
+{
+    Element child = parent.FirstChild();
+    while (child && !Is(child.Name(), name))
+        child = child.NextSibling();
+    return child;
+}
+
+Element LookAt(const XmlDocument::XmlNode* node) noexcept
+{
+    return node ? node->Look() : Element();
 }
 
 }  // namespace
 
-void DeviceRecords::Find(const XmlDocument& main, const Node* device, const KZBasicString& driverId)
+DeviceRecords::DeviceRecords(const FieldTable& table)
+    : m_table(table), m_checks(LimitVariables().size()), m_otherwise(table.size()), m_isFound(LimitVariables().size())
 {
-    m_information = device ? device->Node(zep::InformationElement) : nullptr;
-    const Node* const units = zep::FindSetup(main, zep::UnitSetups, driverId);
-    for (std::size_t unit = 0; unit < m_units.size(); ++unit)
-        m_units[unit] = units ? zep::FindUnit(*units, static_cast<zep::PowerUnit>(unit)) : nullptr;
-    FindChecks(zep::FindSetup(main, zep::ViewSetups, driverId), m_checks);
-    for (const Field& field : m_table) {
-        const Place place = PlaceOf(field);
-        const wchar_t* const text = place.element ? place.element->Value(place.name, nullptr) : nullptr;
-        m_texts[field.row] = {text ? text : place.otherwise, text != nullptr};
-    }
+    for (const Field& field : table)
+        AddRow(field);
 }
 
-DeviceRecords::Place DeviceRecords::PlaceOf(const Field& field) const noexcept
+void DeviceRecords::AddRow(const Field& field)
 {
     switch (field.section) {
     case FieldSection::Device: {
         const zep::InformationFieldInfo& info = zep::InformationFields[field.part];
-        return {m_information, info.name, info.defaultText};
+        m_information.push_back({info.name, field.row});
+        m_otherwise[field.row].text = info.defaultText;
+        break;
     }
     case FieldSection::Units: {
-        const Node* const unit = m_units[field.part];
-        if (field.item == static_cast<std::size_t>(UnitItem::Decimals))
-            return {unit, zep::DecimalsName, zep::DecimalsDefault};
+        const bool isDecimals = field.item == static_cast<std::size_t>(UnitItem::Decimals);
+        m_units[field.part].push_back({isDecimals ? zep::DecimalsName : zep::FactorName, field.row});
         // A unit that is missing is plain, one that lacks its factor is not.
-        return {unit, zep::FactorName, unit ? zep::FactorDefault : zep::FactorOf(zep::UnitChoice{}.scale)};
+        m_otherwise[field.row].text = isDecimals ? zep::DecimalsDefault : zep::FactorOf(zep::UnitChoice{}.scale);
+        break;
     }
-    default: {
-        const zep::LimitsTable& table = *LimitVariables()[field.part].table;
-        return {m_checks[field.part], zep::LimitFieldNames[field.item],
-                table.DefaultOf(static_cast<zep::LimitField>(field.item))};
+    default:
+        m_checks[field.part].push_back({zep::LimitFieldNames[field.item], field.row});
+        m_otherwise[field.row].text =
+            LimitVariables()[field.part].table->DefaultOf(static_cast<zep::LimitField>(field.item));
     }
+}
+
+void DeviceRecords::Find(const XmlDocument& main, const XmlDocument::XmlNode* device, const KZBasicString& driverId)
+{
+    m_texts = m_otherwise;
+    Take(FirstNamed(LookAt(device), zep::InformationElement), m_information);
+    TakeUnits(LookAt(zep::FindSetup(main, zep::UnitSetups, driverId)));
+    TakeLimits(LookAt(zep::FindSetup(main, zep::ViewSetups, driverId)));
+}
+
+// In one pass over the element, of which most children are fields.
+void DeviceRecords::Take(Element element, const Record& record)
+{
+    for (Element value = element.FirstChild(); value; value = value.NextSibling()) {
+        const wchar_t* const name = value.Name();
+        for (const Named& named : record)
+            if (!m_texts[named.row].isStored && Is(name, named.name))
+                m_texts[named.row] = {value.Text(), true};
+    }
+}
+
+void DeviceRecords::TakeUnits(Element setup)
+{
+    std::array<bool, zep::PowerUnitCount> isFound{};
+    for (Element unit = setup.FirstChild(); unit; unit = unit.NextSibling()) {
+        const Element name = Is(unit.Name(), zep::UnitElement) ? FirstNamed(unit, zep::UnitName) : Element();
+        for (std::size_t i = 0; name && i < m_units.size(); ++i) {
+            if (isFound[i] || !Is(name.Text(), zep::PowerUnitNames[i]))
+                continue;
+            isFound[i] = true;
+            for (const Named& value : m_units[i])
+                if (Is(value.name, zep::FactorName))
+                    m_texts[value.row].text = zep::FactorDefault;
+            Take(unit, m_units[i]);
+        }
+    }
+}
+
+void DeviceRecords::TakeLimits(Element setup)
+{
+    m_isFound.assign(m_isFound.size(), false);
+    for (Element check = setup.FirstChild(); check; check = check.NextSibling()) {
+        if (!Is(check.Name(), zep::CheckElement))
+            continue;
+        const auto variable = FindLimitVariable(FirstNamed(check, zep::CheckVariable).Text());
+        if (!variable || m_isFound[*variable])
+            continue;
+        m_isFound[*variable] = true;
+        Take(check, m_checks[*variable]);
     }
 }
 

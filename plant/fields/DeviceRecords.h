@@ -14,7 +14,7 @@ namespace plant {
 // Reads many devices one after the other without asking for memory each time.
 class DeviceRecords {
 public:
-    explicit DeviceRecords(const FieldTable& table) : m_table(table), m_texts(table.size()) {}
+    explicit DeviceRecords(const FieldTable& table);
 
     // Looks the device up in the main configuration document and in the root element of its own, or of none. The
     // documents must stay unchanged as long as their values are asked for.
@@ -35,19 +35,25 @@ private:
         const wchar_t* text = L"";
         bool isStored = false;
     };
-    // Of a field: the element that holds it or null, the name of its value there, the text when it is not there.
-    struct Place {
-        const XmlDocument::XmlNode* element;
+    // The named values of a record that are fields.
+    struct Named {
         const wchar_t* name;
-        const wchar_t* otherwise;
+        std::size_t row;
     };
-    [[nodiscard]] Place PlaceOf(const Field& field) const noexcept;
+    using Record = std::vector<Named>;
+
+    void AddRow(const Field& field);
+    void Take(XmlDocument::Element element, const Record& record);
+    void TakeUnits(XmlDocument::Element setup);
+    void TakeLimits(XmlDocument::Element setup);
 
     const FieldTable& m_table;
+    Record m_information;
+    std::array<Record, zep::PowerUnitCount> m_units;
+    std::vector<Record> m_checks;         // by limit variable
+    std::vector<StoredText> m_otherwise;  // by row, as m_texts
     std::vector<StoredText> m_texts;
-    const XmlDocument::XmlNode* m_information = nullptr;
-    std::array<const XmlDocument::XmlNode*, zep::PowerUnitCount> m_units{};
-    std::vector<const XmlDocument::XmlNode*> m_checks;  // by limit variable
+    std::vector<bool> m_isFound;  // by limit variable
 };
 
 }  // namespace plant
