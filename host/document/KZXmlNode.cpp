@@ -2,6 +2,7 @@
 
 #include "../text/WideFormat.h"
 #include "DocumentState.h"
+#include "Indentation.h"
 #include "QueryPath.h"
 
 namespace {
@@ -16,6 +17,31 @@ void* ElementFrom(pugi::xml_node node) noexcept
     while (node && node.type() != pugi::node_element)
         node = node.next_sibling();
     return node.internal_object();
+}
+
+// FNV-1a, with the end of each text in it.
+void Mix(std::uint64_t& hash, const wchar_t* text) noexcept
+{
+    constexpr std::uint64_t prime = 0x100000001B3;
+    do
+        hash = (hash ^ static_cast<std::uint64_t>(*text)) * prime;
+    while (*text++);
+}
+
+void Mix(std::uint64_t& hash, pugi::xml_node element) noexcept
+{
+    Mix(hash, element.name());
+    for (const pugi::xml_attribute attribute : element.attributes()) {
+        Mix(hash, attribute.name());
+        Mix(hash, attribute.value());
+    }
+    for (const pugi::xml_node child : element) {
+        if (child.type() == pugi::node_element)
+            Mix(hash, child);
+        else if (child.type() == pugi::node_cdata || (child.type() == pugi::node_pcdata && !IsBlankText(child)))
+            Mix(hash, child.value());
+    }
+    Mix(hash, L"");
 }
 
 // A document that is nested deeper could not be read again.
@@ -149,4 +175,11 @@ XmlDocument::XmlNode* XmlDocument::XmlNode::FirstChild(const wchar_t* name) cons
 XmlDocument::XmlNode* XmlDocument::XmlNode::NextSibling(const wchar_t* name) const
 {
     return name ? Wrap(NextElement(Handle(m_element), name).internal_object()) : nullptr;
+}
+
+std::uint64_t XmlDocument::XmlNode::Fingerprint() const noexcept
+{
+    std::uint64_t hash = 0xCBF29CE484222325;
+    Mix(hash, Handle(m_element));
+    return hash;
 }

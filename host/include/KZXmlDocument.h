@@ -1,6 +1,7 @@
 // The host's configuration documents: an element tree whose named values are child elements with text.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -92,6 +93,10 @@ public:
         // First child and next sibling with the given element name, or null.
         [[nodiscard]] XmlNode* FirstChild(const wchar_t* name) const;
         [[nodiscard]] XmlNode* NextSibling(const wchar_t* name) const;
+
+        // A number that elements of the same names, attributes and texts have in common; texts of blanks alone and
+        // comments do not count. It tells changes, not attacks.
+        [[nodiscard]] std::uint64_t Fingerprint() const noexcept;
 
         XmlNode(const XmlNode&) = delete;
         XmlNode& operator=(const XmlNode&) = delete;

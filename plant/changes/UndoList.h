@@ -14,7 +14,7 @@
 
 namespace plant {
 
-class UndoList {
+class UndoList final : private ProjectListener {
 public:
     // At most so many steps are kept and at most so many bytes in them, but never fewer than the least number of steps.
     static constexpr std::size_t MostSteps = 1'000;
@@ -34,8 +34,9 @@ public:
     //   driverIds  the devices whose values, chosen variables or documents the change may touch, new ones included
     //   change     may show dialogs. When it throws, what it has changed is taken back, but for what it has saved, and
     //              the exception goes on to the caller.
-    // Returns whether something is different. Throws std::bad_alloc, with nothing changed. Where the memory for the
-    // step alone is missing, the change stays and the list is empty.
+    // Returns whether something is different. Throws Refusal, before anything is changed, when the project is read-only
+    // or a document cannot be read, and std::bad_alloc, with nothing changed. Where the memory for the step alone is
+    // missing, the change stays and the list is empty.
     bool Do(Message name, std::span<const KZBasicString> driverIds, const std::function<void()>& change);
 
     [[nodiscard]] bool CanUndo() const noexcept { return m_position > 0; }
@@ -58,11 +59,19 @@ public:
 
 private:
     struct Step;
+    void Make(const Step& step, const std::function<void()>& change);
+    void TakeBackHalf(const Step& step, Change& pending) noexcept;
+    [[nodiscard]] bool FillIn(Step& step) noexcept;
+    void Keep(std::unique_ptr<Step> step) noexcept;
+    bool Go(Step& step, bool isBack);
+    bool GoInMain(Step& step, bool isBack) noexcept;
+    void TellOf(const Step& step) noexcept;
+    void OnProjectChanged(const ProjectChange& change) noexcept override;
+
     Project& m_project;
     std::deque<std::unique_ptr<Step>> m_steps;
     std::size_t m_position = 0;  // behind the step that would be undone
     std::size_t m_bytes = 0;
-    bool m_isDoing = false;
 };
 
 }  // namespace plant

@@ -5,7 +5,6 @@
 #include "Commit.h"
 #include "DocumentName.h"
 #include "KZMainCfg.h"
-#include "ProjectFolder.h"
 #include "StoredProject.h"
 
 namespace plant {
@@ -34,11 +33,6 @@ Project::Project(const Path& folder, Disk& disk, MainIs main)
 Project::~Project()
 {
     KZMainCfg::Get()->SetCommitListener(nullptr);
-}
-
-void Project::OnCommit(XmlDocument&) noexcept
-{
-    ProtectOrTell();
 }
 
 std::string Project::ReadMain(SeenDocuments& seen) const
@@ -87,19 +81,6 @@ std::size_t Project::DeviceByName(std::wstring_view name) const
 std::size_t Project::DeviceByNameOrId(std::wstring_view text) const
 {
     return plant::DeviceByNameOrId(m_devices, text, m_folder / MainDocument);
-}
-
-bool Project::IsReadOnly()
-{
-    if (!m_isReadOnly)
-        m_isReadOnly = !CanBeWritten(m_disk, m_folder);
-    return *m_isReadOnly;
-}
-
-void Project::RequireWritable()
-{
-    if (IsReadOnly())
-        throw Refusal(IDS_PLANT_PROJECT_READ_ONLY, {Shown(m_folder)});
 }
 
 void Project::ReadDevice(const std::string& name, XmlDocument& document, SeenDocuments& seen) const
@@ -153,42 +134,6 @@ Project::Outcome Project::WriteDocument(const std::string& name, const XmlDocume
     return Write({{name, document.Serialize()}}, cause);
 }
 
-void Project::Discard() noexcept
-{
-    m_recovery.Remove();
-}
-
-void Project::Protect()
-{
-    Protect(Waiting(), m_seen);
-}
-
-void Project::Protect(Change waiting, const SeenDocuments& seen)
-{
-    if (waiting.empty())
-        return m_recovery.Remove();
-    Unsaved unsaved{m_disk.Now(), std::move(waiting), {}};
-    for (const auto& [name, bytes] : unsaved.documents)
-        unsaved.before[name] = seen.HashSeen(name);
-    m_recovery.Store(unsaved);
-}
-
-void Project::ProtectOrTell() noexcept
-{
-    Message why{IDS_PLANT_NO_MEMORY, {}};
-    try {
-        try {
-            return Protect();
-        } catch (const Refusal& refusal) {
-            why = refusal.What();
-        }
-    } catch (const std::exception&) {
-        // The message for that needs no memory.
-    }
-    if (m_user)
-        m_user->TellUnprotected(why);
-}
-
 std::vector<HistoryEntry> Project::Entries()
 {
     try {
@@ -233,6 +178,7 @@ Change Project::Restore(int number, bool dryRun)
     }
     m_seen.Replace(std::move(seen));
     ProtectOrTell();
+    TellAll();
     return change;
 }
 
@@ -276,6 +222,7 @@ void Project::Recover(FoundRecovery& found)
     if (main)
         KZMainCfg::Get()->SetDirty(true);
     plant::Discard(found);
+    TellAll();
 }
 
 }  // namespace plant

@@ -1,7 +1,6 @@
 // A project: a folder with the main configuration document and one document per device, as saved and as changed since.
 #pragma once
 
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,10 +8,12 @@
 #include "Change.h"
 #include "DeviceList.h"
 #include "Disk.h"
+#include "DocumentFiles.h"
 #include "History.h"
 #include "ProjectListener.h"
 #include "ProjectLock.h"
 #include "Recovery.h"
+#include "SavedDevices.h"
 #include "SeenDocuments.h"
 #include "text/Refusal.h"
 
@@ -66,10 +67,18 @@ public:
     // Throws Refusal when it is so.
     void RequireWritable();
 
-    // The driverIds of the devices that differ from what the files hold, those that were added or removed among them.
-    // Cheap to ask.
-    using DriverIds = std::set<KZBasicString>;
-    [[nodiscard]] const DriverIds& ChangedDevices();
+    // The devices that differ from what the files hold, those that were added or removed among them, as far as they
+    // were changed inside UndoList::Do. Cheap to ask, but for the first time after a recovery, which reads the main
+    // configuration document again.
+    [[nodiscard]] const DriverIds& ChangedDevices() noexcept;
+
+    // When what is unsaved goes into the recovery file: with every change, or when the owner says so, because that
+    // takes long in a large project.
+    enum class Protection { AtOnce, WhenAsked };
+    void SetProtection(Protection when) noexcept { m_protection = when; }
+    // Whether something unsaved is not in the recovery file yet; and puts it there, or tells the user why not.
+    [[nodiscard]] bool IsProtectionDue() const noexcept { return m_isProtectionDue; }
+    void ProtectIfDue() noexcept;
 
     // Reads a device's document as it is now, saved or not, into one with the root element "device". A document that is
     // missing or empty is that of a device that nobody has set up yet: it leaves the document as it is. Throws Refusal.
@@ -90,6 +99,18 @@ public:
     // Writes these device documents, and the main configuration document if it is changed, together with all that is
     // not saved. On failure everything on disk is as it was, and these are unsaved changes too.
     Outcome SaveTogether(Change devices, bool isMainChanged, const std::string& cause);
+    // Makes unsaved changes: of device documents, and of the main configuration document if it was changed in place.
+    void KeepUnsaved(Change devices, bool isMainChanged) noexcept;
+    // The device list of the main configuration document was changed in place. Throws Refusal when it could not be
+    // opened like this, and std::bad_alloc; the list is then as it was.
+    void ReadDevicesAnew();
+    // A document as it is now, saved or not; nothing for none. Throws Refusal when it cannot be read.
+    [[nodiscard]] std::optional<std::string> Content(const std::string& name);
+    // Every document that there is on disk. Throws Refusal.
+    [[nodiscard]] DocumentFiles FilesOnDisk() const { return DocumentFilesIn(m_disk, m_folder); }
+    // The device documents that are changed and not saved.
+    [[nodiscard]] const Change& Pending() const noexcept { return m_pending; }
+
     // What is not saved needs no protection any more: the user does not want it.
     void Discard() noexcept;
     // Puts what is not saved into the recovery file. Throws Refusal.
@@ -117,6 +138,14 @@ public:
     void Recover(FoundRecovery& found);
 
 private:
+    friend class UndoList;
+
+    // While UndoList makes a change.
+    struct Doing {
+        bool isAll = false;                            // other documents were read
+        std::optional<DeviceList> devicesBefore = {};  // when they were read anew
+    };
+
     // Documents as another program has written them, read and found in order.
     struct Theirs {
         std::vector<std::string> names;
@@ -142,9 +171,17 @@ private:
     void Written(const Change& documents) noexcept;
     void Protect(Change waiting, const SeenDocuments& seen);
     void ProtectOrTell() noexcept;
+    void ProtectNow() noexcept;
     [[nodiscard]] Theirs LookAt(const std::vector<std::string>& documents) const;
     void Take(Theirs theirs);
     void OnCommit(XmlDocument& document) noexcept override;
+    void Tell(const ProjectChange& change) noexcept;
+    void TellAll() noexcept;
+    [[nodiscard]] std::optional<std::uint64_t> HashNow(const std::string& name) const;
+    [[nodiscard]] DocumentHashes HashesNow() const;
+    void RememberSaved(std::span<const KZBasicString> driverIds);
+    void CompareSaved(std::span<const KZBasicString> driverIds) noexcept;
+    void LearnSaved();
 
     Disk& m_disk;
     Path m_folder;
@@ -157,6 +194,10 @@ private:
     ProjectUser* m_user = nullptr;
     std::vector<ProjectListener*> m_listeners;
     std::optional<bool> m_isReadOnly;
+    SavedDevices m_savedDevices;
+    std::optional<Doing> m_doing;
+    Protection m_protection = Protection::AtOnce;
+    bool m_isProtectionDue = false;
 };
 
 }  // namespace plant

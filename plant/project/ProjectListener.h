@@ -13,7 +13,7 @@ struct ProjectChange {
     // Devices came, went or are called otherwise: places in Project::Devices() count no longer.
     bool isListChanged = false;
     // The devices whose values, chosen variables or documents may differ now, those that came or went among them.
-    std::span<const KZBasicString> driverIds;
+    std::span<const KZBasicString> driverIds = {};
 };
 
 // A call with none of these says that something was saved. After every call Project::IsDirty, ChangedDevices and what

@@ -44,12 +44,6 @@ Project::Outcome Project::Write(Change change, const std::string& cause)
 // What is written at once needs no protection before.
 Project::Outcome Project::SaveTogether(Change devices, bool isMainChanged, const std::string& cause)
 {
-    const auto keep = [&]() noexcept {
-        devices.merge(m_pending);
-        m_pending = std::move(devices);
-        if (isMainChanged)
-            KZMainCfg::Get()->SetDirty(true);
-    };
     try {
         Change documents = devices;
         documents.merge(Waiting());
@@ -57,10 +51,10 @@ Project::Outcome Project::SaveTogether(Change devices, bool isMainChanged, const
             documents[std::string(MainDocument)] = KZMainCfg::Get()->Serialize();
         const Outcome outcome = Write(std::move(documents), cause);
         if (outcome == Outcome::Cancelled)
-            keep();
+            KeepUnsaved(std::move(devices), isMainChanged);
         return outcome;
     } catch (...) {
-        keep();
+        KeepUnsaved(std::move(devices), isMainChanged);
         throw;
     }
 }
@@ -141,7 +135,12 @@ void Project::Written(const Change& documents) noexcept
         else
             m_pending.erase(name);
     }
+    if (IsDirty())
+        m_savedDevices.Saved(*KZMainCfg::Get(), documents, HashesNow());
+    else
+        m_savedDevices.AllSaved();
     ProtectOrTell();
+    Tell({});
 }
 
 Project::Theirs Project::LookAt(const std::vector<std::string>& documents) const
@@ -166,6 +165,7 @@ void Project::Take(Theirs theirs)
     for (const std::string& name : theirs.names)
         m_pending.erase(name);
     ProtectOrTell();
+    TellAll();
 }
 
 void Project::TakeTheirs(const std::vector<std::string>& documents)

@@ -73,6 +73,12 @@ std::optional<std::uint64_t> SeenDocuments::HashSeen(const std::string& name) co
     return seen == m_seen.end() ? std::nullopt : seen->second.hash;
 }
 
+bool SeenDocuments::Saw(const std::string& name, const std::optional<std::string>& bytes) const
+{
+    const auto seen = m_seen.find(name);
+    return seen != m_seen.end() && seen->second.hash == DocumentHash(bytes);
+}
+
 void SeenDocuments::LookAgain(const std::string& name, Seen& seen, ForeignChanges& changed) const
 {
     const Path file = FileOf(m_project, name);

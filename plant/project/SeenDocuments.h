@@ -34,6 +34,9 @@ public:
     // The hash of what was seen; nothing when there was no file or nobody has looked.
     [[nodiscard]] std::optional<std::uint64_t> HashSeen(const std::string& name) const;
 
+    // Whether a document was last seen to be these bytes, or to be missing.
+    [[nodiscard]] bool Saw(const std::string& name, const std::optional<std::string>& bytes) const;
+
     // Whether a document with this hash, or none, is something else than what was seen. Where nobody has looked, every
     // document is.
     [[nodiscard]] bool Differs(const std::string& name, const std::optional<std::uint64_t>& hash) const;

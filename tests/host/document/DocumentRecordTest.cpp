@@ -162,6 +162,19 @@ TEST_F(Recording, IsRefusedWhereTheDocumentIsAnotherByNow)
     EXPECT_EQ(change->Size(), change->Size()) << "it has outlived what it was made of";
 }
 
+TEST(Fingerprint, IsOfNamesAttributesAndTexts)
+{
+    const auto of = [](const char* text) {
+        XmlDocument document(L"r");
+        EXPECT_TRUE(document.Parse(text)) << text;
+        return document.Root()->Fingerprint();
+    };
+    EXPECT_EQ(of("<r><a>1</a></r>"), of("<r>\n  <a>&#49;</a><!-- c -->\n</r>"));
+    for (const char* other : {"<r><a>2</a></r>", "<r><b>1</b></r>", "<r><a b='1'>1</a></r>", "<r><a>1</a><a/></r>",
+                              "<r><a><a>1</a></a></r>", "<r><a>1</a>1</r>", "<r><a></a>1</r>"})
+        EXPECT_NE(of("<r><a>1</a></r>"), of(other)) << other;
+}
+
 // Any changes, some of them unwanted, walked back and forth beside the bytes that each has left.
 class RandomRecordings : public testing::TestWithParam<unsigned> {
 protected:
