@@ -24,12 +24,11 @@ public:
 
 protected:
     // Makes a column as wide as its texts, but no narrower than its own width.
-    void FitToTexts(int column);
+    virtual void FitToTexts(int column);
+    [[nodiscard]] int OwnWidth(int column) const;
     [[nodiscard]] int ColumnCount() const noexcept { return static_cast<int>(m_columns.size()); }
 
 private:
-    [[nodiscard]] int OwnWidth(int column) const;
-
     std::span<const ReportColumn> m_columns;
     int m_nStretching = 0;
 };

@@ -15,7 +15,7 @@ constexpr struct {
 } Blocks[] = {
     {IDS_NO_HOST_STRING, IDS_DIAGNOSIS_FONT},
     {IDS_MENU_FILE, IDS_MENU_HELP},
-    {IDS_LIST_COPY, IDS_REMOVE_OK},
+    {IDS_LIST_COPY, IDS_ASK_TO_SAVE},
 };
 
 // The conversions of a printf format, in their order.

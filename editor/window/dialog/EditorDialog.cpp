@@ -105,11 +105,15 @@ void EditorDialog::AddField(KZLayout& page, int label, int field, int unit)
     KZLayout& row = AddRow(page, KZSizeEditLine);
     row.AddControl(label, 40);
     row.AddGap(KZSizeEditLine);
-    row.AddControl(field, 60);
-    if (unit != 0) {
-        row.AddGap(KZSizeEditLine);
-        row.AddControl(unit, KZSizeNatural);
+    if (unit == 0) {
+        row.AddControl(field, 60);
+        return;
     }
+    KZLayout& both = m_rows.emplace_back();
+    both.AddControl(field, 100);
+    both.AddGap(KZSizeEditLine);
+    both.AddControl(unit, KZSizeNatural);
+    row.AddLayout(both, 60);
 }
 
 void EditorDialog::AddLabelled(KZLayout& page, int label, int control, int share)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,12 @@ public:
 
     // Gives the list its columns, which must live as long as it, and what tells its texts.
     void SetUp(std::span<const ReportColumn> columns, int stretching, Text text);
+
+    // Gives each row a check box, or none where the state is nothing. Clicks and Space ask to toggle it; Space does so
+    // for all marked rows, to what the row with the focus then has.
+    using IsChecked = std::function<std::optional<bool>(int row)>;
+    using Check = std::function<void(int row, bool isChecked)>;
+    void SetCheckBoxes(IsChecked isChecked, Check check);
 
     // There are that many rows now, all with new texts.
     void ShowRows(int count);
@@ -27,14 +34,21 @@ public:
     bool Answer(const NMHDR& header, LRESULT& result);
 
 protected:
+    // By the first rows alone, however many there are.
+    void FitToTexts(int column) override;
+
     afx_msg LRESULT OnKeyDown(WPARAM key, LPARAM lParam);
     afx_msg LRESULT OnContextMenu(WPARAM wParam, LPARAM place);
+    afx_msg LRESULT OnButtonDown(WPARAM wParam, LPARAM place);
 
     DECLARE_MESSAGE_MAP()
 
 private:
     void CopyMarked();
     void MarkAll();
+    void ToggleMarked();
 
     Text m_text;
+    IsChecked m_isChecked;
+    Check m_check;
 };

@@ -2,6 +2,7 @@
 #include <commctrl.h>
 
 #include "DialogFixture.h"
+#include "ListCells.h"
 #include "text/EditorText.h"
 #include "text/PlantMessage.h"
 #include "window/add/AddDeviceControls.h"
@@ -23,17 +24,6 @@ const plant::Message NameUsed{IDS_PLANT_NAME_USED, {L"CPD"}};
 plant::EntryRefusals RefuseWhen(bool isRefused, DeviceEntry entry)
 {
     return isRefused ? plant::EntryRefusals{{0, entry, NameUsed}} : plant::EntryRefusals();
-}
-
-std::wstring CellOf(HWND list, int row, int column)
-{
-    wchar_t text[256] = L"";
-    LVITEMW item{};
-    item.iSubItem = column;
-    item.pszText = text;
-    item.cchTextMax = 256;
-    ::SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    return text;
 }
 
 class AddDeviceDialogTest : public DialogTest {
@@ -152,8 +142,8 @@ TEST_F(DuplicateDeviceDialogTest, ShowsTheDevicesAsTheyAreTyped)
                       kztest::SetText(window, IDC_DUPLICATE_COUNT, L"12");
                       kztest::SetText(window, IDC_DUPLICATE_PATTERN, L"ABC");
                       EXPECT_EQ(ListView_GetItemCount(list), 12);
-                      EXPECT_EQ(CellOf(list, 11, 0), L"7");
-                      EXPECT_EQ(CellOf(list, 11, 1), L"ABC");
+                      EXPECT_EQ(editor_tests::CellOf(list, 11, 0), L"7");
+                      EXPECT_EQ(editor_tests::CellOf(list, 11, 1), L"ABC");
                       kztest::Click(window, IDOK);
                   }),
               IDOK);
@@ -167,10 +157,10 @@ TEST_F(DuplicateDeviceDialogTest, IsGreyWhileSomethingIsRefusedOrNothingToMake)
         EXPECT_TRUE(kztest::IsEnabled(window, IDOK));
         kztest::SetText(window, IDC_DUPLICATE_PATTERN, L"CPD");
         EXPECT_FALSE(kztest::IsEnabled(window, IDOK));
-        EXPECT_EQ(CellOf(list, 0, 2), PlantMessage(NameUsed));
+        EXPECT_EQ(editor_tests::CellOf(list, 0, 2), PlantMessage(NameUsed));
         kztest::SetText(window, IDC_DUPLICATE_PATTERN, L"CPD1");
         EXPECT_TRUE(kztest::IsEnabled(window, IDOK));
-        EXPECT_EQ(CellOf(list, 0, 2), L"");
+        EXPECT_EQ(editor_tests::CellOf(list, 0, 2), L"");
         kztest::SetText(window, IDC_DUPLICATE_COUNT, L"0");
         EXPECT_FALSE(kztest::IsEnabled(window, IDOK));
         kztest::SetText(window, IDC_DUPLICATE_COUNT, L"");
@@ -185,9 +175,9 @@ TEST_F(DialogTest, RemoveShowsTheDevicesAndGoesOnByOk)
                   [](HWND window) {
                       const HWND list = ::GetDlgItem(window, IDC_REMOVE_DEVICES);
                       ASSERT_EQ(ListView_GetItemCount(list), 2);
-                      EXPECT_EQ(CellOf(list, 0, 1), L"TREN1");
-                      EXPECT_EQ(CellOf(list, 0, 3), L"118");
-                      EXPECT_EQ(CellOf(list, 1, 2), L"UPS");
+                      EXPECT_EQ(editor_tests::CellOf(list, 0, 1), L"TREN1");
+                      EXPECT_EQ(editor_tests::CellOf(list, 0, 3), L"118");
+                      EXPECT_EQ(editor_tests::CellOf(list, 1, 2), L"UPS");
                       kztest::Click(window, IDOK);
                   }),
               IDOK);

@@ -3,9 +3,12 @@
 #include "window/about/AboutDialog.h"
 #include "window/add/AddDeviceDialog.h"
 #include "window/duplicate/DuplicateDeviceDialog.h"
+#include "window/history/HistoryDialog.h"
 #include "window/modules/ModulesDialog.h"
+#include "window/open/ProjectFolderDialog.h"
 #include "window/remove/RemoveDevicesDialog.h"
 #include "window/rename/RenameDeviceDialog.h"
+#include "window/review/ReviewDialog.h"
 
 namespace editor_tests {
 
@@ -64,9 +67,47 @@ std::unique_ptr<CDialog> Modules()
                                {L"KZUsrZEP.dll", L"ZEP", L"1.0.0.0", {ModuleState::Ready, L"", L""}, "ready"}});
 }
 
+std::unique_ptr<CDialog> History()
+{
+    return std::make_unique<HistoryDialog>(
+        nullptr,
+        std::vector<SaveRow>{
+            {12, L"22/11/2026 9:28:04", L"window", {L"main.xml", L"devices/zep-01.xml (TREN1)"}},
+            {11, L"21/11/2026 21:02:59", L"import", {L"devices/zep-02.xml (CPD)"}},
+        },
+        [](int) { return true; });
+}
+
+template <FolderPurpose Purpose>
+std::unique_ptr<CDialog> ProjectFolder()
+{
+    return std::make_unique<ProjectFolderDialog>(
+        nullptr, Purpose, std::vector<std::wstring>{L"C:\\Plants\\Sagunto", L"D:\\Archivo\\2025\\Almussafes"},
+        [](const plant::Path&) {});
+}
+
+std::unique_ptr<CDialog> Review()
+{
+    return std::make_unique<ReviewDialog>(
+        nullptr,
+        std::vector<ChangeRow>{{L"TREN1", L"Minimum current", L"20 A", L"25 A", true, true},
+                               {L"CPD", L"Power factor, Network, Warning, Maximum", L"0.95", L"0.9"},
+                               {L"", L"What belongs to no device", L"", L"", false}},
+        2);
+}
+
 constexpr SampleDialog Samples[] = {
-    {"About", About},     {"AddDevice", AddDevice},         {"DuplicateDevice", DuplicateDevice},
-    {"Modules", Modules}, {"RemoveDevices", RemoveDevices}, {"RenameDevice", RenameDevice},
+    {"About", About},
+    {"AddDevice", AddDevice},
+    {"CopyOfProject", ProjectFolder<FolderPurpose::Copy>},
+    {"DuplicateDevice", DuplicateDevice},
+    {"History", History},
+    {"Modules", Modules},
+    {"NewProject", ProjectFolder<FolderPurpose::New>},
+    {"OpenProject", ProjectFolder<FolderPurpose::Open>},
+    {"RemoveDevices", RemoveDevices},
+    {"RenameDevice", RenameDevice},
+    {"Review", Review},
 };
 
 }  // namespace
