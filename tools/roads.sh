@@ -22,7 +22,7 @@ open_editor() {
 # choose_device ROW NAME: with the mouse
 choose_device() {
   click "$main_title" $IDC_DEVICES "$1"
-  until_control "$main_title" $IDC_PANE_LABEL "TEXT=$2"
+  until_control "$main_title" $IDC_PAGE_CAPTION "TEXT=$2"
 }
 
 # open_selection NAME: with the mouse; the dialog's title ends with the device's name
@@ -92,17 +92,19 @@ close_dialog() {
   window_gone "$1"
 }
 
-save_by_key() {
-  until_control "$main_title" $IDC_SAVE enabled
-  key ctrl+s
-  until_control "$main_title" $IDC_SAVE disabled
-}
+# until_unsaved, until_saved: the main window's title tells
+until_unsaved() { window "$main_title *"; }
+until_saved() { window "=KZEditor –$main_title"; }
 
 save_project() {
-  until_control "$main_title" $IDC_SAVE enabled
-  click "$main_title" $IDC_SAVE
-  until_control "$main_title" $IDC_SAVE disabled
+  until_unsaved
+  key ctrl+s
+  until_saved
 }
+
+# show_variables, show_options: the pages of the main window, with the mouse
+show_variables() { show_tab "$main_title" $IDC_PAGES 1 $IDC_CHOSEN; }
+show_options() { show_tab "$main_title" $IDC_PAGES 2 $IDC_PANE; }
 
 # enter ID TEXT: the same from the keyboard, in a dialog in which the Tab key reaches the box, which marks its text
 enter() {

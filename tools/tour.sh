@@ -25,7 +25,7 @@ dialog=" - $device"
 
 # One row per step: the function that takes it, which also names the picture, and what the picture shows.
 steps=(
-  "plant             The editor with the devices of the plant; the options of the chosen one are embedded"
+  "plant             The editor with the devices of the plant and the values of the marked one"
   "selection         Select variables: what was chosen earlier is checked and disabled"
   "single_boxes      General page: frequency and a current, box by box"
   "whole_row         Power page: one button takes the whole row of the load side"
@@ -75,6 +75,7 @@ step_by_keyboard() {
 }
 step_chosen() {
   close_dialog "$dialog" $IDOK
+  show_variables
   until_control "$main_title" $IDC_CHOSEN ITEMS=11
 }
 step_hub() {
@@ -120,6 +121,7 @@ step_saved() {
   save_project
 }
 remove_first_variable() {
+  show_variables
   click "$main_title" $IDC_CHOSEN
   until_control "$main_title" $IDC_CHOSEN focused
   key Home Delete
@@ -141,7 +143,7 @@ step_foreign() {
   answer $IDNO
   remove_first_variable
   until_control "$main_title" $IDC_CHOSEN ITEMS=9
-  click "$main_title" $IDC_SAVE
+  key ctrl+s
   until_control "$message_title" $IDCANCEL shown
 }
 step_maximum() {

@@ -7,7 +7,6 @@
 
 #include "ProjectFolder.h"
 #include "Report.h"
-#include "main/ProjectStore.h"
 #include "modules/ModuleLoader.h"
 #include "resources/EditorIds.h"
 #include "window/frame/MainWindow.h"
@@ -33,7 +32,8 @@ void TakeMessages()
 
 class OpenWindow {
 public:
-    OpenWindow(plant::Project& project, const ModuleLoader& modules) : m_window(project, modules)
+    OpenWindow(std::unique_ptr<OpenProject> project, const ModuleLoader& modules)
+        : m_window(modules, std::move(project))
     {
         m_window.Create();
         Paint();
@@ -79,12 +79,11 @@ Sample Measure(const ProjectFolder& folder, const ModuleLoader& modules)
 {
     Sample sample{};
     auto start = Clock::now();
-    plant::Project project(folder.Path());
-    ProjectStore store(project, "window");
+    auto project = std::make_unique<OpenProject>(folder.Path());
     sample.loading = MillisecondsSince(start);
 
     start = Clock::now();
-    OpenWindow window(project, modules);
+    OpenWindow window(std::move(project), modules);
     window.Press(VK_DOWN);
     sample.opening = MillisecondsSince(start);
 

@@ -12,7 +12,7 @@
 #include "modules/ModuleLoader.h"
 #include "text/EditorError.h"
 #include "text/EditorText.h"
-#include "window/ChildWindow.h"
+#include "window/options/ChildWindow.h"
 
 namespace {
 

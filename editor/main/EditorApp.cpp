@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include "ProjectStore.h"
 #include "command/Commands.h"
 #include "command/Console.h"
 #include "modules/ModuleLoader.h"
@@ -66,12 +65,10 @@ int EditorApp::RunArguments(const Arguments& arguments)
 
 int EditorApp::RunWindow(const Arguments& arguments)
 {
-    plant::Project project(arguments.project);
-    ProjectStore store(project, "window");
+    auto project = std::make_unique<OpenProject>(arguments.project);
     CloseOwnConsole();
-    // After the project, so that the modules are freed while its devices still exist.
     const ModuleLoader modules(ProgramFolder());
-    MainWindow window(project, modules);
+    MainWindow window(modules, std::move(project));
     if (!window.Create())
         throw EditorError(EditorText(IDS_NO_WINDOW));
     m_pMainWnd = &window;

@@ -6,12 +6,21 @@
 
 void ReportList::SetColumns(std::span<const ReportColumn> columns, int stretching)
 {
+    const bool isNew = m_columns.empty();
     m_columns = columns;
     m_nStretching = stretching;
     SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_DOUBLEBUFFER);
-    for (int index = 0; index < ColumnCount(); ++index) {
-        const ReportColumn& column = columns[static_cast<std::size_t>(index)];
-        InsertColumn(index, EditorText(column.caption).c_str(), column.format, OwnWidth(index));
+    for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
+        const ReportColumn& drawn = columns[static_cast<std::size_t>(column)];
+        std::wstring caption = EditorText(drawn.caption);
+        if (isNew) {
+            InsertColumn(column, caption.c_str(), drawn.format, OwnWidth(column));
+            continue;
+        }
+        LVCOLUMNW changed{};
+        changed.mask = LVCF_TEXT;
+        changed.pszText = caption.data();
+        SendMessage(LVM_SETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&changed));
     }
 }
 

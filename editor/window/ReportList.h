@@ -14,8 +14,8 @@ struct ReportColumn {
 
 class ReportList : public CListCtrl {
 public:
-    // Gives the list its columns, which must live as long as this object. The column at the stretching index takes what
-    // the others leave of the list's width.
+    // Gives the list its columns, which must live as long as this object, or those that it has their captions in
+    // another language. The column at the stretching index takes what the others leave of the list's width.
     void SetColumns(std::span<const ReportColumn> columns, int stretching);
 
     // Fits the stretching column to the list's present width. It never gets narrower than its own width and, when it is

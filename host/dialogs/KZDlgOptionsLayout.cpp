@@ -19,6 +19,11 @@ public:
                 m_rows.back().AddGap(KZSizeStandard);
             m_rows.back().AddControl(KZSectionButtonBase + section, 1);
         }
+        // A last row that is not full leaves the places of the buttons that it lacks.
+        for (int missing = KZSectionCount; missing % columns != 0; ++missing) {
+            m_rows.back().AddGap(KZSizeStandard);
+            m_rows.back().AddGap(1);
+        }
     }
 
     void AddTo(KZLayout& page)
@@ -53,9 +58,9 @@ void FitHeight(CWnd& dialog, int clientHeight)
 void KZDlgOptions::Layout()
 {
     constexpr int FewestColumns = 1;
-    const int most = m_bChild ? KZSectionCount : KZSectionCount / 2;
-    for (int columns = most; columns > FewestColumns; columns /= 2) {
-        if (LayOut(columns, false))
+    for (const int columns : {8, 4, 3, 2}) {
+        // A dialog of its own is no wider than four buttons.
+        if ((m_bChild || columns <= KZSectionCount / 2) && LayOut(columns, false))
             return;
     }
     LayOut(FewestColumns, true);

@@ -26,6 +26,15 @@ VariableList ChosenVariables(const XmlDocument& document, const KZBasicString& d
     return selection ? Lines(selection->Value(L"variables", L"")) : VariableList{};
 }
 
+void ForEachChoice(const XmlDocument& document,
+                   const std::function<void(const KZBasicString& driverId, std::wstring_view lines)>& tell)
+{
+    const XmlDocument::XmlNode* const list = document.Node(Selections.list);
+    const XmlDocument::XmlNode* selection = list ? list->FirstChild(Selections.element) : nullptr;
+    for (; selection; selection = selection->NextSibling(Selections.element))
+        tell(selection->Value(zep::DriverIdName, L""), selection->Value(L"variables", L""));
+}
+
 void StoreChosenVariables(XmlDocument& document, const KZBasicString& driverId, const VariableList& variables)
 {
     if (ChosenVariables(document, driverId) == variables)

@@ -3,7 +3,9 @@
 // can be replaced as a whole and a name holds any character but a line break.
 #pragma once
 
+#include <functional>
 #include <list>
+#include <string_view>
 
 #include "DriverSetup.h"
 #include "KZBasicString.h"
@@ -17,6 +19,11 @@ using VariableList = std::list<KZBasicString>;
 
 // In the order in which they were chosen; empty when there are none.
 [[nodiscard]] VariableList ChosenVariables(const XmlDocument& document, const KZBasicString& driverId);
+
+// Calls back for each driver with the names that are chosen of it, one per line. A second element of the same driver
+// counts nowhere, and is told behind the first.
+void ForEachChoice(const XmlDocument& document,
+                   const std::function<void(const KZBasicString& driverId, std::wstring_view lines)>& tell);
 
 // Replaces the driver's chosen variables and marks the document dirty. Nothing happens when they are the same.
 void StoreChosenVariables(XmlDocument& document, const KZBasicString& driverId, const VariableList& variables);

@@ -29,11 +29,12 @@ public:
     [[nodiscard]] std::vector<std::size_t> Matching(std::wstring_view text) const;
 
 private:
-    [[nodiscard]] std::wstring WordsOf(std::size_t device) const;
+    [[nodiscard]] std::wstring WordsOf(std::size_t device, std::wstring_view variables) const;
+    void ReadWords() const;
 
     const Project& m_project;
     MoreWords m_more;
-    std::vector<std::wstring> m_words;  // by device
+    mutable std::vector<std::wstring> m_words;  // by device; empty until somebody looks for a word
 };
 
 // Without capitals and accents.

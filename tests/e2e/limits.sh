@@ -56,7 +56,7 @@ test_limits_by_keyboard() {
   window ' - TREN1'
   press_key_on $IDOK Return
   window_gone ' - TREN1'
-  save_by_key
+  save_project
   close_editor
   limits_of_train
 }

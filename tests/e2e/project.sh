@@ -13,11 +13,12 @@ leftovers() {
 
 # plain_watts: in the embedded options
 plain_watts() {
+  show_options
   click "$main_title" $KZ_IDC_OPTIONS_UNITS
   until_control '' $IDC_APPARENT_PLAIN shown
   click '' $IDC_APPARENT_PLAIN
   click '' $IDOK
-  until_control "$main_title" $IDC_SAVE enabled
+  until_unsaved
 }
 
 test_recover_by_mouse() {
@@ -30,7 +31,7 @@ test_recover_by_mouse() {
   until_control "$message_title" $IDYES shown
   snapshot offer
   answer $IDYES 'main.xml'
-  until_control "$main_title" $IDC_SAVE enabled
+  until_unsaved
   unchanged main.xml
   save_project
   leftovers 0
@@ -46,7 +47,7 @@ test_recover_by_keyboard() {
   editor --project "$project" --language "$language"
   until_control "$message_title" $IDYES focused
   key Return
-  until_control "$main_title" $IDC_SAVE enabled
+  until_unsaved
   kill_editor
   editor --project "$project" --language "$language"
   until_control "$message_title" $IDYES focused
@@ -69,14 +70,14 @@ test_foreign_changes_by_mouse() {
   until_control "$message_title" $IDNO shown
   snapshot notice_with_changes
   answer $IDNO
-  click "$main_title" $IDC_SAVE
+  key ctrl+s
   until_control "$message_title" $IDCANCEL shown
   snapshot question
   answer $IDCANCEL
   unchanged main.xml
-  click "$main_title" $IDC_SAVE
+  key ctrl+s
   answer $IDYES 'main.xml'
-  until_control "$main_title" $IDC_SAVE disabled
+  until_saved
   grep -q Puçol "$project/main.xml"
   close_editor
 }
@@ -85,17 +86,17 @@ test_foreign_changes_by_keyboard() {
   open_editor "$project" --language "$language"
   plain_watts
   sed -i 's/Sagunto/Puçol/' "$project/main.xml"
-  until_control "$main_title" $IDC_SAVE enabled
+  until_unsaved
   key ctrl+s
   until_control "$message_title" $IDCANCEL focused
   key Escape
   window_gone "$message_title"
-  until_control "$main_title" $IDC_SAVE enabled
+  until_unsaved
   key ctrl+s
   until_control "$message_title" $IDCANCEL focused
   tab_to "$message_title" $IDNO
   key Return
-  until_control "$main_title" $IDC_SAVE disabled
+  until_saved
   close_editor
   leftovers 0
   grep -q Puçol "$project/main.xml"

@@ -7,6 +7,7 @@ dialog=' - PINTURA'
 test_select_by_mouse() {
   open_editor "$project" --language "$language"
   choose_device 2 PINTURA
+  show_variables
   until_control "$main_title" $IDC_CHOSEN ITEMS=0
   open_selection PINTURA
   show_tab "$dialog" $IDC_SELECTVAR_TAB 2 $IDC_HARMONIC_CAPTION
@@ -32,8 +33,10 @@ test_select_by_mouse() {
 test_select_by_keyboard() {
   open_editor "$project" --language "$language"
   until_control "$main_title" $IDC_DEVICES focused
+  key ctrl+3
+  until_control "$main_title" $IDC_CHOSEN shown
   key Down Down
-  until_control "$main_title" $IDC_PANE_LABEL TEXT=PINTURA
+  until_control "$main_title" $IDC_PAGE_CAPTION TEXT=PINTURA
   key F5
   window "$dialog"
   until_control "$dialog" $IDC_SELECTVAR_TAB focused
@@ -51,7 +54,7 @@ test_select_by_keyboard() {
   key Return
   window_gone "$dialog"
   until_control "$main_title" $IDC_CHOSEN ITEMS=13
-  save_by_key
+  save_project
   close_editor
   equal 'the chosen variables' "$(chosen zep-03)" \
     "$(lines PINTURA.{API{1,2,3}N,RPI{1,2,3}N,VAI{1,2,3}N,PFI{1,2,3}N,PFI1L})"

@@ -5,6 +5,7 @@
 test_units_by_mouse() {
   open_editor "$project" --language "$language"
   choose_device 2 PINTURA
+  show_options
   click "$main_title" $KZ_IDC_OPTIONS_UNITS
   until_control '' $IDC_APPARENT_KILO shown
   until_control '' $IDC_APPARENT_PLAIN checked
@@ -44,7 +45,7 @@ test_units_by_keyboard() {
   window ' - TREN1'
   press_key_on $IDOK Return
   window_gone ' - TREN1'
-  save_by_key
+  save_project
   close_editor
   equal 'the units' "$(changes main.xml)" "$(lines \
     '-<decimals>1</decimals>' '-<factor>3</factor>' '+<decimals>3</decimals>' '+<factor>0</factor>' \

@@ -7,7 +7,7 @@
 #include "KZDlgOptions.h"
 #include "ModalScript.h"
 #include "modules/DeviceType.h"
-#include "window/ChildWindow.h"
+#include "window/options/ChildWindow.h"
 
 namespace {
 

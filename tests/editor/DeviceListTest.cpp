@@ -35,8 +35,7 @@ protected:
             devices += editor_tests::DeviceXml("zep-" + digits, "F" + digits, "0x74", "ZEP", digits);
         }
         m_folder.Write("main.xml", editor_tests::MainXml(devices));
-        m_large.emplace(m_folder.Path());
-        m_window.emplace(*m_large, m_modules);
+        m_window.emplace(m_modules, std::make_unique<OpenProject>(m_folder.Path()));
     }
     void SetUp() override { ASSERT_TRUE(m_window->Create()); }
     ~ManyDevices() override { m_window->DestroyWindow(); }
@@ -53,23 +52,22 @@ protected:
     [[nodiscard]] int Selected() const { return ListView_GetNextItem(List(), -1, LVNI_SELECTED); }
     void ExpectShown(const std::wstring& device) const
     {
-        EXPECT_NE(kztest::TextOf(::GetDlgItem(m_window->m_hWnd, IDC_PANE_LABEL)).find(device), std::wstring::npos);
+        EXPECT_NE(kztest::TextOf(::GetDlgItem(m_window->m_hWnd, IDC_PAGE_CAPTION)).find(device), std::wstring::npos);
     }
 
     kztest::TemporaryFolder m_folder;
-    std::optional<plant::Project> m_large;
     std::optional<WatchedWindow> m_window;
 };
 
 TEST_F(ManyDevices, AreListedAll)
 {
     EXPECT_EQ(ListView_GetItemCount(List()), Many);
-    EXPECT_EQ(Cell(0, 0), L"1");
-    EXPECT_EQ(Cell(Many - 1, 0), L"2000");
-    EXPECT_EQ(Cell(Many - 1, 1), L"F2000");
-    EXPECT_EQ(Cell(Many - 1, 2), L"ZEP active harmonic filter");
+    EXPECT_EQ(Cell(0, 1), L"1");
+    EXPECT_EQ(Cell(Many - 1, 1), L"2000");
+    EXPECT_EQ(Cell(Many - 1, 2), L"F2000");
     EXPECT_EQ(Cell(Many - 1, 3), L"Filtro de prueba, línea ñ");
-    EXPECT_EQ(Cell(Many - 1, 4), L"ready");
+    EXPECT_EQ(Cell(Many - 1, 4), L"0");
+    EXPECT_EQ(Cell(Many - 1, 5), L"ZEP active harmonic filter");
 }
 
 TEST_F(ManyDevices, AreAskedForOnlyAsFarAsTheyAreSeen)
@@ -118,7 +116,9 @@ TEST_F(ManyDevices, AreReachedByTheKeyboard)
 
 TEST_F(ManyDevices, AreLeftForNoneOnlyWhenNoneIsSelected)
 {
-    const HWND pane = ::GetDlgItem(m_window->m_hWnd, IDC_PANE);
+    const HWND pane = kztest::ControlIn(m_window->m_hWnd, IDC_PANE);
+    m_window->ShowPage(PageName::Options);
+    ListView_SetItemState(List(), 0, 0, LVIS_SELECTED);
     ListView_SetItemState(List(), 7, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     kztest::DispatchPending();
     ExpectShown(L"F8");
@@ -139,6 +139,7 @@ TEST_F(ManyDevices, AreFoundByTypingTheirNumber)
 
 TEST_F(ManyDevices, StayWhereTheyAreWhenNoNumberBeginsLikeThat)
 {
+    ListView_SetItemState(List(), 0, 0, LVIS_SELECTED);
     ListView_SetItemState(List(), 7, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     Type(L'x');
     EXPECT_EQ(Selected(), 7);

@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 
+#include "Controls.h"
 #include "KZUtf8.h"
 
 namespace fs = std::filesystem;
@@ -233,7 +234,10 @@ std::wstring MessageOf(HWND box)
 
 void Press(HWND window, int id)
 {
-    ::PostMessageW(::GetDlgItem(window, id), BM_CLICK, 0, 0);
+    if (const HWND button = kztest::ControlIn(window, id))
+        ::PostMessageW(button, BM_CLICK, 0, 0);
+    else
+        ::PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(id), 0);
 }
 
 std::wstring ListCell(const EditorProcess& editor, HWND list, int row, int column)

@@ -85,7 +85,8 @@ private:
 [[nodiscard]] std::wstring TextOf(HWND window);
 // The text that a message box shows.
 [[nodiscard]] std::wstring MessageOf(HWND box);
-// Presses a button of the window by its id, without waiting for what it starts.
+// Presses a button of the window by its id, or chooses the menu item where there is no such button, without waiting for
+// what it starts.
 void Press(HWND window, int id);
 // One cell of a report list of another process.
 [[nodiscard]] std::wstring ListCell(const EditorProcess& editor, HWND list, int row, int column);

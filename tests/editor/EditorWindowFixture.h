@@ -15,7 +15,6 @@
 #include "KZQuorvelantaSetup.h"
 #include "TemporaryFolder.h"
 #include "modules/ModuleLoader.h"
-#include "project/Project.h"
 #include "resources/EditorIds.h"
 #include "text/EditorText.h"
 #include "window/frame/MainWindow.h"
@@ -76,7 +75,8 @@ protected:
     }
 
     kztest::TemporaryFolder m_copied;
-    plant::Project m_project{CopyOfThePlant()};
+    std::unique_ptr<OpenProject> m_opened = std::make_unique<OpenProject>(CopyOfThePlant());
+    plant::Project& m_project = m_opened->project;
     ModuleLoader m_modules{ProgramFolder().parent_path() / "bin"};
 };
 
@@ -90,13 +90,14 @@ protected:
     }
     ~OpenMainWindow() override { m_window.DestroyWindow(); }
 
-    [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(m_window.m_hWnd, id); }
+    [[nodiscard]] HWND Control(int id) const { return kztest::ControlIn(m_window.m_hWnd, id); }
 
     void ChooseDevice(int row)
     {
+        ListView_SetItemState(Control(IDC_DEVICES), -1, 0, LVIS_SELECTED);
         ListView_SetItemState(Control(IDC_DEVICES), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
         const std::wstring& name = m_project.Devices()[static_cast<std::size_t>(row)].name.c_str();
-        ASSERT_NE(kztest::TextOf(Control(IDC_PANE_LABEL)).find(name), std::wstring::npos);
+        ASSERT_NE(kztest::TextOf(Control(IDC_PAGE_CAPTION)).find(name), std::wstring::npos);
     }
 
     template <typename Check>
@@ -109,7 +110,7 @@ protected:
         }
     }
 
-    MainWindow m_window{m_project, m_modules};
+    MainWindow m_window{m_modules, std::move(m_opened)};
 };
 
 }  // namespace editor_tests

@@ -39,15 +39,16 @@ protected:
     {
         const HWND list = Control(IDC_DEVICES);
         EXPECT_TRUE(WaitUntil([&] { return ::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0) == 2; }));
-        EXPECT_EQ(ListCell(*m_editor, list, 0, 1), L"NEW");
-        EXPECT_EQ(ListCell(*m_editor, list, 1, 1), L"RENAMED");
-        EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(IDC_PANE_LABEL)) == L"Options of RENAMED"; }));
+        EXPECT_EQ(ListCell(*m_editor, list, 0, 2), L"NEW");
+        EXPECT_EQ(ListCell(*m_editor, list, 1, 2), L"RENAMED");
+        EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(IDC_PAGE_CAPTION)) == L"RENAMED"; }));
+        ShowPage(IDC_SHOW_OPTIONS);
         EXPECT_NE(EmbeddedDialog(), nullptr);
     }
     void ExpectOurDevices() const
     {
         EXPECT_EQ(::SendMessageW(Control(IDC_DEVICES), LVM_GETITEMCOUNT, 0, 0), 3);
-        EXPECT_EQ(ListCell(*m_editor, Control(IDC_DEVICES), 0, 1), L"GRÚA.1");
+        EXPECT_EQ(ListCell(*m_editor, Control(IDC_DEVICES), 0, 2), L"GRÚA.1");
     }
 
     // The device dialog of the real module, with a change in it, confirmed: now it is writing.
@@ -192,7 +193,7 @@ TEST_F(ForeignChanges, NoIsNotAskedAgainForTheSameChange)
     ChangeMain(DeviceXml("zep-1", "THIRD"));
     Activate();
     AnswerBox(IDYES);
-    EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(IDC_PANE_LABEL)) == L"Options of THIRD"; }));
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(IDC_PAGE_CAPTION)) == L"THIRD"; }));
 }
 
 TEST_F(ForeignChanges, SavingAsksAfterTheNoToo)

@@ -8,6 +8,7 @@
 
 #include <stdexcept>
 
+#include "Controls.h"
 #include "EditorFixture.h"
 #include "KZDlgOptions.h"
 #include "KZUtf8.h"
@@ -31,7 +32,7 @@ protected:
             throw std::runtime_error("the main window does not appear");
     }
 
-    [[nodiscard]] HWND Control(int id) const { return ::GetDlgItem(m_window, id); }
+    [[nodiscard]] HWND Control(int id) const { return kztest::ControlIn(m_window, id); }
 
     // Answers a dialog that a command opens.
     void Answer(const std::wstring& title, int button)
@@ -61,6 +62,9 @@ protected:
             ::SendMessageW(list, WM_KEYDOWN, now < row ? VK_DOWN : VK_UP, 0);
     }
 
+    // Shows a page, whose menu item this is.
+    void ShowPage(int command) const { ::SendMessageW(m_window, WM_COMMAND, static_cast<WPARAM>(command), 0); }
+
     // The embedded options dialog; null when the pane shows a text.
     [[nodiscard]] HWND EmbeddedDialog() const
     {
@@ -79,11 +83,11 @@ protected:
     // A value of the summary by its name; empty when it has no row of that name.
     [[nodiscard]] std::wstring Summary(const std::wstring& name) const
     {
-        const HWND list = Control(IDC_SUMMARY);
+        const HWND list = Control(IDC_VALUES);
         const auto rows = static_cast<int>(::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
         for (int row = 0; row < rows; ++row)
-            if (ListCell(*m_editor, list, row, 1) == name)
-                return ListCell(*m_editor, list, row, 3);
+            if (ListCell(*m_editor, list, row, 0) == L"    " + name)
+                return ListCell(*m_editor, list, row, 1);
         return {};
     }
 

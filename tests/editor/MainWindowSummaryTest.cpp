@@ -14,16 +14,15 @@ TEST_F(MainWindowTest, ShowsTheSettingsUnitsAndLimitsOfTheSelectedDevice)
     m_folder.Write("plant/devices/zep-1.xml", "<device><information><numZEP>3</numZEP></information></device>");
     m_folder.Write("plant/devices/zep-2.xml", "<device><information><numZEP>8</numZEP></information></device>");
     Open();
-    const HWND list = Control(IDC_SUMMARY);
+    const HWND list = Control(IDC_VALUES);
     EXPECT_EQ(ListCell(*m_editor, list, 0, 0), L"Device");
-    EXPECT_EQ(ListCell(*m_editor, list, 1, 0), L"");
     EXPECT_EQ(Summary(L"Number of ZEP units"), L"3");
     EXPECT_EQ(Summary(L"Reactive power, Unit"), L"VAR");
-    EXPECT_EQ(ListCell(*m_editor, list, 13, 1), L"Reactive power, Precision");
-    EXPECT_EQ(ListCell(*m_editor, list, 14, 0), L"Limits");
+    EXPECT_EQ(ListCell(*m_editor, list, 15, 0), L"    Reactive power, Precision");
+    EXPECT_EQ(ListCell(*m_editor, list, 16, 0), L"Limits");
     EXPECT_EQ(Summary(L"Apparent power, Nominal value"), L"0");
-    EXPECT_EQ(ListCell(*m_editor, list, 105, 1), L"Harmonic 25, Load, Maximum, alarm");
-    EXPECT_EQ(ListCell(*m_editor, list, 105, 2), L"%");
+    EXPECT_EQ(ListCell(*m_editor, list, 108, 0), L"    Harmonic 25, Load, Maximum, alarm");
+    EXPECT_EQ(ListCell(*m_editor, list, 108, 2), L"%");
     ChooseRow(1);
     EXPECT_TRUE(WaitUntil([&] { return Summary(L"Number of ZEP units") == L"8"; }));
 }
@@ -34,7 +33,7 @@ TEST_F(MainWindowTest, KeepsItsPlaceInTheSettingsOfAnotherDevice)
     m_folder.Write("plant/devices/zep-1.xml", "<device><information><numZEP>3</numZEP></information></device>");
     m_folder.Write("plant/devices/zep-2.xml", "<device><information><numZEP>8</numZEP></information></device>");
     Open();
-    const HWND list = Control(IDC_SUMMARY);
+    const HWND list = Control(IDC_VALUES);
     ::SendMessageW(list, LVM_SCROLL, 0, 400);
     const LRESULT place = ::SendMessageW(list, LVM_GETTOPINDEX, 0, 0);
     ASSERT_GT(place, 10);
@@ -47,10 +46,12 @@ TEST_F(MainWindowTest, ShowsAChangeMadeInTheEmbeddedOptionsAtOnce)
 {
     m_program.AddModule("ready");
     Open();
+    ShowPage(IDC_SHOW_OPTIONS);
     ASSERT_TRUE(WaitUntil([&] { return EmbeddedDialog() != nullptr; }));
     Press(EmbeddedDialog(), UnitsSection);
-    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Reactive power, Unit") == L"kVAR"; }));
     ExpectTitle(DirtyTitle);
+    ShowPage(IDC_SHOW_VALUES);
+    EXPECT_TRUE(WaitUntil([&] { return Summary(L"Reactive power, Unit") == L"kVAR"; }));
 }
 
 TEST_F(MainWindowTest, ShowsWhatChangedWhileTheOptionsWereOpen)

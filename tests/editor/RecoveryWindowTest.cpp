@@ -181,6 +181,7 @@ TEST_F(RecoveryWindow, LeavesTheChangesOfARunningEditorAlone)
 TEST_F(RecoveryWindow, HasTheEmbeddedOptionsChangesOnDiskAtOnce)
 {
     Open();
+    ShowPage(IDC_SHOW_OPTIONS);
     ASSERT_TRUE(WaitUntil([&] { return EmbeddedDialog() != nullptr; }));
     Press(EmbeddedDialog(), UnitsSection);
     ExpectTitle(DirtyTitle);
@@ -197,6 +198,7 @@ TEST_F(RecoveryWindow, BringsBackThatVariablesWereRemoved)
     Open();
     ChooseVariables();
     SaveWindow();
+    ShowPage(IDC_SHOW_VARIABLES);
     ::SendMessageW(Control(IDC_CHOSEN), WM_KEYDOWN, VK_HOME, 0);
     ASSERT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(Control(IDC_REMOVE)) != FALSE; }));
     Press(m_window, IDC_REMOVE);

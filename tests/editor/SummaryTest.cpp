@@ -8,7 +8,7 @@
 #include "TemporaryFolder.h"
 #include "UserNumber.h"
 #include "text/FieldText.h"
-#include "window/DeviceSummary.h"
+#include "window/values/DeviceSummary.h"
 
 namespace {
 

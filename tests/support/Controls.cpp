@@ -115,6 +115,22 @@ bool IsEnabled(HWND dialog, int id)
     return ::IsWindowEnabled(ControlOf(dialog, id)) != FALSE;
 }
 
+HWND ControlIn(HWND window, int id)
+{
+    struct Search {
+        int id;
+        HWND found;
+    } search{id, nullptr};
+    const auto look = [](HWND control, LPARAM data) -> BOOL {
+        auto& wanted = *reinterpret_cast<Search*>(data);
+        if (::GetDlgCtrlID(control) == wanted.id)
+            wanted.found = control;
+        return wanted.found == nullptr;
+    };
+    ::EnumChildWindows(window, look, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
 std::vector<int> ChildIds(HWND dialog)
 {
     std::vector<int> ids;

@@ -28,6 +28,8 @@ void Click(HWND dialog, int id);
 void PostClick(HWND dialog, int id);
 [[nodiscard]] bool IsChecked(HWND dialog, int id);
 [[nodiscard]] bool IsEnabled(HWND dialog, int id);
+// The control of the id in the window or in what it embeds; null when there is none.
+[[nodiscard]] HWND ControlIn(HWND window, int id);
 // The ids of the direct children in their order, -1 for statics without a number of their own.
 [[nodiscard]] std::vector<int> ChildIds(HWND dialog);
 

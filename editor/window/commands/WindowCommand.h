@@ -17,7 +17,8 @@ struct KeyStroke {
     friend bool operator==(const KeyStroke&, const KeyStroke&) = default;
 };
 
-enum class MenuName { File, Edit, Device, Project, View, Help };
+// None: keys and buttons alone.
+enum class MenuName { File, Edit, Device, Project, View, Help, None };
 
 struct WindowCommand {
     MenuName menu;
@@ -28,6 +29,7 @@ struct WindowCommand {
     int keyControl = 0;
     bool (*isEnabled)(const MainWindow&) = nullptr;
     void (*run)(MainWindow&) = nullptr;
+    bool (*isChosen)(const MainWindow&) = nullptr;  // of several of which one holds: this one has the mark
 };
 
 // In the order of the menus.

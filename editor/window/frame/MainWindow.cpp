@@ -1,38 +1,25 @@
-// The main window: its controls and what they show. Its commands are in MainWindowCommands.cpp.
+// The main window: its controls and what they show. Its commands are in MainWindowCommands.cpp, its pages in
+// MainWindowPages.cpp.
 #include "MainWindow.h"
 
 #include <climits>
 
 #include "KZDlgOptions.h"
-#include "KZMainCfg.h"
-#include "KZUtf8.h"
-#include "modules/ModuleSummary.h"
 #include "text/EditorText.h"
-#include "window/EmbeddedCommand.h"
 #include "window/WindowIcon.h"
 #include "window/commands/MenuBar.h"
+#include "window/options/EmbeddedCommand.h"
 
 namespace {
 
-// The list gets a third of what the window grows in height, the panes below it the rest.
-constexpr Anchor Anchors[] = {
-    {IDC_DEVICES_LABEL, 0, 0, 0, 0},   {IDC_DEVICES, 0, 0, 100, 33},    {IDC_SELECT, 0, 33, 0, 0},
-    {IDC_OPTIONS, 0, 33, 0, 0},        {IDC_SAVE, 100, 33, 0, 0},       {IDC_CHOSEN_LABEL, 0, 33, 0, 0},
-    {IDC_CHOSEN, 0, 33, 20, 67},       {IDC_REMOVE, 0, 100, 0, 0},      {IDC_SUMMARY_LABEL, 20, 33, 40, 0},
-    {IDC_SUMMARY, 20, 33, 40, 67},     {IDC_PANE_LABEL, 60, 33, 40, 0}, {IDC_PANE, 60, 33, 40, 67},
-    {IDC_MODULES_LABEL, 0, 100, 0, 0}, {IDC_MODULES, 0, 100, 100, 0},
-};
-
-constexpr UINT WM_KZ_SELECTION_SETTLED = WM_APP + 0x140;
+constexpr UINT WM_KZ_MARKS_SETTLED = WM_APP + 0x140;
 
 constexpr struct {
     int control;
     unsigned text;
 } Captions[] = {
-    {IDC_DEVICES_LABEL, IDS_DEVICES_LABEL}, {IDC_OPTIONS, IDS_BUTTON_OPTIONS},
-    {IDC_SELECT, IDS_BUTTON_SELECT},        {IDC_SAVE, IDS_BUTTON_SAVE},
-    {IDC_REMOVE, IDS_BUTTON_REMOVE},        {IDC_SUMMARY_LABEL, IDS_SUMMARY_LABEL},
-    {IDC_MODULES_LABEL, IDS_MODULES_LABEL},
+    {IDC_FIND_LABEL, IDS_FIND_LABEL}, {IDC_FIND_CLEAR, IDS_FIND_CLEAR},  {IDC_DEVICES, IDS_DEVICES},
+    {IDC_SELECT, IDS_BUTTON_SELECT},  {IDC_OPTIONS, IDS_BUTTON_OPTIONS}, {IDC_LIST_BAR, IDS_LIST_BAR},
 };
 
 }  // namespace
@@ -42,14 +29,20 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_WM_GETMINMAXINFO()
     ON_WM_SIZE()
     ON_COMMAND_RANGE(IDC_FIRST_COMMAND, IDC_LAST_COMMAND, &MainWindow::OnMenuCommand)
-    ON_LBN_SELCHANGE(IDC_CHOSEN, &MainWindow::OnMarkVariable)
+    ON_CONTROL(EN_CHANGE, IDC_FIND, &MainWindow::OnFindText)
     ON_NOTIFY(LVN_GETDISPINFO, IDC_DEVICES, &MainWindow::OnDeviceText)
+    ON_NOTIFY(LVN_GETINFOTIP, IDC_DEVICES, &MainWindow::OnDeviceTip)
     ON_NOTIFY(LVN_ODFINDITEM, IDC_DEVICES, &MainWindow::OnFindDevice)
-    ON_NOTIFY(LVN_ITEMCHANGED, IDC_DEVICES, &MainWindow::OnSelectDevice)
+    ON_NOTIFY(LVN_ITEMCHANGED, IDC_DEVICES, &MainWindow::OnMarkDevice)
+    ON_NOTIFY(LVN_ODSTATECHANGED, IDC_DEVICES, &MainWindow::OnMarkDevice)
     ON_NOTIFY(LVN_KEYDOWN, IDC_DEVICES, &MainWindow::OnDeviceKey)
+    ON_NOTIFY(LVN_COLUMNCLICK, IDC_DEVICES, &MainWindow::OnSortDevices)
     ON_NOTIFY(NM_DBLCLK, IDC_DEVICES, &MainWindow::OnDoubleClickDevice)
+    ON_NOTIFY(TCN_SELCHANGE, IDC_PAGES, &MainWindow::OnSelectPage)
+    ON_MESSAGE(WM_KZ_VARIABLES_MARKED, &MainWindow::OnMarkVariable)
+    ON_MESSAGE(WM_KZ_SPLITTER, &MainWindow::OnSplitter)
     ON_MESSAGE(WM_KZ_OPTIONS_CHANGED, &MainWindow::OnOptionsChanged)
-    ON_MESSAGE(WM_KZ_SELECTION_SETTLED, &MainWindow::OnSelectionSettled)
+    ON_MESSAGE(WM_KZ_MARKS_SETTLED, &MainWindow::OnMarksSettled)
     ON_MESSAGE(WM_ACTIVATEAPP, &MainWindow::OnActivateProgram)
     ON_MESSAGE(WM_KZ_LOOK_AT_FILES, &MainWindow::OnLookAtFiles)
     ON_MESSAGE(WM_KZ_UNPROTECTED, &MainWindow::OnUnprotected)
@@ -58,15 +51,16 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_MESSAGE(WM_ENDSESSION, &MainWindow::OnEndOfSession)
 END_MESSAGE_MAP()
 
-MainWindow::MainWindow(plant::Project& project, const ModuleLoader& modules)
-    : m_project(project), m_modules(modules), m_drivers(project.Devices()), m_questions(*this, project)
+MainWindow::MainWindow(const ModuleLoader& modules, std::unique_ptr<OpenProject> project)
+    : m_modules(modules), m_open(std::move(project)), m_questions(*this, m_open->project)
 {
-    m_project.SetUser(&m_questions);
+    m_open->project.SetUser(&m_questions);
+    m_rows = std::make_unique<DeviceRows>(m_open->project, m_modules);
 }
 
 MainWindow::~MainWindow()
 {
-    m_project.SetUser(nullptr);
+    m_open->project.SetUser(nullptr);
 }
 
 bool MainWindow::Create()
@@ -81,145 +75,157 @@ bool MainWindow::Create()
 void MainWindow::DoDataExchange(CDataExchange* pDX)
 {
     CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_FIND, m_edtFind);
     DDX_Control(pDX, IDC_DEVICES, m_lstDevices);
-    DDX_Control(pDX, IDC_CHOSEN, m_lstChosen);
-    DDX_Control(pDX, IDC_SUMMARY, m_lstSummary);
+    DDX_Control(pDX, IDC_PAGES, m_tab);
 }
 
 BOOL MainWindow::OnInitDialog()
 {
     if (!CDialog::OnInitDialog())
         return FALSE;
-    AddMenu();
     SetProgramIcon(*this);
-    SetTexts();
-    if (!m_pane.CreateInPlaceOf(*this, IDC_PANE)) {
+    if (!m_barList.CreateBehind(*this, IDC_DEVICES, IDC_LIST_BAR) || !m_pageValues.CreateIn(*this) ||
+        !m_pageVariables.CreateIn(*this) || !m_pageOptions.CreateIn(*this)) {
         EndDialog(-1);
         return FALSE;
     }
-    m_layout.Capture(*this, Anchors);
-    m_lstSummary.SetUp();
-    m_lstDevices.Fill(m_project, m_modules);
+    // Behind the tabs in the order of Tab.
+    CWnd* before = GetDlgItem(IDC_PAGE_CAPTION);
+    for (CWnd* page : {static_cast<CWnd*>(&m_pageValues), static_cast<CWnd*>(&m_pageVariables),
+                       static_cast<CWnd*>(&m_pageOptions)}) {
+        page->SetWindowPos(before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        before = page;
+    }
+    SetTexts();
+    m_lstDevices.Show(m_rows.get());
     m_lstDevices.Select(0);
-    ShowDevice();
-    ShowModules();
+    m_lstDevices.FitColumns();
+    ShowMarked();
     GotoDlgCtrl(&m_lstDevices);
     return FALSE;  // the focus is where it should be
-}
-
-// The template draws the client area without the menu, which is not in it because it has a language.
-void MainWindow::AddMenu()
-{
-    CRect before;
-    CRect after;
-    CRect window;
-    GetClientRect(&before);
-    CMenu menu;
-    menu.Attach(MakeMenuBar().release());
-    SetMenu(&menu);
-    menu.Detach();  // the window destroys it
-    GetClientRect(&after);
-    GetWindowRect(&window);
-    SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + before.Height() - after.Height(),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void MainWindow::SetTexts()
 {
     for (const auto& caption : Captions)
         SetDlgItemText(caption.control, EditorText(caption.text).c_str());
+    ShowMenu();
+    m_lstDevices.SetUp();
+    m_pageValues.SetTexts();
+    m_pageVariables.SetTexts();
+    ShowTabs();
+    Arrange();
 }
 
-const KZDeviceIdentity* MainWindow::SelectedDevice() const
+void MainWindow::ShowMenu()
 {
-    return m_nShownRow < 0 ? nullptr : &m_project.Devices()[static_cast<std::size_t>(m_nShownRow)];
+    CMenu menu;
+    menu.Attach(MakeMenuBar().release());
+    const HMENU before = ::GetMenu(m_hWnd);
+    SetMenu(&menu);
+    menu.Detach();  // the window destroys it
+    if (before)
+        ::DestroyMenu(before);
 }
 
-KZDriver* MainWindow::SelectedDriver()
+const KZDeviceIdentity* MainWindow::OnlyDevice() const
 {
-    return m_nShownRow < 0 ? nullptr : &m_drivers[static_cast<std::size_t>(m_nShownRow)];
+    return m_places.size() == 1 ? &m_open->project.Devices()[m_places.front()] : nullptr;
 }
 
-const KZDriverCallbacks* MainWindow::SelectedCallbacks() const
+KZDriver* MainWindow::OnlyDriver()
 {
-    const KZDeviceIdentity* device = SelectedDevice();
+    return m_places.size() == 1 ? &m_open->drivers[m_places.front()] : nullptr;
+}
+
+const KZDriverCallbacks* MainWindow::OnlyCallbacks() const
+{
+    const KZDeviceIdentity* device = OnlyDevice();
     return device ? m_modules.CallbacksOf(device->typeName) : nullptr;
-}
-
-void MainWindow::ShowDevice()
-{
-    m_nShownRow = m_lstDevices.Selected();
-    const KZDeviceIdentity* device = SelectedDevice();
-    if (device)
-        m_shownDevice = device->driverId;
-    ShowChosenVariables();
-    ShowSummary();
-    SetDlgItemText(IDC_PANE_LABEL, device ? FormatEditorText(IDS_PANE_LABEL, device->name.c_str()).c_str()
-                                          : EditorText(IDS_PANE_LABEL_NONE).c_str());
-    if (!device) {
-        m_pane.ShowText(EditorText(IDS_PANE_NO_DEVICE));
-    } else if (const KZDriverCallbacks* callbacks = m_modules.CallbacksOf(device->typeName)) {
-        m_pane.Embed(SelectedDriver(), callbacks->createChildOptions);
-    } else {
-        const ModuleStatus status = m_modules.StatusOf(device->typeName);
-        m_pane.ShowText(status.reason + L"\n" + status.remedy);
-    }
-    ShowState();
-}
-
-void MainWindow::ShowModules()
-{
-    constexpr std::size_t VisibleLines = 2;
-    SetDlgItemText(IDC_MODULES, ModuleSummary(m_modules).c_str());
-    GetDlgItem(IDC_MODULES)->ShowScrollBar(SB_VERT, m_modules.Modules().size() > VisibleLines);
-}
-
-void MainWindow::ShowChosenVariables()
-{
-    const KZDeviceIdentity* device = SelectedDevice();
-    const plant::VariableList chosen =
-        device ? plant::ChosenVariables(*KZMainCfg::Get(), device->driverId) : plant::VariableList{};
-    m_lstChosen.Show(chosen);
-    SetDlgItemText(IDC_CHOSEN_LABEL, FormatEditorText(IDS_CHOSEN_LABEL, static_cast<int>(chosen.size())).c_str());
-}
-
-void MainWindow::ShowSummary()
-{
-    const KZDeviceIdentity* device = SelectedDevice();
-    m_lstSummary.Show(device ? DeviceSummary(m_project, *device) : SummaryRows{});
 }
 
 void MainWindow::ShowState()
 {
     ShowTitle();
+    ShowStatus();
     ShowCommands();
 }
 
 void MainWindow::ShowTitle()
 {
     const unsigned title = m_questions.IsWaiting() ? IDS_TITLE_WAITING : IsDirty() ? IDS_TITLE_DIRTY : IDS_TITLE;
-    SetWindowText(FormatEditorText(title, m_project.Name().c_str()).c_str());
+    SetWindowText(FormatEditorText(title, m_open->project.Name().c_str()).c_str());
+}
+
+void MainWindow::ShowStatus()
+{
+    const int shown = static_cast<int>(m_rows->Shown().size());
+    const int all = static_cast<int>(m_open->project.Devices().size());
+    const std::wstring count = FormatEditorText(IDS_COUNT, shown, all);
+    SetDlgItemText(IDC_FIND_COUNT, count.c_str());
+    const int changed = static_cast<int>(m_open->project.ChangedDevices().size());
+    const std::wstring parts[] = {
+        count,
+        FormatEditorText(IDS_STATUS_MARKED, static_cast<int>(m_places.size())),
+        FormatEditorText(changed == 1 ? IDS_STATUS_ONE_CHANGED : IDS_STATUS_CHANGED, changed),
+    };
+    const CWnd* status = GetDlgItem(IDC_STATUS_BAR);
+    for (WPARAM part = 0; part < std::size(parts); ++part)
+        status->SendMessage(SB_SETTEXTW, part, reinterpret_cast<LPARAM>(parts[part].c_str()));
+}
+
+void MainWindow::Arrange()
+{
+    m_layout.Arrange(*this);
+    const CRect page = FrameLayout::PageArea(*this);
+    for (CWnd* window :
+         {static_cast<CWnd*>(&m_pageValues), static_cast<CWnd*>(&m_pageVariables), static_cast<CWnd*>(&m_pageOptions)})
+        window->MoveWindow(page);
+    m_lstDevices.FitColumns();
+    CRect client;
+    GetClientRect(&client);
+    const int edges[] = {client.Width() / 3, client.Width() * 2 / 3, -1};
+    GetDlgItem(IDC_STATUS_BAR)->SendMessage(SB_SETPARTS, std::size(edges), reinterpret_cast<LPARAM>(edges));
 }
 
 void MainWindow::OnSize(UINT type, int cx, int cy)
 {
     CDialog::OnSize(type, cx, cy);
-    m_layout.Apply();
-    m_lstDevices.FitColumns();
-    m_lstSummary.FitColumns();
+    // Windows tells the size before there are pages.
+    if (type != SIZE_MINIMIZED && m_pageOptions.m_hWnd)
+        Arrange();
 }
 
 void MainWindow::OnGetMinMaxInfo(MINMAXINFO* information)
 {
-    const CSize smallest = m_layout.MinimumWindowSize();
-    information->ptMinTrackSize = {smallest.cx, smallest.cy};
+    CRect smallest(CPoint(), FrameLayout::Smallest(*this));
+    ::AdjustWindowRectEx(&smallest, GetStyle(), TRUE, 0);
+    information->ptMinTrackSize = {smallest.Width(), smallest.Height()};
     // Windows cuts a new window to the screen, and its controls with it; one that sticks out can at least be moved.
     information->ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
 }
 
-void MainWindow::OnMarkVariable()
+LRESULT MainWindow::OnSplitter(WPARAM, LPARAM lParam)
 {
-    ShowState();
+    if (m_layout.MoveListBar(*this, static_cast<int>(lParam)))
+        Arrange();
+    return 0;
+}
+
+void MainWindow::OnFindText()
+{
+    CString text;
+    m_edtFind.GetWindowText(text);
+    m_rows->Filter(text.GetString());
+    m_lstDevices.Refresh(m_marked, m_open->project);
+    ShowMarked();
+}
+
+LRESULT MainWindow::OnMarkVariable(WPARAM, LPARAM)
+{
+    ShowCommands();
+    return 0;
 }
 
 void MainWindow::OnDeviceText(NMHDR* header, LRESULT* result)
@@ -228,26 +234,35 @@ void MainWindow::OnDeviceText(NMHDR* header, LRESULT* result)
     m_lstDevices.GiveText(reinterpret_cast<NMLVDISPINFOW*>(header)->item);
 }
 
+void MainWindow::OnDeviceTip(NMHDR* header, LRESULT* result)
+{
+    *result = 0;
+    m_lstDevices.GiveTip(*reinterpret_cast<NMLVGETINFOTIPW*>(header));
+}
+
 void MainWindow::OnFindDevice(NMHDR* header, LRESULT* result)
 {
     *result = m_lstDevices.Find(*reinterpret_cast<NMLVFINDITEMW*>(header));
 }
 
-void MainWindow::OnSelectDevice(NMHDR*, LRESULT* result)
+// The list takes the mark from one row before it marks the next, and it marks many one by one: what is marked counts
+// once it stays so. A single row that has its mark is shown at once.
+void MainWindow::OnMarkDevice(NMHDR*, LRESULT* result)
 {
     *result = 0;
-    const int row = m_lstDevices.Selected();
-    // The list takes the mark from one row before it marks the next: that there is none counts only if it stays so.
-    if (row < 0)
-        PostMessage(WM_KZ_SELECTION_SETTLED);
-    else if (row != m_nShownRow)
-        ShowDevice();
+    if (m_lstDevices.MarkedCount() == 1 && m_lstDevices.Marked() != m_places) {
+        ShowMarked();
+    } else if (!m_bMarksSettling) {
+        m_bMarksSettling = true;
+        PostMessage(WM_KZ_MARKS_SETTLED);
+    }
 }
 
-LRESULT MainWindow::OnSelectionSettled(WPARAM, LPARAM)
+LRESULT MainWindow::OnMarksSettled(WPARAM, LPARAM)
 {
-    if (m_lstDevices.Selected() != m_nShownRow)
-        ShowDevice();
+    m_bMarksSettling = false;
+    if (m_lstDevices.Marked() != m_places)
+        ShowMarked();
     return 0;
 }
 
@@ -255,6 +270,14 @@ void MainWindow::OnDeviceKey(NMHDR* header, LRESULT* result)
 {
     *result = 0;
     m_lstDevices.LeaveRow(reinterpret_cast<NMLVKEYDOWN*>(header)->wVKey);
+}
+
+void MainWindow::OnSortDevices(NMHDR* header, LRESULT* result)
+{
+    *result = 0;
+    m_lstDevices.SortBy(reinterpret_cast<NMLISTVIEW*>(header)->iSubItem);
+    m_lstDevices.Refresh(m_marked, m_open->project);
+    ShowMarked();
 }
 
 void MainWindow::OnDoubleClickDevice(NMHDR*, LRESULT* result)
@@ -265,9 +288,16 @@ void MainWindow::OnDoubleClickDevice(NMHDR*, LRESULT* result)
 
 LRESULT MainWindow::OnOptionsChanged(WPARAM, LPARAM)
 {
-    ShowSummary();
+    ShowValues();
     ShowState();
     return 0;
+}
+
+// Escape closes dialogs, not the program.
+void MainWindow::OnCancel()
+{
+    if (GetFocus() == &m_edtFind)
+        ClearFind();
 }
 
 BOOL MainWindow::OnCommand(WPARAM wParam, LPARAM lParam)

@@ -1,27 +1,29 @@
-// The editor's main window: the devices of the project and, of the selected one, what is chosen, what is set, and its
+// The editor's main window: the devices of the project and, of the marked ones, what is set, what is chosen, and their
 // options.
 #pragma once
 
-#include <afxwin.h>
-
 #include <functional>
+#include <memory>
 #include <vector>
 
+#include "FrameLayout.h"
+#include "OpenProject.h"
 #include "ProjectQuestions.h"
-#include "modules/DeviceDrivers.h"
-#include "window/AnchoredControls.h"
-#include "window/ChildPane.h"
-#include "window/ChosenListBox.h"
-#include "window/DeviceListView.h"
-#include "window/SummaryView.h"
+#include "Splitter.h"
+#include "window/list/DeviceListView.h"
+#include "window/options/ChildPane.h"
+#include "window/values/ValuesPage.h"
+#include "window/variables/VariablesPage.h"
 
 // To the main window, from itself: look for what other editors and programs have left or changed.
 inline constexpr UINT WM_KZ_LOOK_AT_FILES = WM_APP + 0x131;
 
+enum class PageName { Values, Variables, Options };
+
 class MainWindow : public CDialog {
 public:
-    // Both must outlive the window.
-    MainWindow(plant::Project& project, const ModuleLoader& modules);
+    // The modules must outlive the window.
+    MainWindow(const ModuleLoader& modules, std::unique_ptr<OpenProject> project);
     ~MainWindow() override;
 
     // Creates and shows the window. Returns false when it cannot be created.
@@ -32,9 +34,9 @@ public:
     bool TranslateKey(const MSG& message);
 
     // For the commands. MarkedDevices gives driverIds, in the order of the list.
-    [[nodiscard]] plant::Project& Project() noexcept { return m_project; }
+    [[nodiscard]] plant::Project& Project() const noexcept { return m_open->project; }
     [[nodiscard]] const ModuleLoader& Modules() const noexcept { return m_modules; }
-    [[nodiscard]] std::vector<KZBasicString> MarkedDevices() const;
+    [[nodiscard]] const std::vector<KZBasicString>& MarkedDevices() const noexcept { return m_marked; }
     // Carries out a change of these devices, after which everything is shown anew. What the plant refuses is told to
     // the user, and false is returned.
     bool Change(const std::function<void()>& change);
@@ -44,29 +46,48 @@ public:
     void RemoveVariables();
     void Save();
     void Close();
+    void MarkAll();
+    void GoToFind();
+    void ClearFind();
+    void GoToList();
+    void GoToNextPane() { GoToPane(1); }
+    void GoToPreviousPane() { GoToPane(-1); }
+    void GoToNextDevice();
+    void GoToPreviousDevice();
+    void GoToNextPage() { ShowNextPage(1); }
+    void GoToPreviousPage() { ShowNextPage(-1); }
+    void ShowPage(PageName page);
+    [[nodiscard]] PageName ShownPage() const noexcept { return m_page; }
     [[nodiscard]] bool HasCallbacks() const;
     [[nodiscard]] bool HasMarkedVariables() const;
+    [[nodiscard]] bool HasDevices() const;
     [[nodiscard]] bool IsDirty() const;
+    [[nodiscard]] bool IsFiltered() const;
 
 protected:
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnOK() override {}
-    void OnCancel() override {}  // Escape closes dialogs, not the program
+    void OnCancel() override;
 
     afx_msg void OnClose();
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* information);
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnMenuCommand(UINT id);
-    afx_msg void OnMarkVariable();
+    afx_msg void OnFindText();
     afx_msg void OnDeviceText(NMHDR* header, LRESULT* result);
+    afx_msg void OnDeviceTip(NMHDR* header, LRESULT* result);
     afx_msg void OnFindDevice(NMHDR* header, LRESULT* result);
-    afx_msg void OnSelectDevice(NMHDR* header, LRESULT* result);
+    afx_msg void OnMarkDevice(NMHDR* header, LRESULT* result);
     afx_msg void OnDeviceKey(NMHDR* header, LRESULT* result);
     afx_msg void OnDoubleClickDevice(NMHDR* header, LRESULT* result);
+    afx_msg void OnSortDevices(NMHDR* header, LRESULT* result);
+    afx_msg void OnSelectPage(NMHDR* header, LRESULT* result);
+    afx_msg LRESULT OnMarkVariable(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSplitter(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnOptionsChanged(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnSelectionSettled(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnMarksSettled(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnActivateProgram(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnLookAtFiles(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnUnprotected(WPARAM wParam, LPARAM lParam);
@@ -85,31 +106,49 @@ private:
     void LookForForeignChanges();
     void ShowProject();
 
-    void ShowCommands();
+    // MainWindowPages.cpp
+    void ShowMarked();
+    void ShowCaption();
+    void ShowPageContent();
+    void ShowValues();
+    void ShowVariables();
+    void ShowOptions();
+    void ShowNextPage(int step);
+    void ShowTabs();
+    void GoToPane(int step);
+    [[nodiscard]] CWnd& PageWindow();
 
-    void AddMenu();
+    void ShowCommands();
+    void EnableButton(int id, bool enabled);
+    void StoreVariables(const KZBasicString& driverId, const plant::VariableList& variables);
     void SetTexts();
-    void ShowDevice();
-    void ShowModules();
-    void ShowChosenVariables();
-    void ShowSummary();
+    void ShowMenu();
     void ShowState();
     void ShowTitle();
-    [[nodiscard]] const KZDeviceIdentity* SelectedDevice() const;
-    [[nodiscard]] KZDriver* SelectedDriver();
-    [[nodiscard]] const KZDriverCallbacks* SelectedCallbacks() const;
+    void ShowStatus();
+    void Arrange();
 
-    plant::Project& m_project;
+    // The one device that is marked; null when none is, or several.
+    [[nodiscard]] const KZDeviceIdentity* OnlyDevice() const;
+    [[nodiscard]] const KZDriverCallbacks* OnlyCallbacks() const;
+    [[nodiscard]] KZDriver* OnlyDriver();
+
     const ModuleLoader& m_modules;
-    DeviceDrivers m_drivers;
+    std::unique_ptr<OpenProject> m_open;
     ProjectQuestions m_questions;
-    AnchoredControls m_layout;
+    FrameLayout m_layout;
+    Splitter m_barList{Splitter::Moves::Sideways};
+    CEdit m_edtFind;
+    std::unique_ptr<DeviceRows> m_rows;
     DeviceListView m_lstDevices;
-    ChosenListBox m_lstChosen;
-    SummaryView m_lstSummary;
-    ChildPane m_pane;
-    int m_nShownRow = -1;                    // of the device that everything below the list is about
-    KZBasicString m_shownDevice;             // its driverId
+    CTabCtrl m_tab;
+    ValuesPage m_pageValues;
+    VariablesPage m_pageVariables;
+    ChildPane m_pageOptions;
+    PageName m_page = PageName::Values;
+    std::vector<std::size_t> m_places;       // of the marked devices in the project's list
+    std::vector<KZBasicString> m_marked;     // their driverIds
+    bool m_bMarksSettling = false;           // a message is under way that shows what is marked
     bool m_bDamageTold = false;              // of what other editors have left
     bool m_bRecoveriesOffered = false;       // all of them
     plant::ForeignChanges m_refusedChanges;  // the user keeps his own

@@ -7,23 +7,27 @@
 
 bool MainWindow::HasCallbacks() const
 {
-    return SelectedCallbacks() != nullptr;
+    return OnlyCallbacks() != nullptr;
 }
 
 bool MainWindow::HasMarkedVariables() const
 {
-    return m_lstChosen.HasMarked();
+    return m_pageVariables.HasMarked();
+}
+
+bool MainWindow::HasDevices() const
+{
+    return m_open && !m_rows->Shown().empty();
 }
 
 bool MainWindow::IsDirty() const
 {
-    return m_project.IsDirty();
+    return m_open && m_open->project.IsDirty();
 }
 
-std::vector<KZBasicString> MainWindow::MarkedDevices() const
+bool MainWindow::IsFiltered() const
 {
-    const KZDeviceIdentity* device = SelectedDevice();
-    return device ? std::vector<KZBasicString>{device->driverId} : std::vector<KZBasicString>{};
+    return m_edtFind.GetWindowTextLength() > 0;
 }
 
 bool MainWindow::Change(const std::function<void()>& change)
@@ -48,14 +52,25 @@ void MainWindow::ShowCommands()
             continue;
         const bool enabled = command.isEnabled(*this);
         menu->EnableMenuItem(static_cast<UINT>(command.id), enabled ? MF_ENABLED : MF_GRAYED);
-        CWnd* button = GetDlgItem(command.id);
-        if (!button)
-            continue;
-        // A window that is disabled while it has the focus would swallow the keyboard.
-        if (!enabled && GetFocus() == button)
-            m_lstDevices.SetFocus();
-        button->EnableWindow(enabled);
+        if (command.isChosen)
+            ::CheckMenuItem(menu->m_hMenu, static_cast<UINT>(command.id),
+                            command.isChosen(*this) ? MF_CHECKED : MF_UNCHECKED);
+        EnableButton(command.id, enabled);
     }
+}
+
+// A button stands in the window or on one of its pages.
+void MainWindow::EnableButton(int id, bool enabled)
+{
+    CWnd* button = GetDlgItem(id);
+    if (!button)
+        button = m_pageVariables.GetDlgItem(id);
+    if (!button)
+        return;
+    // A window that is disabled while it has the focus would swallow the keyboard.
+    if (!enabled && GetFocus() == button)
+        m_lstDevices.SetFocus();
+    button->EnableWindow(enabled);
 }
 
 void MainWindow::OnMenuCommand(UINT id)
@@ -76,29 +91,66 @@ bool MainWindow::TranslateKey(const MSG& message)
 
 void MainWindow::OpenOptions()
 {
-    SelectedCallbacks()->options(this, SelectedDriver());
-    ShowSummary();
+    OnlyCallbacks()->options(this, OnlyDriver());
+    ShowPageContent();
     ShowState();
 }
 
 void MainWindow::SelectVariables()
 {
-    const KZBasicString driverId = SelectedDevice()->driverId;
+    const KZBasicString driverId = OnlyDevice()->driverId;
     const plant::VariableList earlier = plant::ChosenVariables(*KZMainCfg::Get(), driverId);
     plant::VariableList variables = earlier;
-    if (SelectedCallbacks()->selectVariables(this, SelectedDriver(), variables, plant::MeasuredGroups, 0, nullptr))
-        plant::StoreChosenVariables(*KZMainCfg::Get(), driverId, plant::MergeChoices(earlier, variables));
-    ShowChosenVariables();
-    ShowState();
+    if (OnlyCallbacks()->selectVariables(this, OnlyDriver(), variables, plant::MeasuredGroups, 0, nullptr))
+        StoreVariables(driverId, plant::MergeChoices(earlier, variables));
 }
 
 void MainWindow::RemoveVariables()
 {
-    const KZBasicString& driverId = SelectedDevice()->driverId;
-    const plant::VariableList chosen = plant::ChosenVariables(*KZMainCfg::Get(), driverId);
-    plant::StoreChosenVariables(*KZMainCfg::Get(), driverId, m_lstChosen.Unmarked(chosen));
-    ShowChosenVariables();
+    const KZBasicString driverId = OnlyDevice()->driverId;
+    StoreVariables(driverId, m_pageVariables.Unmarked(plant::ChosenVariables(*KZMainCfg::Get(), driverId)));
+}
+
+void MainWindow::StoreVariables(const KZBasicString& driverId, const plant::VariableList& variables)
+{
+    plant::StoreChosenVariables(*KZMainCfg::Get(), driverId, variables);
+    m_rows->Refresh({false, false, {&driverId, 1}});
+    m_lstDevices.Invalidate();
+    ShowVariables();
     ShowState();
+}
+
+void MainWindow::MarkAll()
+{
+    m_lstDevices.MarkAll();
+}
+
+void MainWindow::GoToFind()
+{
+    GotoDlgCtrl(&m_edtFind);
+}
+
+void MainWindow::ClearFind()
+{
+    m_edtFind.SetWindowText(L"");
+    GoToFind();
+}
+
+void MainWindow::GoToList()
+{
+    m_lstDevices.SetFocus();
+    if (m_lstDevices.MarkedCount() == 0)
+        m_lstDevices.Select(0);
+}
+
+void MainWindow::GoToNextDevice()
+{
+    m_lstDevices.SelectNext(1);
+}
+
+void MainWindow::GoToPreviousDevice()
+{
+    m_lstDevices.SelectNext(-1);
 }
 
 void MainWindow::Save()
@@ -111,7 +163,7 @@ void MainWindow::Close()
     if (!MayClose())
         return;
     if (m_bUnwanted)
-        m_project.Discard();
+        m_open->project.Discard();
     DestroyWindow();
 }
 

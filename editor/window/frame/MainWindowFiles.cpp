@@ -13,7 +13,7 @@ bool MainWindow::SaveOrSayWhy()
     std::wstring failure;
     try {
         const WaitCursor waiting;
-        outcome = m_project.Save("window");
+        outcome = m_open->project.Save("window");
     } catch (const plant::Refusal& refusal) {
         failure = FormatEditorText(IDS_SAVE_FAILED, PlantMessage(refusal.What()).c_str());
     }
@@ -34,7 +34,7 @@ bool MainWindow::MayClose()
     m_bUnwanted = false;
     if (!IsDirty())
         return true;
-    const std::wstring question = FormatEditorText(IDS_ASK_SAVE, m_project.Name().c_str());
+    const std::wstring question = FormatEditorText(IDS_ASK_SAVE, m_open->project.Name().c_str());
     switch (AfxMessageBox(question.c_str(), MB_YESNOCANCEL | MB_ICONQUESTION)) {
     case IDYES:
         return SaveOrSayWhy();
@@ -46,19 +46,17 @@ bool MainWindow::MayClose()
     }
 }
 
-// The project has been read anew: the selected device may be in another place, or gone.
+// The project's documents have been read anew: devices may be in other places, or gone.
 void MainWindow::ShowProject()
 {
-    const bool focusGoes = ::IsChild(m_pane, ::GetFocus()) != FALSE;
-    m_nShownRow = -1;
-    m_pane.ShowText({});  // the embedded dialog works on a driver
-    m_drivers.Reset();
-    m_lstDevices.Refresh();
-    const plant::DeviceList& devices = m_project.Devices();
-    const auto shown = std::find_if(devices.begin(), devices.end(),
-                                    [this](const auto& device) { return device.driverId == m_shownDevice; });
-    m_lstDevices.Select(shown == devices.end() ? 0 : static_cast<int>(shown - devices.begin()));
-    ShowDevice();
+    const bool focusGoes = ::IsChild(m_pageOptions, ::GetFocus()) != FALSE;
+    m_pageOptions.ShowText({});  // the embedded dialog works on a driver
+    m_open->drivers.Reset();
+    m_rows->Refresh({true, true, {}});
+    m_lstDevices.Refresh(m_marked, m_open->project);
+    if (m_lstDevices.MarkedCount() == 0)
+        m_lstDevices.Select(0);
+    ShowMarked();
     if (focusGoes)
         m_lstDevices.SetFocus();
 }
@@ -66,13 +64,13 @@ void MainWindow::ShowProject()
 // One is taken over at a time: the next would take its place. It is offered when the first is saved.
 void MainWindow::OfferRecoveries()
 {
-    plant::Recoveries recoveries = m_project.FindUnsaved();
+    plant::Recoveries recoveries = m_open->project.FindUnsaved();
     if (!std::exchange(m_bDamageTold, true)) {
         for (const plant::Message& refused : recoveries.refused)
             AfxMessageBox(PlantMessage(refused).c_str(), MB_OK | MB_ICONWARNING);
     }
     for (plant::FoundRecovery& found : recoveries.found) {
-        switch (m_questions.OfferRecovery(found.unsaved, m_project.ChangedSince(found))) {
+        switch (m_questions.OfferRecovery(found.unsaved, m_open->project.ChangedSince(found))) {
         case ProjectQuestions::Offer::TakeOver:
             TakeOver(found);
             return;
@@ -90,7 +88,7 @@ void MainWindow::TakeOver(plant::FoundRecovery& found)
 {
     std::wstring failure;
     try {
-        m_project.Recover(found);
+        m_open->project.Recover(found);
     } catch (const plant::Refusal& refusal) {
         failure = PlantMessage(refusal.What());
     }
@@ -101,7 +99,7 @@ void MainWindow::TakeOver(plant::FoundRecovery& found)
 
 void MainWindow::LookForForeignChanges()
 {
-    plant::ForeignChanges changed = m_project.FindForeignChanges();
+    plant::ForeignChanges changed = m_open->project.FindForeignChanges();
     std::vector<std::string> unasked;
     for (const auto& change : changed) {
         const auto refused = m_refusedChanges.find(change.first);
@@ -111,7 +109,7 @@ void MainWindow::LookForForeignChanges()
     m_refusedChanges = std::move(changed);
     if (unasked.empty() || !m_questions.AskToLoadAnew(unasked))
         return;
-    m_project.TakeTheirs(unasked);
+    m_open->project.TakeTheirs(unasked);
     ShowProject();
 }
 
@@ -163,7 +161,7 @@ LRESULT MainWindow::OnEndOfSession(WPARAM wParam, LPARAM)
     if (!wParam)
         return 0;
     if (isUnwanted)
-        m_project.Discard();
+        m_open->project.Discard();
     // What a dialog in front of the window would do without it is nothing that anybody wants; Windows ends the program.
     if (IsWindowEnabled())
         DestroyWindow();

@@ -1,5 +1,7 @@
 #include "DeviceSummary.h"
 
+#include <algorithm>
+
 #include "KZMainCfg.h"
 #include "KZUtf8.h"
 #include "fields/DeviceRecords.h"
@@ -29,6 +31,15 @@ std::wstring ReadDocument(plant::Project& project, const KZBasicString& driverId
     }
 }
 
+// The row of the same setting; null when there is none.
+const SummaryRow* FindSetting(const SummaryRows& rows, const SummaryRow& wanted)
+{
+    const auto found = std::find_if(rows.begin(), rows.end(), [&wanted](const SummaryRow& row) {
+        return row.section == wanted.section && row.name == wanted.name;
+    });
+    return found == rows.end() ? nullptr : &*found;
+}
+
 }  // namespace
 
 SummaryRows DeviceSummary(plant::Project& project, const KZDeviceIdentity& device)
@@ -51,5 +62,24 @@ SummaryRows DeviceSummary(plant::Project& project, const KZDeviceIdentity& devic
         if (reason.empty() || field.section != FieldSection::Device)
             rows.push_back({SectionName(field.section), FieldCaption(field),
                             FieldValueText(field, records.Value(field)), FromUtf8(field.unit)});
+    return rows;
+}
+
+// Devices of another type, or whose document cannot be read, have other rows; what is common to all is then little.
+SummaryRows DeviceSummary(plant::Project& project, std::span<const KZDeviceIdentity* const> devices)
+{
+    SummaryRows rows;
+    for (const KZDeviceIdentity* const device : devices) {
+        const SummaryRows next = DeviceSummary(project, *device);
+        if (device == devices.front()) {
+            rows = next;
+            continue;
+        }
+        const auto isGone = [&next](const SummaryRow& row) { return !FindSetting(next, row); };
+        std::erase_if(rows, isGone);
+        for (SummaryRow& row : rows)
+            if (FindSetting(next, row)->value != row.value)
+                row.value = EditorText(IDS_VALUE_DIFFERENT);
+    }
     return rows;
 }

@@ -2,8 +2,8 @@
 
 #include "ChildPane.h"
 #include "EmbeddedCommand.h"
-#include "WindowIcon.h"
 #include "text/EditorText.h"
+#include "window/WindowIcon.h"
 
 namespace {
 
@@ -39,6 +39,7 @@ bool ChildWindow::Run(KZDriver* driver, KZChildOptionsFactory factory)
     SetProgramIcon(*this);
     const bool created = m_pane.Embed(driver, factory);
     Arrange();
+    m_pane.ShowWindow(SW_SHOW);
     ShowWindow(SW_SHOW);
     if (CWnd* first = GetNextDlgTabItem(nullptr))
         first->SetFocus();

@@ -22,25 +22,11 @@ void ChildPane::DestroyChild::operator()(CDialog* dialog) const
     delete dialog;
 }
 
-bool ChildPane::CreateInPlaceOf(CWnd& parent, int control)
-{
-    CWnd* place = parent.GetDlgItem(control);
-    if (!CreateIn(parent))
-        return false;
-    CRect rectangle;
-    place->GetWindowRect(&rectangle);
-    parent.ScreenToClient(&rectangle);
-    SetWindowPos(place, rectangle.left, rectangle.top, rectangle.Width(), rectangle.Height(), SWP_NOACTIVATE);
-    place->DestroyWindow();
-    SetDlgCtrlID(control);
-    return true;
-}
-
 bool ChildPane::CreateIn(CWnd& parent)
 {
     if (!Create(IDD_CHILD_PANE, &parent))
         return false;
-    ShowWindow(SW_SHOW);
+    SetDlgCtrlID(IDC_PANE);
     return true;
 }
 

@@ -13,9 +13,6 @@ class ChildPane : public CDialog {
 public:
     ChildPane() = default;
 
-    // Creates the pane in place of a control of the parent's template; it takes that control's id and tab position.
-    bool CreateInPlaceOf(CWnd& parent, int control);
-    // Creates the pane as a window's only child.
     bool CreateIn(CWnd& parent);
 
     // Replaces what the pane shows by the dialog that the factory makes. Returns false when the factory makes none;

@@ -1,0 +1,14 @@
+// The project that a main window shows, and what lives as long as it is open.
+#pragma once
+
+#include "main/ProjectStore.h"
+#include "modules/DeviceDrivers.h"
+
+struct OpenProject {
+    // Throws plant::Refusal when the project cannot be opened.
+    explicit OpenProject(const std::filesystem::path& folder) : project(folder) {}
+
+    plant::Project project;
+    ProjectStore store{project, "window"};
+    DeviceDrivers drivers{project.Devices()};
+};

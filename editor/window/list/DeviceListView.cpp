@@ -1,0 +1,184 @@
+#include "DeviceListView.h"
+
+#include <set>
+
+#include "text/EditorText.h"
+
+namespace {
+
+constexpr ReportColumn Columns[] = {
+    {IDS_COLUMN_SIGNS, 24},       {IDS_COLUMN_NUMBER, 22, LVCFMT_RIGHT}, {IDS_COLUMN_NAME, 56},
+    {IDS_COLUMN_DESCRIPTION, 46}, {IDS_COLUMN_CHOSEN, 22, LVCFMT_RIGHT}, {IDS_COLUMN_MODEL, 50},
+};
+static_assert(std::size(Columns) == DeviceColumnCount);
+
+}  // namespace
+
+void DeviceListView::SetUp()
+{
+    SetColumns(Columns, static_cast<int>(DeviceColumn::Description));
+    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_DOUBLEBUFFER | LVS_EX_INFOTIP |
+                     LVS_EX_HEADERDRAGDROP);
+    ShowSortArrow();
+}
+
+void DeviceListView::Show(DeviceRows* rows)
+{
+    m_pRows = rows;
+    m_nSorted = -1;
+    m_bDescending = false;
+    ShowSortArrow();
+    SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    SetItemCount(rows ? static_cast<int>(rows->Shown().size()) : 0);
+    Invalidate();
+}
+
+void DeviceListView::Refresh(const std::vector<KZBasicString>& marked, const plant::Project& project)
+{
+    const std::set<KZBasicString> wanted(marked.begin(), marked.end());
+    SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    const int rows = static_cast<int>(m_pRows->Shown().size());
+    SetItemCount(rows);
+    int first = -1;
+    for (int row = 0; row < rows && !wanted.empty(); ++row) {
+        if (!wanted.contains(project.Devices()[DeviceOf(row)].driverId))
+            continue;
+        const UINT focus = first < 0 ? LVIS_FOCUSED : 0;
+        SetItemState(row, LVIS_SELECTED | focus, LVIS_SELECTED | focus);
+        if (first < 0)
+            first = row;
+    }
+    if (first >= 0)
+        EnsureVisible(first, FALSE);
+    Invalidate();
+}
+
+void DeviceListView::SortBy(int column)
+{
+    m_bDescending = column == m_nSorted && !m_bDescending;
+    m_nSorted = column;
+    m_pRows->Sort(static_cast<DeviceColumn>(column), m_bDescending);
+    ShowSortArrow();
+}
+
+void DeviceListView::ShowSortArrow()
+{
+    const auto header = reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER));
+    for (int column = 0; column < DeviceColumnCount; ++column) {
+        HDITEMW item{};
+        item.mask = HDI_FORMAT;
+        ::SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+        item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
+        if (column == m_nSorted)
+            item.fmt |= m_bDescending ? HDF_SORTDOWN : HDF_SORTUP;
+        ::SendMessageW(header, HDM_SETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+    }
+}
+
+// Each sign has its place, so that they stand below each other.
+std::wstring DeviceListView::Signs(int row) const
+{
+    const DeviceSigns signs = m_pRows->SignsOf(DeviceOf(row));
+    const bool isMarked = SendMessage(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0;
+    std::wstring text;
+    text += isMarked ? L'>' : L' ';
+    text += signs.isChanged ? L'*' : L' ';
+    text += signs.hasFindings ? L'!' : L' ';
+    text += signs.hasNoModule ? L'#' : L' ';
+    return text;
+}
+
+std::wstring DeviceListView::Text(int row, int column) const
+{
+    const auto kind = static_cast<DeviceColumn>(column);
+    return kind == DeviceColumn::Signs ? Signs(row) : m_pRows->Text(DeviceOf(row), kind);
+}
+
+void DeviceListView::GiveText(LVITEMW& item) const
+{
+    // A question about what was just read anew comes before the list knows of it.
+    const bool isThere = m_pRows && item.iItem < static_cast<int>(m_pRows->Shown().size());
+    if ((item.mask & LVIF_TEXT) != 0 && isThere)
+        ::lstrcpynW(item.pszText, Text(item.iItem, item.iSubItem).c_str(), item.cchTextMax);
+}
+
+void DeviceListView::GiveTip(NMLVGETINFOTIPW& tip) const
+{
+    if (!m_pRows || tip.iItem < 0 || tip.iItem >= static_cast<int>(m_pRows->Shown().size()))
+        return;
+    const DeviceSigns signs = m_pRows->SignsOf(DeviceOf(tip.iItem));
+    const struct {
+        bool holds;
+        unsigned text;
+    } words[] = {
+        {SendMessage(LVM_GETITEMSTATE, static_cast<WPARAM>(tip.iItem), LVIS_SELECTED) != 0, IDS_SIGN_MARKED},
+        {signs.isChanged, IDS_SIGN_CHANGED},
+        {signs.hasFindings, IDS_SIGN_FINDINGS},
+        {signs.hasNoModule, IDS_SIGN_NO_MODULE},
+    };
+    std::wstring text;
+    for (const auto& word : words)
+        if (word.holds)
+            text.append(text.empty() ? L"" : L", ").append(EditorText(word.text));
+    ::lstrcpynW(tip.pszText, text.c_str(), tip.cchTextMax);
+}
+
+int DeviceListView::Find(const NMLVFINDITEMW& wanted) const
+{
+    const int rows = GetItemCount();
+    if ((wanted.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0)
+        return -1;
+    for (int step = 0; step < rows; ++step) {
+        const int row = (wanted.iStart + step) % rows;
+        if (row < wanted.iStart && (wanted.lvfi.flags & LVFI_WRAP) == 0)
+            return -1;
+        const std::wstring number = m_pRows->Text(DeviceOf(row), DeviceColumn::Number);
+        if ((wanted.lvfi.flags & LVFI_PARTIAL) != 0 ? number.starts_with(wanted.lvfi.psz) : number == wanted.lvfi.psz)
+            return row;
+    }
+    return -1;
+}
+
+std::vector<std::size_t> DeviceListView::Marked() const
+{
+    std::vector<std::size_t> marked;
+    if (!m_pRows)
+        return marked;
+    const int rows = static_cast<int>(m_pRows->Shown().size());
+    for (int row = GetNextItem(-1, LVNI_SELECTED); row >= 0 && row < rows; row = GetNextItem(row, LVNI_SELECTED))
+        marked.push_back(DeviceOf(row));
+    return marked;
+}
+
+void DeviceListView::Select(int row)
+{
+    SetItemState(-1, 0, LVIS_SELECTED);
+    SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    // Where a range that is marked with Shift begins.
+    SendMessage(LVM_SETSELECTIONMARK, 0, row);
+    EnsureVisible(row, FALSE);
+}
+
+void DeviceListView::MarkAll()
+{
+    SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+}
+
+void DeviceListView::SelectNext(int step)
+{
+    const int row = GetNextItem(-1, LVNI_FOCUSED) + step;
+    if (row >= 0 && row < GetItemCount())
+        Select(row);
+}
+
+void DeviceListView::LeaveRow(WORD key)
+{
+    const int row = GetNextItem(-1, LVNI_SELECTED);
+    const bool goesUp = key == VK_UP || key == VK_PRIOR || key == VK_HOME;
+    const bool goesDown = key == VK_DOWN || key == VK_NEXT || key == VK_END;
+    const bool goes = (goesUp && row > 0) || (goesDown && row >= 0 && row < GetItemCount() - 1);
+    // With Ctrl the focus alone moves, with Shift the marks stay.
+    const bool isPlain = ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0;
+    if (goes && MarkedCount() == 1 && row == GetNextItem(-1, LVNI_FOCUSED) && isPlain)
+        SetItemState(row, 0, LVIS_SELECTED);
+}

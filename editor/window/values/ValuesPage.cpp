@@ -1,0 +1,88 @@
+#include "ValuesPage.h"
+
+#include "text/EditorText.h"
+#include "window/shared/FillWindow.h"
+
+namespace {
+
+enum Column : int { ColumnSetting, ColumnValue, ColumnUnit };
+
+constexpr ReportColumn Columns[] = {
+    {IDS_COLUMN_SETTING, 130},
+    {IDS_COLUMN_VALUE, 84},
+    {IDS_COLUMN_UNIT, 40},
+};
+
+constexpr wchar_t Indent[] = L"    ";
+
+std::wstring Text(const SummaryRow& row, int column)
+{
+    switch (column) {
+    case ColumnSetting:
+        return row.name.empty() ? row.section : Indent + row.name;
+    case ColumnValue:
+        return row.value;
+    default:
+        return row.unit;
+    }
+}
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(ValuesPage, CDialog)
+    ON_WM_SIZE()
+    ON_NOTIFY(LVN_GETDISPINFO, IDC_VALUES, &ValuesPage::OnGiveText)
+END_MESSAGE_MAP()
+
+bool ValuesPage::CreateIn(CWnd& parent)
+{
+    if (!Create(IDD_VALUES, &parent))
+        return false;
+    SetTexts();
+    return true;
+}
+
+void ValuesPage::DoDataExchange(CDataExchange* pDX)
+{
+    CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_VALUES, m_lstValues);
+}
+
+void ValuesPage::SetTexts()
+{
+    m_lstValues.SetColumns(Columns, ColumnValue);
+    m_lstValues.SetWindowText(EditorText(IDS_PAGE_VALUES).c_str());
+}
+
+void ValuesPage::Show(SummaryRows rows)
+{
+    m_rows.clear();
+    for (SummaryRow& row : rows) {
+        if (m_rows.empty() || m_rows.back().section != row.section)
+            m_rows.push_back({row.section, {}, {}, {}});
+        m_rows.push_back(std::move(row));
+    }
+    // The same number again would take the list to its start.
+    if (m_lstValues.GetItemCount() != static_cast<int>(m_rows.size())) {
+        m_lstValues.SetItemCount(static_cast<int>(m_rows.size()));
+        m_lstValues.FitColumns();  // a scroll bar came or went
+    }
+    m_lstValues.Invalidate();
+}
+
+void ValuesPage::OnSize(UINT type, int cx, int cy)
+{
+    CDialog::OnSize(type, cx, cy);
+    FillWindow(*this, IDC_VALUES);
+    if (m_lstValues.m_hWnd)
+        m_lstValues.FitColumns();
+}
+
+void ValuesPage::OnGiveText(NMHDR* header, LRESULT* result)
+{
+    *result = 0;
+    LVITEMW& item = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
+    if ((item.mask & LVIF_TEXT) != 0 && item.iItem < static_cast<int>(m_rows.size()))
+        ::lstrcpynW(item.pszText, Text(m_rows[static_cast<std::size_t>(item.iItem)], item.iSubItem).c_str(),
+                    item.cchTextMax);
+}

@@ -1,0 +1,30 @@
+// The page of what the marked devices are set to: setting, value, unit, under the names of the sections. What differs
+// between devices is said to be different.
+#pragma once
+
+#include "DeviceSummary.h"
+#include "window/ReportList.h"
+
+class ValuesPage : public CDialog {
+public:
+    bool CreateIn(CWnd& parent);
+
+    // Texts in the user's language; what is shown has to be shown anew.
+    void SetTexts();
+    // Shows the rows, or none.
+    void Show(SummaryRows rows);
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    void OnOK() override {}
+    void OnCancel() override {}
+
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnGiveText(NMHDR* header, LRESULT* result);
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    ReportList m_lstValues;
+    SummaryRows m_rows;  // as shown, with a row for the name of each section
+};
