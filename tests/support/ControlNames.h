@@ -1,4 +1,4 @@
-// The names that the id headers of module and host give their controls.
+// The names that the id headers of module, host and the editor's dialogs give their controls.
 #pragma once
 
 #include <string>

@@ -13,7 +13,7 @@ constexpr EditorDialog::Caption Captions[] = {
     {IDCANCEL, IDS_BUTTON_CLOSE},
 };
 
-constexpr int ColumnDocuments = 3;
+constexpr int ColumnCause = 2;
 
 constexpr ReportColumn Columns[] = {
     {IDS_COLUMN_NUMBER, 34},
@@ -57,7 +57,7 @@ BOOL HistoryDialog::OnInitDialog()
 {
     if (!EditorDialog::OnInitDialog())
         return FALSE;
-    m_lstSaves.SetUp(Columns, ColumnDocuments,
+    m_lstSaves.SetUp(Columns, ColumnCause,
                      [this](int row, int column) { return Cell(m_saves[static_cast<std::size_t>(row)], column); });
     m_lstSaves.ShowRows(static_cast<int>(m_saves.size()));
     m_lstSaves.MarkOnly(0);

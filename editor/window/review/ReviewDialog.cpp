@@ -12,6 +12,8 @@ constexpr EditorDialog::Caption Captions[] = {
     {IDOK, IDS_REVIEW_TAKE_BACK}, {IDCANCEL, IDS_BUTTON_CLOSE},
 };
 
+constexpr int ColumnWhat = 1;
+
 constexpr ReportColumn Columns[] = {
     {IDS_COLUMN_DEVICE, 80},
     {IDS_COLUMN_SETTING, 130},
@@ -62,7 +64,7 @@ BOOL ReviewDialog::OnInitDialog()
 {
     if (!EditorDialog::OnInitDialog())
         return FALSE;
-    m_lstChanges.SetUp(Columns, 3, [this](int row, int column) { return Row(row).*Cells[column]; });
+    m_lstChanges.SetUp(Columns, ColumnWhat, [this](int row, int column) { return Row(row).*Cells[column]; });
     m_lstChanges.SetCheckBoxes(
         [this](int row) { return Row(row).canBeTakenBack ? std::optional(Row(row).isChecked) : std::nullopt; },
         [this](int row, bool isChecked) {
