@@ -86,3 +86,11 @@
 
 // The question before a save
 #define IDS_ASK_TO_SAVE 2275  // %d %d: the changes, the devices
+
+// Commands
+#define IDS_COMMAND_HISTORY 2276
+#define IDS_COMMAND_MODULES 2277
+#define IDS_COMMAND_ABOUT 2278
+#define IDS_HISTORY_BY_WINDOW 2279
+#define IDS_HISTORY_NOTHING 2280  // %d: the save
+#define IDS_HISTORY_CONFIRM 2281  // %d %d %s: the documents, the save, their names

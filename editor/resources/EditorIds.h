@@ -11,6 +11,7 @@
 // Commands: menu items and, where there is one, the button of the same id. A hundred numbers, twenty for each menu.
 #define IDC_FIRST_COMMAND 1100
 #define IDC_SAVE 1102
+#define IDC_HISTORY 1104
 #define IDC_EXIT 1119
 #define IDC_MARK_ALL 1124
 #define IDC_GO_FIND 1125
@@ -20,6 +21,8 @@
 #define IDC_SHOW_VALUES 1170
 #define IDC_SHOW_VARIABLES 1172
 #define IDC_SHOW_OPTIONS 1173
+#define IDC_MODULES 1180
+#define IDC_ABOUT 1181
 #define IDC_FIND_CLEAR 1190
 #define IDC_FIND_DOWN 1191
 #define IDC_FIND_ENTER 1192

@@ -15,7 +15,7 @@ constexpr struct {
 } Blocks[] = {
     {IDS_NO_HOST_STRING, IDS_DIAGNOSIS_FONT},
     {IDS_MENU_FILE, IDS_SIGN_NO_MODULE},
-    {IDS_LIST_COPY, IDS_ASK_TO_SAVE},
+    {IDS_LIST_COPY, IDS_HISTORY_CONFIRM},
 };
 
 // The conversions of a printf format, in their order.

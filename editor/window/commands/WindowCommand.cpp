@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ProgramCommands.h"
+#include "resources/DialogTextIds.h"
 #include "resources/EditorIds.h"
 #include "window/frame/MainWindow.h"
 
@@ -41,6 +43,7 @@ bool Shows(const Window& window)
 // clang-format off
 constexpr WindowCommand Commands[] = {
     {MenuName::File, IDC_SAVE, IDS_COMMAND_SAVE, {FCONTROL, 'S'}, 0, When<&Window::IsDirty>, Run<&Window::Save>},
+    {MenuName::File, IDC_HISTORY, IDS_COMMAND_HISTORY, {}, 0, Always, ShowHistory},
     {MenuName::File},
     {MenuName::File, IDC_EXIT, IDS_COMMAND_EXIT, {FALT, VK_F4}, 0, Always, Run<&Window::Close>},
 
@@ -55,6 +58,9 @@ constexpr WindowCommand Commands[] = {
     {MenuName::View, IDC_SHOW_VALUES, IDS_COMMAND_SHOW_VALUES, {FCONTROL, '1'}, 0, Always, Show<PageName::Values>, Shows<PageName::Values>},
     {MenuName::View, IDC_SHOW_VARIABLES, IDS_COMMAND_SHOW_VARIABLES, {FCONTROL, '3'}, 0, Always, Show<PageName::Variables>, Shows<PageName::Variables>},
     {MenuName::View, IDC_SHOW_OPTIONS, IDS_COMMAND_SHOW_OPTIONS, {FCONTROL, '4'}, 0, Always, Show<PageName::Options>, Shows<PageName::Options>},
+
+    {MenuName::Help, IDC_MODULES, IDS_COMMAND_MODULES, {}, 0, Always, ShowModules},
+    {MenuName::Help, IDC_ABOUT, IDS_COMMAND_ABOUT, {}, 0, Always, ShowAbout},
 
     {MenuName::None, IDC_FIND_CLEAR, 0, {}, 0, When<&Window::IsFiltered>, Run<&Window::ClearFind>},
     {MenuName::None, IDC_FIND_DOWN, 0, {0, VK_DOWN}, IDC_FIND, Always, Run<&Window::GoToList>},
