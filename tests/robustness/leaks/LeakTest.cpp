@@ -3,47 +3,26 @@
 
 #include <functional>
 
-#include "Endurance.h"
 #include "EventLog.h"
 #include "MemoryFaults.h"
-#include "ProcessState.h"
+#include "Repetition.h"
 #include "ScriptedUser.h"
-#include "StaticControls.h"
 #include "ZepProject.h"
 
 namespace {
 
 class RepeatedDialog : public testing::Test {
 protected:
-    // Opens and closes a dialog in the usual number of rounds, after some that make what stays.
     void Repeat(const std::function<void(std::list<KZBasicString>&)>& openAndClose, OptionalSection section = {})
     {
-        constexpr long WarmUp = 12;
-        const long rounds = endurance::Rounds(25, 1000);
-        for (long round = 0; round < WarmUp; ++round)
-            Round(openAndClose, section);
-        const StaticControlCount statics;
-        const ProcessState before = CountProcessState();
-        const long long bytesBefore = CountHeapBytes();
-        long blocks = 0;
-        for (long round = 0; round < rounds; ++round)
-            blocks += Round(openAndClose, section);
-        const long long bytes = CountHeapBytes() - bytesBefore;
-        const long long systems = StaticControlCount::Count() * m_bytesPerStatic;
-        EXPECT_EQ(CountProcessState(), before);
-        EXPECT_EQ(blocks, 0) << "blocks that the product's own DLLs and the C++ library have left";
-        EXPECT_LT(bytes - systems, 1024) << "bytes by which all heaps of the process have grown";
-        std::printf("%ld rounds: %ld blocks of the product left; the process has grown by %lld bytes, up to %lld of "
-                    "them Wine's "
-                    "own for %ld static controls\n",
-                    rounds, blocks, bytes, systems, StaticControlCount::Count());
+        m_repetition.Repeat([&] { return Round(openAndClose, section); });
     }
     void RepeatOptions(OptionalSection section = {})
     {
         Repeat([&](auto&) { m_project.Options(); }, section);
     }
 
-    long long m_bytesPerStatic = BytesLeftByAStaticControl();
+    Repetition m_repetition;
     EventLog m_log{0};
     ZepProject m_project;
 
