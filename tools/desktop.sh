@@ -17,6 +17,8 @@ desktop_start() {
   wine_stop
   unset WAYLAND_DISPLAY XAUTHORITY
   export LC_ALL=C.UTF-8
+  KZ_SETTINGS=$(wine_path "$desktop_folder/settings.xml")
+  export KZ_SETTINGS
   if [ -n "${desktop_locale:-}" ]; then wine_locale "$desktop_locale"; fi
   Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3> "$desktop_folder/display" > /dev/null 2>&1 &
   desktop_xvfb=$!

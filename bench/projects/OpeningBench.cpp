@@ -33,7 +33,7 @@ void TakeMessages()
 class OpenWindow {
 public:
     OpenWindow(std::unique_ptr<OpenProject> project, const ModuleLoader& modules)
-        : m_window(modules, std::move(project))
+        : m_window(modules, m_settings, std::move(project))
     {
         m_window.Create();
         Paint();
@@ -59,6 +59,8 @@ private:
         ::RedrawWindow(m_window.m_hWnd, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     }
 
+    kztest::TemporaryFolder m_folder;
+    SettingsFile m_settings{m_folder.Path() / "settings.xml"};
     MainWindow m_window;
 };
 

@@ -112,6 +112,7 @@ Arguments ParseArguments(std::vector<std::string> words)
     }
     arguments.command = CommandNamed(typed.command);
     arguments.project = FromUtf8(typed.project);
+    arguments.isProjectGiven = typed.isProjectGiven;
     if (typed.language)
         arguments.language = ParseLanguage(*typed.language);
     arguments.device = FromUtf8(typed.device);

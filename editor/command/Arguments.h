@@ -38,6 +38,7 @@ enum class Command {
 struct Arguments {
     Command command = Command::Window;
     std::filesystem::path project = L".";
+    bool isProjectGiven = false;
     std::optional<KZLanguage> language;  // nothing: the user's
     std::wstring device;                 // copy: the one to copy from
     KZVariableGroups groups = plant::AllGroups();

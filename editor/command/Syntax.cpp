@@ -153,7 +153,11 @@ Syntax::Syntax()
     m_app.fallthrough();
     m_app.require_subcommand(0, 1);
     m_app.allow_windows_style_options(false);  // a path or a name may begin with a slash
-    m_app.add_option("--project", m_typed.project, "The project's folder, which holds main.xml (default: this folder)");
+    m_app
+        .add_option(
+            "--project", m_typed.project,
+            "The project's folder, which holds main.xml (default: this folder; for the window, the last project)")
+        ->each([this](const std::string&) { m_typed.isProjectGiven = true; });
     m_app.add_option("--language", m_typed.language, "en or es (default: the user's)");
     AddProjectCommands();
     AddDialogCommands();

@@ -9,6 +9,7 @@ struct TypedArguments {
     std::string command;              // empty: none was typed
     std::optional<std::string> help;  // the help text, when it was asked for
     std::string project = ".";
+    bool isProjectGiven = false;
     std::optional<std::string> language;
     std::string device;
     std::optional<std::string> groups;

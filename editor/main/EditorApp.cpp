@@ -22,6 +22,19 @@ void Report(const char* utf8Line) noexcept
     ::MessageBoxW(nullptr, FromUtf8(utf8Line).c_str(), L"KZEditor", MB_OK | MB_ICONERROR);
 }
 
+// Null without one, and with a message when it can no longer be opened.
+std::unique_ptr<OpenProject> LastProject(const EditorSettings& settings, std::wstring& failure)
+{
+    if (settings.lastProject.empty())
+        return nullptr;
+    try {
+        return std::make_unique<OpenProject>(settings.lastProject);
+    } catch (const plant::Refusal& refusal) {
+        failure = PlantMessage(refusal.What());
+        return nullptr;
+    }
+}
+
 void RegisterControlClasses() noexcept
 {
     const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_WIN95_CLASSES};
@@ -65,14 +78,24 @@ int EditorApp::RunArguments(const Arguments& arguments)
 
 int EditorApp::RunWindow(const Arguments& arguments)
 {
-    auto project = std::make_unique<OpenProject>(arguments.project);
+    SettingsFile settings(SettingsFile::OfTheUser());
+    if (!arguments.language && settings.settings.language)
+        KZQuorvelantaSetup::Get()->SetLanguage(*settings.settings.language);
+    std::wstring failure;
+    std::unique_ptr<OpenProject> project;
+    if (arguments.isProjectGiven)
+        project = std::make_unique<OpenProject>(arguments.project);
+    else
+        project = LastProject(settings.settings, failure);
     CloseOwnConsole();
     const ModuleLoader modules(ProgramFolder());
-    MainWindow window(modules, std::move(project));
+    MainWindow window(modules, settings, std::move(project));
     if (!window.Create())
         throw EditorError(EditorText(IDS_NO_WINDOW));
     m_pMainWnd = &window;
     m_window = &window;
+    if (!failure.empty())
+        AfxMessageBox(failure.c_str(), MB_OK | MB_ICONWARNING);
     Run();
     m_window = nullptr;
     return ExitTrue;

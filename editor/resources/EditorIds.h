@@ -7,12 +7,18 @@
 #define IDD_CHILD_WINDOW 105
 #define IDD_VALUES 106
 #define IDD_VARIABLES 107
+#define IDD_START 108
 
 // Commands: menu items and, where there is one, the button of the same id. A hundred numbers, twenty for each menu.
 #define IDC_FIRST_COMMAND 1100
+#define IDC_NEW 1100
+#define IDC_OPEN 1101
 #define IDC_SAVE 1102
 #define IDC_HISTORY 1104
+#define IDC_RECENT_FIRST 1108  // to 1117
 #define IDC_EXIT 1119
+#define IDC_UNDO 1120
+#define IDC_REDO 1121
 #define IDC_MARK_ALL 1124
 #define IDC_GO_FIND 1125
 #define IDC_SELECT 1140
@@ -23,6 +29,10 @@
 #define IDC_SHOW_OPTIONS 1173
 #define IDC_MODULES 1180
 #define IDC_ABOUT 1181
+#define IDC_ENGLISH 1176
+#define IDC_SPANISH 1177
+#define IDC_OPEN_MARKED 1188
+#define IDC_FORGET_MARKED 1189
 #define IDC_FIND_CLEAR 1190
 #define IDC_FIND_DOWN 1191
 #define IDC_FIND_ENTER 1192
@@ -46,6 +56,8 @@
 #define IDC_VALUES 1018
 #define IDC_PAGE_CAPTION 1019
 #define IDC_STATUS_BAR 1022
+#define IDC_RECENT_LABEL 1023
+#define IDC_RECENT 1024
 
 // The pane that embeds a driver's options dialog, in the main window and in the child window.
 #define IDC_PANE 1020
@@ -167,3 +179,17 @@
 #define IDS_SIGN_CHANGED 2133
 #define IDS_SIGN_FINDINGS 2134
 #define IDS_SIGN_NO_MODULE 2135
+#define IDS_COMMAND_NEW 2136
+#define IDS_COMMAND_OPEN 2137
+#define IDS_MENU_RECENT 2138
+#define IDS_COMMAND_UNDO 2139
+#define IDS_COMMAND_UNDO_STEP 2140
+#define IDS_COMMAND_REDO 2141
+#define IDS_COMMAND_REDO_STEP 2142
+#define IDS_MENU_LANGUAGE 2143
+#define IDS_COMMAND_ENGLISH 2144
+#define IDS_COMMAND_SPANISH 2145
+#define IDS_RECENT_LABEL 2146
+#define IDS_TITLE_NONE 2147
+#define IDS_TITLE_READ_ONLY 2148
+#define IDS_UNDO_IMPOSSIBLE 2149

@@ -50,7 +50,7 @@ void ExpectAccessKeys(HMENU menu)
 
 TEST_P(CommandTable, MakesMenusWhoseItemsAllHaveAccessKeysOfTheirOwn)
 {
-    const MenuHandle bar = MakeMenuBar();
+    const MenuHandle bar = MakeMenuBar(nullptr);
     EXPECT_GE(::GetMenuItemCount(bar.get()), 2);
     EXPECT_EQ(ItemText(bar.get(), 0), GetParam() == KZLanguage::Spanish ? L"&Archivo" : L"&File");
     ExpectAccessKeys(bar.get());
@@ -58,7 +58,7 @@ TEST_P(CommandTable, MakesMenusWhoseItemsAllHaveAccessKeysOfTheirOwn)
 
 TEST_P(CommandTable, ShowsEachCommandInItsMenuWithItsKey)
 {
-    const MenuHandle bar = MakeMenuBar();
+    const MenuHandle bar = MakeMenuBar(nullptr);
     for (const WindowCommand& command : WindowCommands()) {
         if (command.id == 0)
             continue;
@@ -66,7 +66,7 @@ TEST_P(CommandTable, ShowsEachCommandInItsMenuWithItsKey)
         ::GetMenuStringW(bar.get(), static_cast<UINT>(command.id), text, 128, MF_BYCOMMAND);
         const std::wstring key = KeyText(command.key);
         const std::wstring item = EditorText(command.text) + (key.empty() ? L"" : L"\t" + key);
-        EXPECT_EQ(text, command.menu == MenuName::None ? L"" : item) << command.id;
+        EXPECT_EQ(text, command.menu == MenuName::None || command.text == 0 ? L"" : item) << command.id;
         EXPECT_TRUE(command.isEnabled && command.run) << command.id;
         EXPECT_EQ(FindWindowCommand(command.id), &command) << "another command has the number " << command.id;
         EXPECT_TRUE(command.id >= IDC_FIRST_COMMAND && command.id <= IDC_LAST_COMMAND) << command.id;

@@ -35,7 +35,7 @@ protected:
             devices += editor_tests::DeviceXml("zep-" + digits, "F" + digits, "0x74", "ZEP", digits);
         }
         m_folder.Write("main.xml", editor_tests::MainXml(devices));
-        m_window.emplace(m_modules, std::make_unique<OpenProject>(m_folder.Path()));
+        m_window.emplace(m_modules, m_settings, std::make_unique<OpenProject>(m_folder.Path()));
     }
     void SetUp() override { ASSERT_TRUE(m_window->Create()); }
     ~ManyDevices() override { m_window->DestroyWindow(); }

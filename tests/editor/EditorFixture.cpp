@@ -12,6 +12,8 @@ namespace editor_tests {
 
 EditorTest::EditorTest() : m_program(m_folder.Path() / "program")
 {
+    // What the editor remembers is this test's own.
+    ::SetEnvironmentVariableW(L"KZ_SETTINGS", (m_folder.Path() / "settings.xml").c_str());
     m_folder.Write("plant/main.xml",
                    MainXml(DeviceXml("zep-1", "GRÚA.1", "0x74") + DeviceXml("zep-2", "NODIALOG", "0x8B") +
                            DeviceXml("xyz-1", "OTHER", "0x0", "XYZ")));

@@ -77,6 +77,7 @@ protected:
     kztest::TemporaryFolder m_copied;
     std::unique_ptr<OpenProject> m_opened = std::make_unique<OpenProject>(CopyOfThePlant());
     plant::Project& m_project = m_opened->project;
+    SettingsFile m_settings{m_copied.Path() / "settings.xml"};
     ModuleLoader m_modules{ProgramFolder().parent_path() / "bin"};
 };
 
@@ -110,7 +111,7 @@ protected:
         }
     }
 
-    MainWindow m_window{m_modules, std::move(m_opened)};
+    MainWindow m_window{m_modules, m_settings, std::move(m_opened)};
 };
 
 }  // namespace editor_tests

@@ -114,7 +114,8 @@ void ShowModules(MainWindow& window)
 
 void ShowAbout(MainWindow& window)
 {
-    const Diagnosis diagnosis = Diagnose(window.Modules(), window.Project().Folder());
+    const Diagnosis diagnosis =
+        Diagnose(window.Modules(), window.HasProject() ? window.Project().Folder() : plant::Path(L"."));
     wchar_t program[MAX_PATH] = L"";
     ::GetModuleFileNameW(nullptr, program, MAX_PATH);
     AboutDialog(&window, FileVersion(program), FromUtf8(DiagnosisText(diagnosis))).DoModal();
@@ -132,5 +133,5 @@ void ShowHistory(MainWindow& window)
     }
     HistoryDialog dialog(&window, std::move(saves), [&](int number) { return ConfirmRestore(project, number); });
     if (dialog.DoModal() == IDOK)
-        window.Change([&] { project.Restore(dialog.Number(), false); });
+        window.CarryOut([&] { project.Restore(dialog.Number(), false); });
 }

@@ -40,37 +40,97 @@ bool Shows(const Window& window)
     return window.ShownPage() == Page;
 }
 
+template <std::size_t Index>
+void OpenRecent(Window& window)
+{
+    window.OpenRecent(Index);
+}
+
+template <std::size_t Index>
+std::wstring RecentCaption(const Window& window)
+{
+    return window.RecentCaption(Index);
+}
+
+template <KZLanguage Language>
+void Speak(Window& window)
+{
+    window.Speak(Language);
+}
+
+template <KZLanguage Language>
+bool Speaks(const Window&)
+{
+    return KZQuorvelantaSetup::Get()->Language() == Language;
+}
+
+std::wstring UndoCaption(const Window& window)
+{
+    return window.UndoCaption();
+}
+
+std::wstring RedoCaption(const Window& window)
+{
+    return window.RedoCaption();
+}
+
 // clang-format off
 constexpr WindowCommand Commands[] = {
+    {MenuName::File, IDC_NEW, IDS_COMMAND_NEW, {FCONTROL, 'N'}, 0, Always, Run<&Window::NewProject>},
+    {MenuName::File, IDC_OPEN, IDS_COMMAND_OPEN, {FCONTROL, 'O'}, 0, Always, Run<&Window::OpenAnother>},
+    {.menu = MenuName::File, .text = IDS_MENU_RECENT, .opens = MenuName::Recent},
+    {MenuName::File},
     {MenuName::File, IDC_SAVE, IDS_COMMAND_SAVE, {FCONTROL, 'S'}, 0, When<&Window::IsDirty>, Run<&Window::Save>},
-    {MenuName::File, IDC_HISTORY, IDS_COMMAND_HISTORY, {}, 0, Always, ShowHistory},
+    {MenuName::File, IDC_HISTORY, IDS_COMMAND_HISTORY, {}, 0, When<&Window::HasProject>, ShowHistory},
     {MenuName::File},
     {MenuName::File, IDC_EXIT, IDS_COMMAND_EXIT, {FALT, VK_F4}, 0, Always, Run<&Window::Close>},
 
+    {MenuName::Edit, IDC_UNDO, IDS_COMMAND_UNDO, {FCONTROL, 'Z'}, 0, When<&Window::CanUndo>, Run<&Window::Undo>, nullptr, UndoCaption},
+    {MenuName::Edit, IDC_REDO, IDS_COMMAND_REDO, {FCONTROL, 'Y'}, 0, When<&Window::CanRedo>, Run<&Window::Redo>, nullptr, RedoCaption},
+    {MenuName::Edit},
     {MenuName::Edit, IDC_MARK_ALL, IDS_COMMAND_MARK_ALL, {FCONTROL, 'A'}, IDC_DEVICES, When<&Window::HasDevices>, Run<&Window::MarkAll>},
-    {MenuName::Edit, IDC_GO_FIND, IDS_COMMAND_FIND, {FCONTROL, 'F'}, 0, Always, Run<&Window::GoToFind>},
+    {MenuName::Edit, IDC_GO_FIND, IDS_COMMAND_FIND, {FCONTROL, 'F'}, 0, When<&Window::HasProject>, Run<&Window::GoToFind>},
 
     {MenuName::Device, IDC_SELECT, IDS_COMMAND_SELECT, {0, VK_F5}, 0, When<&Window::HasCallbacks>, Run<&Window::SelectVariables>},
     {MenuName::Device, IDC_OPTIONS, IDS_COMMAND_OPTIONS, {0, VK_F4}, 0, When<&Window::HasCallbacks>, Run<&Window::OpenOptions>},
     {MenuName::Device},
     {MenuName::Device, IDC_REMOVE, IDS_COMMAND_REMOVE_VARIABLES, {0, VK_DELETE}, IDC_CHOSEN, When<&Window::HasMarkedVariables>, Run<&Window::RemoveVariables>},
 
-    {MenuName::View, IDC_SHOW_VALUES, IDS_COMMAND_SHOW_VALUES, {FCONTROL, '1'}, 0, Always, Show<PageName::Values>, Shows<PageName::Values>},
-    {MenuName::View, IDC_SHOW_VARIABLES, IDS_COMMAND_SHOW_VARIABLES, {FCONTROL, '3'}, 0, Always, Show<PageName::Variables>, Shows<PageName::Variables>},
-    {MenuName::View, IDC_SHOW_OPTIONS, IDS_COMMAND_SHOW_OPTIONS, {FCONTROL, '4'}, 0, Always, Show<PageName::Options>, Shows<PageName::Options>},
+    {MenuName::View, IDC_SHOW_VALUES, IDS_COMMAND_SHOW_VALUES, {FCONTROL, '1'}, 0, When<&Window::HasProject>, Show<PageName::Values>, Shows<PageName::Values>},
+    {MenuName::View, IDC_SHOW_VARIABLES, IDS_COMMAND_SHOW_VARIABLES, {FCONTROL, '3'}, 0, When<&Window::HasProject>, Show<PageName::Variables>, Shows<PageName::Variables>},
+    {MenuName::View, IDC_SHOW_OPTIONS, IDS_COMMAND_SHOW_OPTIONS, {FCONTROL, '4'}, 0, When<&Window::HasProject>, Show<PageName::Options>, Shows<PageName::Options>},
+
+    {MenuName::View},
+    {.menu = MenuName::View, .text = IDS_MENU_LANGUAGE, .opens = MenuName::Language},
+
+    {MenuName::Language, IDC_ENGLISH, IDS_COMMAND_ENGLISH, {}, 0, Always, Speak<KZLanguage::English>, Speaks<KZLanguage::English>},
+    {MenuName::Language, IDC_SPANISH, IDS_COMMAND_SPANISH, {}, 0, Always, Speak<KZLanguage::Spanish>, Speaks<KZLanguage::Spanish>},
+
+    {MenuName::Recent, IDC_RECENT_FIRST, 0, {}, 0, Always, OpenRecent<0>, nullptr, RecentCaption<0>},
+    {MenuName::Recent, IDC_RECENT_FIRST + 1, 0, {}, 0, Always, OpenRecent<1>, nullptr, RecentCaption<1>},
+    {MenuName::Recent, IDC_RECENT_FIRST + 2, 0, {}, 0, Always, OpenRecent<2>, nullptr, RecentCaption<2>},
+    {MenuName::Recent, IDC_RECENT_FIRST + 3, 0, {}, 0, Always, OpenRecent<3>, nullptr, RecentCaption<3>},
+    {MenuName::Recent, IDC_RECENT_FIRST + 4, 0, {}, 0, Always, OpenRecent<4>, nullptr, RecentCaption<4>},
+    {MenuName::Recent, IDC_RECENT_FIRST + 5, 0, {}, 0, Always, OpenRecent<5>, nullptr, RecentCaption<5>},
+    {MenuName::Recent, IDC_RECENT_FIRST + 6, 0, {}, 0, Always, OpenRecent<6>, nullptr, RecentCaption<6>},
+    {MenuName::Recent, IDC_RECENT_FIRST + 7, 0, {}, 0, Always, OpenRecent<7>, nullptr, RecentCaption<7>},
+    {MenuName::Recent, IDC_RECENT_FIRST + 8, 0, {}, 0, Always, OpenRecent<8>, nullptr, RecentCaption<8>},
+    {MenuName::Recent, IDC_RECENT_FIRST + 9, 0, {}, 0, Always, OpenRecent<9>, nullptr, RecentCaption<9>},
 
     {MenuName::Help, IDC_MODULES, IDS_COMMAND_MODULES, {}, 0, Always, ShowModules},
     {MenuName::Help, IDC_ABOUT, IDS_COMMAND_ABOUT, {}, 0, Always, ShowAbout},
 
+    {MenuName::None, IDC_OPEN_MARKED, 0, {0, VK_RETURN}, IDC_RECENT, Always, Run<&Window::OpenMarkedRecent>},
+    {MenuName::None, IDC_FORGET_MARKED, 0, {0, VK_DELETE}, IDC_RECENT, Always, Run<&Window::ForgetMarkedRecent>},
     {MenuName::None, IDC_FIND_CLEAR, 0, {}, 0, When<&Window::IsFiltered>, Run<&Window::ClearFind>},
     {MenuName::None, IDC_FIND_DOWN, 0, {0, VK_DOWN}, IDC_FIND, Always, Run<&Window::GoToList>},
     {MenuName::None, IDC_FIND_ENTER, 0, {0, VK_RETURN}, IDC_FIND, Always, Run<&Window::GoToList>},
-    {MenuName::None, IDC_NEXT_PANE, 0, {0, VK_F6}, 0, Always, Run<&Window::GoToNextPane>},
-    {MenuName::None, IDC_PREVIOUS_PANE, 0, {FSHIFT, VK_F6}, 0, Always, Run<&Window::GoToPreviousPane>},
+    {MenuName::None, IDC_NEXT_PANE, 0, {0, VK_F6}, 0, When<&Window::HasProject>, Run<&Window::GoToNextPane>},
+    {MenuName::None, IDC_PREVIOUS_PANE, 0, {FSHIFT, VK_F6}, 0, When<&Window::HasProject>, Run<&Window::GoToPreviousPane>},
     {MenuName::None, IDC_NEXT_DEVICE, 0, {FCONTROL, VK_DOWN}, 0, When<&Window::HasDevices>, Run<&Window::GoToNextDevice>},
     {MenuName::None, IDC_PREVIOUS_DEVICE, 0, {FCONTROL, VK_UP}, 0, When<&Window::HasDevices>, Run<&Window::GoToPreviousDevice>},
-    {MenuName::None, IDC_NEXT_PAGE, 0, {FCONTROL, VK_TAB}, 0, Always, Run<&Window::GoToNextPage>},
-    {MenuName::None, IDC_PREVIOUS_PAGE, 0, {FCONTROL | FSHIFT, VK_TAB}, 0, Always, Run<&Window::GoToPreviousPage>},
+    {MenuName::None, IDC_NEXT_PAGE, 0, {FCONTROL, VK_TAB}, 0, When<&Window::HasProject>, Run<&Window::GoToNextPage>},
+    {MenuName::None, IDC_PREVIOUS_PAGE, 0, {FCONTROL | FSHIFT, VK_TAB}, 0, When<&Window::HasProject>, Run<&Window::GoToPreviousPage>},
 };
 // clang-format on
 

@@ -18,7 +18,7 @@ struct KeyStroke {
 };
 
 // None: keys and buttons alone.
-enum class MenuName { File, Edit, Device, Project, View, Help, None };
+enum class MenuName { File, Edit, Device, Project, View, Help, Recent, Language, None };
 
 struct WindowCommand {
     MenuName menu;
@@ -30,6 +30,9 @@ struct WindowCommand {
     bool (*isEnabled)(const MainWindow&) = nullptr;
     void (*run)(MainWindow&) = nullptr;
     bool (*isChosen)(const MainWindow&) = nullptr;  // of several of which one holds: this one has the mark
+    // The item's text where it says more than the text alone; empty: there is no such item now.
+    std::wstring (*caption)(const MainWindow&) = nullptr;
+    MenuName opens = MenuName::None;  // of a row without id and with a text: the menu that opens there
 };
 
 // In the order of the menus.

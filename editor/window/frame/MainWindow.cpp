@@ -40,6 +40,8 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_NOTIFY(NM_DBLCLK, IDC_DEVICES, &MainWindow::OnDoubleClickDevice)
     ON_NOTIFY(TCN_SELCHANGE, IDC_PAGES, &MainWindow::OnSelectPage)
     ON_MESSAGE(WM_KZ_VARIABLES_MARKED, &MainWindow::OnMarkVariable)
+    ON_MESSAGE(WM_CONTEXTMENU, &MainWindow::OnContextMenu)
+    ON_MESSAGE(WM_KZ_CHANGES, &MainWindow::OnChanges)
     ON_MESSAGE(WM_KZ_SPLITTER, &MainWindow::OnSplitter)
     ON_MESSAGE(WM_KZ_OPTIONS_CHANGED, &MainWindow::OnOptionsChanged)
     ON_MESSAGE(WM_KZ_MARKS_SETTLED, &MainWindow::OnMarksSettled)
@@ -51,23 +53,22 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_MESSAGE(WM_ENDSESSION, &MainWindow::OnEndOfSession)
 END_MESSAGE_MAP()
 
-MainWindow::MainWindow(const ModuleLoader& modules, std::unique_ptr<OpenProject> project)
-    : m_modules(modules), m_open(std::move(project)), m_questions(*this, m_open->project)
+MainWindow::MainWindow(const ModuleLoader& modules, SettingsFile& settings, std::unique_ptr<OpenProject> project)
+    : m_modules(modules), m_settings(settings), m_open(std::move(project)), m_questions(*this)
 {
-    m_open->project.SetUser(&m_questions);
-    m_rows = std::make_unique<DeviceRows>(m_open->project, m_modules);
 }
 
 MainWindow::~MainWindow()
 {
-    m_open->project.SetUser(nullptr);
+    Detach();
 }
 
 bool MainWindow::Create()
 {
     if (!CDialog::Create(IDD_MAIN))
         return false;
-    ShowWindow(SW_SHOW);
+    RestorePlace();
+    ShowWindow(m_settings.settings.isMaximized ? SW_SHOWMAXIMIZED : SW_SHOW);
     PostMessage(WM_KZ_LOOK_AT_FILES);
     return true;
 }
@@ -86,7 +87,7 @@ BOOL MainWindow::OnInitDialog()
         return FALSE;
     SetProgramIcon(*this);
     if (!m_barList.CreateBehind(*this, IDC_DEVICES, IDC_LIST_BAR) || !m_pageValues.CreateIn(*this) ||
-        !m_pageVariables.CreateIn(*this) || !m_pageOptions.CreateIn(*this)) {
+        !m_pageVariables.CreateIn(*this) || !m_pageOptions.CreateIn(*this) || !m_paneStart.CreateIn(*this)) {
         EndDialog(-1);
         return FALSE;
     }
@@ -97,12 +98,11 @@ BOOL MainWindow::OnInitDialog()
         page->SetWindowPos(before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         before = page;
     }
+    if (m_settings.settings.listShare != 0)
+        m_layout.SetListShare(m_settings.settings.listShare);
+    m_pageOptions.SetAround([this](const std::function<void()>& command) { RunEmbedded(command); });
     SetTexts();
-    m_lstDevices.Show(m_rows.get());
-    m_lstDevices.Select(0);
-    m_lstDevices.FitColumns();
-    ShowMarked();
-    GotoDlgCtrl(&m_lstDevices);
+    Attach();
     return FALSE;  // the focus is where it should be
 }
 
@@ -114,6 +114,7 @@ void MainWindow::SetTexts()
     m_lstDevices.SetUp();
     m_pageValues.SetTexts();
     m_pageVariables.SetTexts();
+    m_paneStart.Show(RecentProjects());
     ShowTabs();
     Arrange();
 }
@@ -121,7 +122,7 @@ void MainWindow::SetTexts()
 void MainWindow::ShowMenu()
 {
     CMenu menu;
-    menu.Attach(MakeMenuBar().release());
+    menu.Attach(MakeMenuBar(this).release());
     const HMENU before = ::GetMenu(m_hWnd);
     SetMenu(&menu);
     menu.Detach();  // the window destroys it
@@ -154,12 +155,24 @@ void MainWindow::ShowState()
 
 void MainWindow::ShowTitle()
 {
-    const unsigned title = m_questions.IsWaiting() ? IDS_TITLE_WAITING : IsDirty() ? IDS_TITLE_DIRTY : IDS_TITLE;
+    if (!m_open) {
+        SetWindowText(EditorText(IDS_TITLE_NONE).c_str());
+        return;
+    }
+    const unsigned title = m_questions.IsWaiting()        ? IDS_TITLE_WAITING
+                           : IsDirty()                    ? IDS_TITLE_DIRTY
+                           : m_open->project.IsReadOnly() ? IDS_TITLE_READ_ONLY
+                                                          : IDS_TITLE;
     SetWindowText(FormatEditorText(title, m_open->project.Name().c_str()).c_str());
 }
 
 void MainWindow::ShowStatus()
 {
+    if (!m_open) {
+        for (WPARAM part = 0; part < 3; ++part)
+            GetDlgItem(IDC_STATUS_BAR)->SendMessage(SB_SETTEXTW, part, reinterpret_cast<LPARAM>(L""));
+        return;
+    }
     const int shown = static_cast<int>(m_rows->Shown().size());
     const int all = static_cast<int>(m_open->project.Devices().size());
     const std::wstring count = FormatEditorText(IDS_COUNT, shown, all);
@@ -185,6 +198,9 @@ void MainWindow::Arrange()
     m_lstDevices.FitColumns();
     CRect client;
     GetClientRect(&client);
+    CRect status;
+    GetDlgItem(IDC_STATUS_BAR)->GetWindowRect(&status);
+    m_paneStart.MoveWindow(0, 0, client.Width(), client.Height() - status.Height());
     const int edges[] = {client.Width() / 3, client.Width() * 2 / 3, -1};
     GetDlgItem(IDC_STATUS_BAR)->SendMessage(SB_SETPARTS, std::size(edges), reinterpret_cast<LPARAM>(edges));
 }
@@ -215,6 +231,8 @@ LRESULT MainWindow::OnSplitter(WPARAM, LPARAM lParam)
 
 void MainWindow::OnFindText()
 {
+    if (!m_open)
+        return;
     CString text;
     m_edtFind.GetWindowText(text);
     m_rows->Filter(text.GetString());
@@ -288,7 +306,6 @@ void MainWindow::OnDoubleClickDevice(NMHDR*, LRESULT* result)
 
 LRESULT MainWindow::OnOptionsChanged(WPARAM, LPARAM)
 {
-    ShowValues();
     ShowState();
     return 0;
 }

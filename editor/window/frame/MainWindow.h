@@ -10,20 +10,25 @@
 #include "OpenProject.h"
 #include "ProjectQuestions.h"
 #include "Splitter.h"
+#include "settings/EditorSettings.h"
 #include "window/list/DeviceListView.h"
 #include "window/options/ChildPane.h"
+#include "window/start/StartPane.h"
 #include "window/values/ValuesPage.h"
 #include "window/variables/VariablesPage.h"
 
 // To the main window, from itself: look for what other editors and programs have left or changed.
 inline constexpr UINT WM_KZ_LOOK_AT_FILES = WM_APP + 0x131;
 
+// To the main window, from itself: show what has changed in the project.
+inline constexpr UINT WM_KZ_CHANGES = WM_APP + 0x133;
+
 enum class PageName { Values, Variables, Options };
 
-class MainWindow : public CDialog {
+class MainWindow : public CDialog, private plant::ProjectListener {
 public:
-    // The modules must outlive the window.
-    MainWindow(const ModuleLoader& modules, std::unique_ptr<OpenProject> project);
+    // Without a project the window offers to open one. Modules and settings must outlive the window.
+    MainWindow(const ModuleLoader& modules, SettingsFile& settings, std::unique_ptr<OpenProject> project);
     ~MainWindow() override;
 
     // Creates and shows the window. Returns false when it cannot be created.
@@ -33,14 +38,33 @@ public:
     // message, and for all while a dialog is open.
     bool TranslateKey(const MSG& message);
 
-    // For the commands. MarkedDevices gives driverIds, in the order of the list.
+    // For the commands. Only HasProject may be asked while there is none. MarkedDevices gives driverIds, in the order
+    // of the list.
+    [[nodiscard]] bool HasProject() const noexcept { return m_open != nullptr; }
     [[nodiscard]] plant::Project& Project() const noexcept { return m_open->project; }
     [[nodiscard]] const ModuleLoader& Modules() const noexcept { return m_modules; }
     [[nodiscard]] const std::vector<KZBasicString>& MarkedDevices() const noexcept { return m_marked; }
-    // Carries out a change of these devices, after which everything is shown anew. What the plant refuses is told to
-    // the user, and false is returned.
-    bool Change(const std::function<void()>& change);
+    // Carries out a change of these devices that can be undone, and shows it. What the plant refuses is told to the
+    // user, and false is returned.
+    bool Change(plant::Message name, const std::vector<KZBasicString>& driverIds, const std::function<void()>& change);
+    // The same of what cannot be undone.
+    bool CarryOut(const std::function<void()>& work);
+    // Opens another project in place of this one, after asking what is to become of unsaved changes. One that cannot be
+    // opened is told to the user, this one stays, and false is returned.
+    bool Open(const std::filesystem::path& folder);
+    [[nodiscard]] const std::vector<std::wstring>& RecentProjects() const noexcept
+    {
+        return m_settings.settings.recent;
+    }
 
+    void NewProject();
+    void OpenAnother();
+    void OpenRecent(std::size_t index);
+    void OpenMarkedRecent();
+    void ForgetMarkedRecent();
+    void Undo();
+    void Redo();
+    void Speak(KZLanguage language);
     void OpenOptions();
     void SelectVariables();
     void RemoveVariables();
@@ -58,6 +82,11 @@ public:
     void GoToPreviousPage() { ShowNextPage(-1); }
     void ShowPage(PageName page);
     [[nodiscard]] PageName ShownPage() const noexcept { return m_page; }
+    [[nodiscard]] bool CanUndo() const { return m_open && m_open->undo.CanUndo(); }
+    [[nodiscard]] bool CanRedo() const { return m_open && m_open->undo.CanRedo(); }
+    [[nodiscard]] std::wstring UndoCaption() const;
+    [[nodiscard]] std::wstring RedoCaption() const;
+    [[nodiscard]] std::wstring RecentCaption(std::size_t index) const;
     [[nodiscard]] bool HasCallbacks() const;
     [[nodiscard]] bool HasMarkedVariables() const;
     [[nodiscard]] bool HasDevices() const;
@@ -85,6 +114,8 @@ protected:
     afx_msg void OnSortDevices(NMHDR* header, LRESULT* result);
     afx_msg void OnSelectPage(NMHDR* header, LRESULT* result);
     afx_msg LRESULT OnMarkVariable(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnContextMenu(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnChanges(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSplitter(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnOptionsChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnMarksSettled(WPARAM wParam, LPARAM lParam);
@@ -106,6 +137,17 @@ private:
     void LookForForeignChanges();
     void ShowProject();
 
+    // MainWindowProjects.cpp
+    void Attach();
+    void Detach() noexcept;
+    void ShowPanes();
+    void RestorePlace();
+    void StorePlace();
+    void OnProjectChanged(const plant::ProjectChange& change) noexcept override;
+    void ShowChanges();
+    void GoBack(bool isUndo);
+    void RunEmbedded(const std::function<void()>& command) noexcept;
+
     // MainWindowPages.cpp
     void ShowMarked();
     void ShowCaption();
@@ -120,7 +162,6 @@ private:
 
     void ShowCommands();
     void EnableButton(int id, bool enabled);
-    void StoreVariables(const KZBasicString& driverId, const plant::VariableList& variables);
     void SetTexts();
     void ShowMenu();
     void ShowState();
@@ -134,6 +175,7 @@ private:
     [[nodiscard]] KZDriver* OnlyDriver();
 
     const ModuleLoader& m_modules;
+    SettingsFile& m_settings;
     std::unique_ptr<OpenProject> m_open;
     ProjectQuestions m_questions;
     FrameLayout m_layout;
@@ -145,9 +187,13 @@ private:
     ValuesPage m_pageValues;
     VariablesPage m_pageVariables;
     ChildPane m_pageOptions;
+    StartPane m_paneStart;
     PageName m_page = PageName::Values;
     std::vector<std::size_t> m_places;       // of the marked devices in the project's list
     std::vector<KZBasicString> m_marked;     // their driverIds
+    bool m_bChangesShown = true;             // of the project since the last time
+    bool m_bAllChanged = false;              // of what is to be shown
+    std::vector<KZBasicString> m_changed;    // the devices of which it is
     bool m_bMarksSettling = false;           // a message is under way that shows what is marked
     bool m_bDamageTold = false;              // of what other editors have left
     bool m_bRecoveriesOffered = false;       // all of them

@@ -2,8 +2,8 @@
 #include "KZMainCfg.h"
 #include "MainWindow.h"
 #include "project/GroupMask.h"
-#include "text/PlantMessage.h"
 #include "window/commands/CommandKeys.h"
+#include "window/commands/MenuBar.h"
 
 bool MainWindow::HasCallbacks() const
 {
@@ -30,45 +30,25 @@ bool MainWindow::IsFiltered() const
     return m_edtFind.GetWindowTextLength() > 0;
 }
 
-bool MainWindow::Change(const std::function<void()>& change)
-{
-    std::wstring failure;
-    try {
-        change();
-    } catch (const plant::Refusal& refusal) {
-        failure = PlantMessage(refusal.What());
-    }
-    ShowProject();
-    if (!failure.empty())
-        AfxMessageBox(failure.c_str(), MB_OK | MB_ICONERROR);
-    return failure.empty();
-}
-
 void MainWindow::ShowCommands()
 {
-    CMenu* menu = GetMenu();
-    for (const WindowCommand& command : WindowCommands()) {
-        if (command.id == 0)
-            continue;
-        const bool enabled = command.isEnabled(*this);
-        menu->EnableMenuItem(static_cast<UINT>(command.id), enabled ? MF_ENABLED : MF_GRAYED);
-        if (command.isChosen)
-            ::CheckMenuItem(menu->m_hMenu, static_cast<UINT>(command.id),
-                            command.isChosen(*this) ? MF_CHECKED : MF_UNCHECKED);
-        EnableButton(command.id, enabled);
-    }
+    ShowStateIn(::GetMenu(m_hWnd), *this);
+    for (const WindowCommand& command : WindowCommands())
+        if (command.id != 0)
+            EnableButton(command.id, command.isEnabled(*this));
 }
 
 // A button stands in the window or on one of its pages.
 void MainWindow::EnableButton(int id, bool enabled)
 {
     CWnd* button = GetDlgItem(id);
-    if (!button)
-        button = m_pageVariables.GetDlgItem(id);
+    for (const CWnd* page : {static_cast<const CWnd*>(&m_pageVariables), static_cast<const CWnd*>(&m_paneStart)})
+        if (!button)
+            button = page->GetDlgItem(id);
     if (!button)
         return;
     // A window that is disabled while it has the focus would swallow the keyboard.
-    if (!enabled && GetFocus() == button)
+    if (!enabled && GetFocus() == button && m_open)
         m_lstDevices.SetFocus();
     button->EnableWindow(enabled);
 }
@@ -89,35 +69,35 @@ bool MainWindow::TranslateKey(const MSG& message)
     return command != nullptr;
 }
 
+// A project that cannot be written is looked at without a step to undo.
 void MainWindow::OpenOptions()
 {
-    OnlyCallbacks()->options(this, OnlyDriver());
-    ShowPageContent();
-    ShowState();
+    const KZDeviceIdentity device = *OnlyDevice();
+    const auto open = [this] { OnlyCallbacks()->options(this, OnlyDriver()); };
+    if (m_open->project.IsReadOnly())
+        open();
+    else
+        Change({IDS_PLANT_STEP_OPTIONS, {device.name.c_str()}}, {device.driverId}, open);
 }
 
 void MainWindow::SelectVariables()
 {
-    const KZBasicString driverId = OnlyDevice()->driverId;
-    const plant::VariableList earlier = plant::ChosenVariables(*KZMainCfg::Get(), driverId);
-    plant::VariableList variables = earlier;
-    if (OnlyCallbacks()->selectVariables(this, OnlyDriver(), variables, plant::MeasuredGroups, 0, nullptr))
-        StoreVariables(driverId, plant::MergeChoices(earlier, variables));
+    const KZDeviceIdentity device = *OnlyDevice();
+    Change({IDS_PLANT_STEP_VARIABLES, {device.name.c_str()}}, {device.driverId}, [this, &device] {
+        const plant::VariableList earlier = plant::ChosenVariables(*KZMainCfg::Get(), device.driverId);
+        plant::VariableList variables = earlier;
+        if (OnlyCallbacks()->selectVariables(this, OnlyDriver(), variables, plant::MeasuredGroups, 0, nullptr))
+            plant::StoreChosenVariables(*KZMainCfg::Get(), device.driverId, plant::MergeChoices(earlier, variables));
+    });
 }
 
 void MainWindow::RemoveVariables()
 {
-    const KZBasicString driverId = OnlyDevice()->driverId;
-    StoreVariables(driverId, m_pageVariables.Unmarked(plant::ChosenVariables(*KZMainCfg::Get(), driverId)));
-}
-
-void MainWindow::StoreVariables(const KZBasicString& driverId, const plant::VariableList& variables)
-{
-    plant::StoreChosenVariables(*KZMainCfg::Get(), driverId, variables);
-    m_rows->Refresh({false, false, {&driverId, 1}});
-    m_lstDevices.Invalidate();
-    ShowVariables();
-    ShowState();
+    const KZDeviceIdentity device = *OnlyDevice();
+    Change({IDS_PLANT_STEP_VARIABLES, {device.name.c_str()}}, {device.driverId}, [this, &device] {
+        const plant::VariableList chosen = plant::ChosenVariables(*KZMainCfg::Get(), device.driverId);
+        plant::StoreChosenVariables(*KZMainCfg::Get(), device.driverId, m_pageVariables.Unmarked(chosen));
+    });
 }
 
 void MainWindow::MarkAll()
@@ -164,6 +144,7 @@ void MainWindow::Close()
         return;
     if (m_bUnwanted)
         m_open->project.Discard();
+    StorePlace();
     DestroyWindow();
 }
 

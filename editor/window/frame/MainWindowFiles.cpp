@@ -49,6 +49,7 @@ bool MainWindow::MayClose()
 // The project's documents have been read anew: devices may be in other places, or gone.
 void MainWindow::ShowProject()
 {
+    m_bChangesShown = true;
     const bool focusGoes = ::IsChild(m_pageOptions, ::GetFocus()) != FALSE;
     m_pageOptions.ShowText({});  // the embedded dialog works on a driver
     m_open->drivers.Reset();
@@ -124,7 +125,7 @@ LRESULT MainWindow::OnActivateProgram(WPARAM wParam, LPARAM)
 LRESULT MainWindow::OnLookAtFiles(WPARAM, LPARAM)
 {
     // A dialog in front of the window works on what was read; saving asks in any case.
-    if (!IsWindowEnabled())
+    if (!IsWindowEnabled() || !m_open)
         return 0;
     try {
         if (!m_bRecoveriesOffered && !IsDirty())

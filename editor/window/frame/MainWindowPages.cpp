@@ -42,7 +42,7 @@ void MainWindow::ShowValues()
     std::vector<const KZDeviceIdentity*> devices;
     for (const std::size_t place : m_places)
         devices.push_back(&m_open->project.Devices()[place]);
-    m_pageValues.Show(DeviceSummary(m_open->project, devices));
+    m_pageValues.Show(devices.empty() ? SummaryRows() : DeviceSummary(m_open->project, devices));
 }
 
 void MainWindow::ShowVariables()

@@ -1,6 +1,7 @@
 // The project that a main window shows, and what lives as long as it is open.
 #pragma once
 
+#include "changes/UndoList.h"
 #include "main/ProjectStore.h"
 #include "modules/DeviceDrivers.h"
 
@@ -10,5 +11,6 @@ struct OpenProject {
 
     plant::Project project;
     ProjectStore store{project, "window"};
+    plant::UndoList undo{project};
     DeviceDrivers drivers{project.Devices()};
 };

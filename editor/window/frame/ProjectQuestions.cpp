@@ -36,7 +36,7 @@ std::wstring ProjectQuestions::Listed(const std::vector<std::string>& documents)
     std::wstring list;
     for (std::size_t index = 0; index < std::min(documents.size(), most); ++index) {
         list.append(list.empty() ? L"" : L", ").append(FromUtf8(documents[index]));
-        for (const KZDeviceIdentity& device : m_project.Devices()) {
+        for (const KZDeviceIdentity& device : m_project->Devices()) {
             if (plant::DeviceDocumentName(device.driverId) == documents[index])
                 list.append(L" (").append(device.name.View()).append(L")");
         }
@@ -84,7 +84,7 @@ void ProjectQuestions::TellWaiting(bool isWaiting) noexcept
 bool ProjectQuestions::AskToLoadAnew(const std::vector<std::string>& documents) const
 {
     const bool loses = std::any_of(documents.begin(), documents.end(),
-                                   [this](const std::string& name) { return m_project.IsUnsaved(name); });
+                                   [this](const std::string& name) { return m_project->IsUnsaved(name); });
     const std::wstring question =
         FormatEditorText(loses ? IDS_FOREIGN_NOTICED_DIRTY : IDS_FOREIGN_NOTICED, Listed(documents).c_str());
     return AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION | (loses ? MB_DEFBUTTON2 : MB_DEFBUTTON1)) ==

@@ -15,10 +15,10 @@ inline constexpr UINT WM_KZ_WAITING = WM_APP + 0x132;
 
 class ProjectQuestions : public plant::ProjectUser {
 public:
-    // The window that gets WM_KZ_UNPROTECTED, and the project; not owned.
-    ProjectQuestions(const CWnd& window, const plant::Project& project) noexcept : m_window(window), m_project(project)
-    {
-    }
+    // The window that gets WM_KZ_UNPROTECTED; not owned.
+    explicit ProjectQuestions(const CWnd& window) noexcept : m_window(window) {}
+    // The project that is asked about, or null; not owned.
+    void SetProject(const plant::Project* project) noexcept { m_project = project; }
 
     Answer AskAboutForeignChanges(const std::vector<std::string>& documents) override;
     // The message may come out of the middle of a dialog's work, so the window is told later, and once for each reason.
@@ -40,7 +40,7 @@ private:
     [[nodiscard]] std::wstring Listed(const std::vector<std::string>& documents) const;
 
     const CWnd& m_window;
-    const plant::Project& m_project;
+    const plant::Project* m_project = nullptr;
     std::wstring m_warning;
     std::optional<WaitCursor> m_waiting;
 };

@@ -1,5 +1,7 @@
 #include "ChildPane.h"
 
+#include <commctrl.h>
+
 #include "KZDlgOptions.h"
 #include "text/EditorText.h"
 
@@ -38,10 +40,25 @@ bool ChildPane::Embed(KZDriver* driver, KZChildOptionsFactory factory)
         ShowText(EditorText(IDS_PANE_NO_DIALOG));
         return false;
     }
+    if (m_around)
+        ::SetWindowSubclass(m_pChild->m_hWnd, ChildProcedure, 0, reinterpret_cast<DWORD_PTR>(this));
     GetDlgItem(IDC_PANE_TEXT)->ShowWindow(SW_HIDE);
     Arrange();
     m_pChild->ShowWindow(SW_SHOWNA);
     return true;
+}
+
+// A section runs inside the command of its button.
+LRESULT CALLBACK ChildPane::ChildProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                           DWORD_PTR pane)
+{
+    LRESULT result = 0;
+    const auto handle = [&] { result = ::DefSubclassProc(window, message, wParam, lParam); };
+    if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED)
+        reinterpret_cast<const ChildPane*>(pane)->m_around(handle);
+    else
+        handle();
+    return result;
 }
 
 void ChildPane::ShowText(const std::wstring& text)

@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -14,6 +15,10 @@ public:
     ChildPane() = default;
 
     bool CreateIn(CWnd& parent);
+
+    // Runs around each command of the embedded dialog, which it has to carry out. Nothing runs around it until set.
+    using Around = std::function<void(const std::function<void()>& command)>;
+    void SetAround(Around around) { m_around = std::move(around); }
 
     // Replaces what the pane shows by the dialog that the factory makes. Returns false when the factory makes none;
     // the pane then says so.
@@ -41,6 +46,9 @@ private:
     };
 
     void Arrange();
+    static LRESULT CALLBACK ChildProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                           DWORD_PTR pane);
 
+    Around m_around;
     std::unique_ptr<CDialog, DestroyChild> m_pChild;
 };
