@@ -41,7 +41,9 @@ void AppendCheck(std::string& text, const zep::LimitVariable& variable)
     for (std::size_t field = 0; field < variable.fieldCount; ++field) {
         const std::wstring_view wide = zep::LimitFieldNames[field];
         const std::string element(wide.begin(), wide.end());
-        text += "        <" + element + ">0.250000</" + element + ">\n";
+        // Of the power factor the nominal is 0 or 1.
+        const bool isWhole = variable.kind == zep::LimitKind::PowerFactor && field == 0;
+        text += "        <" + element + (isWhole ? ">1.000000</" : ">0.250000</") + element + ">\n";
     }
     text += "      </check>\n";
 }

@@ -1,5 +1,5 @@
-// A whole plant as one table: exporting it beside the two XML libraries reading the same files, importing it beside
-// exporting it.
+// A whole plant as one table: exporting and checking it beside the two XML libraries reading the same files, importing
+// it beside exporting it.
 #include <expat.h>
 
 #include <pugixml.hpp>
@@ -8,6 +8,7 @@
 #include "KZMainCfg.h"
 #include "PlantFolder.h"
 #include "Report.h"
+#include "check/ProjectCheck.h"
 #include "table/Export.h"
 #include "table/Import.h"
 
@@ -54,7 +55,15 @@ void RehearseImport(const PlantFolder& folder, const std::string& table, int dev
         throw std::runtime_error("the table is not imported as it should be");
 }
 
+void Check(const PlantFolder& folder)
+{
+    const plant::Findings findings = plant::CheckProject(plant::StoredProject(folder.Path()), {});
+    if (!findings.empty())
+        throw std::runtime_error("the plant has a fault: " + findings.front().device + ", " + findings.front().place);
+}
+
 struct Times {
+    double checking;
     double exporting;
     double importing;
 };
@@ -62,13 +71,17 @@ struct Times {
 Times Measure(kzbench::Report& report, int devices, const char* shown, Settings settings)
 {
     const PlantFolder folder(devices, settings);
+    const std::string reading = "their files read with expat and pugixml";
+    const PairedTimes checking = kzbench::RunInTurn([&] { Check(folder); }, [&] { PassOver(folder); });
+    report.Add({std::string("check ") + shown, reading, 1.50}, checking);
     const PairedTimes exporting = kzbench::RunInTurn([&] { kzbench::Keep(Export(folder)); }, [&] { PassOver(folder); });
-    report.Add({std::string("export ") + shown, "their files read with expat and pugixml", 1.50}, exporting);
+    report.Add({std::string("export ") + shown, reading, 1.50}, exporting);
     const std::string table = Changed(Export(folder));
     const PairedTimes importing =
         kzbench::RunInTurn([&] { RehearseImport(folder, table, devices); }, [&] { kzbench::Keep(Export(folder)); });
     report.Add({std::string("import ") + shown + " on a dry run", "export them", 2.00}, importing);
-    return {kzbench::Median(exporting.operation), kzbench::Median(importing.operation)};
+    return {kzbench::Median(checking.operation), kzbench::Median(exporting.operation),
+            kzbench::Median(importing.operation)};
 }
 
 }  // namespace
@@ -79,6 +92,7 @@ int main()
     Measure(report, Many, "10⁴ devices", Settings::All);
     const Times few = Measure(report, kzbench::Smaller.devices, kzbench::Smaller.shown, Settings::OneLimit);
     const Times many = Measure(report, kzbench::Larger.devices, kzbench::Larger.shown, Settings::OneLimit);
+    kzbench::AddGrowth(report, "check", few.checking, many.checking);
     kzbench::AddGrowth(report, "export", few.exporting, many.exporting);
     kzbench::AddGrowth(report, "import", few.importing, many.importing);
     return report.ExitCode();
