@@ -26,11 +26,14 @@ dialog=" - $device"
 # One row per step: the function that takes it, which also names the picture, and what the picture shows.
 steps=(
   "plant             The editor with the devices of the plant and the values of the marked one"
+  "found             Find: the filters that have every word, in whatever text of theirs"
+  "several           All filters marked: what differs between them"
   "selection         Select variables: what was chosen earlier is checked and disabled"
   "single_boxes      General page: frequency and a current, box by box"
   "whole_row         Power page: one button takes the whole row of the load side"
-  "by_keyboard       Harmonics page, by keyboard: Tab to the fifth harmonic and Space"
+  "by_keyboard       Harmonics page, by keyboard: to the fifth harmonic, and Space"
   "chosen            OK: the new variables are in the list of the device"
+  "undo              The menu says what can be undone"
   "hub               The options hub"
   "settings          Device settings: another minimum current, one more filtered harmonic"
   "confirmation      OK asks before it writes"
@@ -48,7 +51,7 @@ steps=(
 
 # The steps that the documents show, each with the picture's name there; it is the window that takes input.
 declare -A documented=(
-  [plant]=editor [hub]=options [settings]=device-settings [confirmation]=question [units]=units [limits]=limits-powers
+  [plant]=editor [found]=find [several]=several [undo]=undo [hub]=options [settings]=device-settings [confirmation]=question [units]=units [limits]=limits-powers
   [refused]=refused [harmonic_limits]=limits-harmonics [single_boxes]=selection-general [whole_row]=selection-power
   [by_keyboard]=selection-harmonics [unsaved]=unsaved [noticed]=changed-elsewhere [foreign]=save-over
 )
@@ -57,7 +60,24 @@ step_plant() {
   open_editor "$project"
   choose_device 0 $device
 }
-step_selection() { open_selection $device; }
+step_found() {
+  key ctrl+f
+  until_control "$main_title" $IDC_FIND focused
+  type_text 'grua norte'
+  until_control "$main_title" $IDC_FIND_COUNT 'TEXT=1 of 6'
+}
+step_several() {
+  key Escape
+  until_control "$main_title" $IDC_FIND_COUNT 'TEXT=6 of 6'
+  key Down
+  until_control "$main_title" $IDC_DEVICES focused
+  key ctrl+a
+  until_control "$main_title" $IDC_PAGE_CAPTION 'TEXT=6'
+}
+step_selection() {
+  choose_device 0 $device
+  open_selection $device
+}
 step_single_boxes() {
   check_box "$dialog" $((IDC_GENERAL_NET_BOX + 1))
   check_box "$dialog" $((IDC_GENERAL_NET_BOX + 2))
@@ -69,7 +89,8 @@ step_whole_row() {
 }
 step_by_keyboard() {
   show_tab "$dialog" $IDC_SELECTVAR_TAB 2 $IDC_HARMONIC_CAPTION
-  tab_to "$dialog" $((IDC_HARMONIC_NET_BOX + 2))
+  tab_to "$dialog" $((IDC_HARMONIC_CAPTION + 2))
+  walk_to "$dialog" $((IDC_HARMONIC_NET_BOX + 2)) Right
   key space
   until_control "$dialog" $((IDC_HARMONIC_NET_BOX + 2)) checked
 }
@@ -78,7 +99,15 @@ step_chosen() {
   show_variables
   until_control "$main_title" $IDC_CHOSEN ITEMS=11
 }
+step_undo() {
+  key ctrl+z
+  until_control "$main_title" $IDC_CHOSEN ITEMS=5
+  key ctrl+y
+  until_control "$main_title" $IDC_CHOSEN ITEMS=11
+  key alt+e
+}
 step_hub() {
+  key Escape Escape
   click "$main_title" $IDC_OPTIONS
   window "$dialog"
 }
