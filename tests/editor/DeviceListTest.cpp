@@ -162,4 +162,26 @@ TEST_F(ManyDevices, AreFoundFromAnyRowOnOrFromTheStart)
     EXPECT_EQ(find(L"12", LVFI_NEARESTXY, 0), -1);
 }
 
+// What many devices have in common takes long; the window answers meanwhile.
+TEST_F(ManyDevices, HaveTheirCommonValuesReadInSlices)
+{
+    m_window->SendMessage(WM_COMMAND, IDC_MARK_ALL);
+    DWORD longest = 0;
+    const HWND values = kztest::ControlIn(m_window->m_hWnd, IDC_VALUES);
+    const auto isShown = [&] {
+        std::array<wchar_t, 64> text{};
+        ListView_GetItemText(values, 1, 1, text.data(), static_cast<int>(text.size()));
+        return m_window->MarkedDevices().size() == static_cast<std::size_t>(Many) && text[0] != L'\0';
+    };
+    const DWORD start = ::GetTickCount();
+    for (bool isDone = false; !isDone && ::GetTickCount() - start < 20'000;) {
+        const DWORD before = ::GetTickCount();
+        kztest::DispatchPending();
+        longest = std::max(longest, ::GetTickCount() - before);
+        isDone = isShown();
+    }
+    EXPECT_TRUE(isShown());
+    EXPECT_LT(longest, 1000U);
+}
+
 }  // namespace

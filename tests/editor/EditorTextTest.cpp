@@ -14,7 +14,7 @@ constexpr struct {
     unsigned first, last;
 } Blocks[] = {
     {IDS_NO_HOST_STRING, IDS_DIAGNOSIS_FONT},
-    {IDS_MENU_FILE, IDS_UNDO_IMPOSSIBLE},
+    {IDS_MENU_FILE, IDS_PAGE_VARIABLES_COUNTED},
     {IDS_LIST_COPY, IDS_HISTORY_CONFIRM},
 };
 

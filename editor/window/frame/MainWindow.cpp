@@ -26,6 +26,7 @@ constexpr struct {
 
 BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_WM_CLOSE()
+    ON_WM_CTLCOLOR()
     ON_WM_GETMINMAXINFO()
     ON_WM_SIZE()
     ON_COMMAND_RANGE(IDC_FIRST_COMMAND, IDC_LAST_COMMAND, &MainWindow::OnMenuCommand)
@@ -41,6 +42,7 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_NOTIFY(TCN_SELCHANGE, IDC_PAGES, &MainWindow::OnSelectPage)
     ON_MESSAGE(WM_KZ_VARIABLES_MARKED, &MainWindow::OnMarkVariable)
     ON_MESSAGE(WM_CONTEXTMENU, &MainWindow::OnContextMenu)
+    ON_MESSAGE(WM_TIMER, &MainWindow::OnTimer)
     ON_MESSAGE(WM_KZ_CHANGES, &MainWindow::OnChanges)
     ON_MESSAGE(WM_KZ_SPLITTER, &MainWindow::OnSplitter)
     ON_MESSAGE(WM_KZ_OPTIONS_CHANGED, &MainWindow::OnOptionsChanged)
@@ -220,6 +222,16 @@ void MainWindow::OnGetMinMaxInfo(MINMAXINFO* information)
     information->ptMinTrackSize = {smallest.Width(), smallest.Height()};
     // Windows cuts a new window to the screen, and its controls with it; one that sticks out can at least be moved.
     information->ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
+}
+
+// The caption stands on the page, which has the colour of a window.
+HBRUSH MainWindow::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)
+{
+    if (pWnd->m_hWnd != GetDlgItem(IDC_PAGE_CAPTION)->m_hWnd)
+        return CDialog::OnCtlColor(pDC, pWnd, nCtlColor);
+    pDC->SetBkColor(::GetSysColor(COLOR_WINDOW));
+    pDC->SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+    return ::GetSysColorBrush(COLOR_WINDOW);
 }
 
 LRESULT MainWindow::OnSplitter(WPARAM, LPARAM lParam)

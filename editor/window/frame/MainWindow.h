@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "FrameLayout.h"
@@ -115,6 +116,8 @@ protected:
     afx_msg void OnSelectPage(NMHDR* header, LRESULT* result);
     afx_msg LRESULT OnMarkVariable(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnContextMenu(WPARAM wParam, LPARAM lParam);
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    afx_msg LRESULT OnTimer(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnChanges(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSplitter(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnOptionsChanged(WPARAM wParam, LPARAM lParam);
@@ -153,6 +156,7 @@ private:
     void ShowCaption();
     void ShowPageContent();
     void ShowValues();
+    void ContinueValues();
     void ShowVariables();
     void ShowOptions();
     void ShowNextPage(int step);
@@ -185,6 +189,7 @@ private:
     DeviceListView m_lstDevices;
     CTabCtrl m_tab;
     ValuesPage m_pageValues;
+    std::optional<CommonValues> m_values;  // as long as they are read
     VariablesPage m_pageVariables;
     ChildPane m_pageOptions;
     StartPane m_paneStart;

@@ -5,6 +5,12 @@
 #include "MainWindow.h"
 #include "text/EditorText.h"
 
+namespace {
+
+constexpr UINT_PTR ValuesTimer = 1;
+
+}  // namespace
+
 void MainWindow::ShowMarked()
 {
     m_places = m_lstDevices.Marked();
@@ -37,12 +43,36 @@ void MainWindow::ShowPageContent()
         m_pageOptions.ShowText({});
 }
 
+// Many devices are read a slice at a time, behind everything that the user does.
 void MainWindow::ShowValues()
 {
-    std::vector<const KZDeviceIdentity*> devices;
-    for (const std::size_t place : m_places)
-        devices.push_back(&m_open->project.Devices()[place]);
-    m_pageValues.Show(devices.empty() ? SummaryRows() : DeviceSummary(m_open->project, devices));
+    m_values.reset();
+    if (m_places.empty()) {
+        m_pageValues.Show({});
+        return;
+    }
+    m_values.emplace(m_open->project, m_places);
+    ContinueValues();
+}
+
+void MainWindow::ContinueValues()
+{
+    constexpr std::chrono::milliseconds Slice{30};
+    if (!m_values)
+        return;
+    if (m_values->Work(Slice)) {
+        ::SetTimer(m_hWnd, ValuesTimer, 1, nullptr);
+        return;
+    }
+    m_pageValues.Show(m_values->Rows());
+    m_values.reset();
+}
+
+LRESULT MainWindow::OnTimer(WPARAM wParam, LPARAM)
+{
+    ::KillTimer(m_hWnd, wParam);
+    ContinueValues();
+    return 0;
 }
 
 void MainWindow::ShowVariables()
@@ -69,7 +99,8 @@ void MainWindow::ShowTabs()
 {
     const std::wstring captions[] = {
         EditorText(IDS_PAGE_VALUES),
-        FormatEditorText(IDS_PAGE_VARIABLES, m_pageVariables.Count()),
+        OnlyDevice() ? FormatEditorText(IDS_PAGE_VARIABLES_COUNTED, m_pageVariables.Count())
+                     : EditorText(IDS_PAGE_VARIABLES),
         EditorText(IDS_PAGE_OPTIONS),
     };
     int tab = 0;

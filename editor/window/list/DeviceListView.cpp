@@ -7,8 +7,8 @@
 namespace {
 
 constexpr ReportColumn Columns[] = {
-    {IDS_COLUMN_SIGNS, 24},       {IDS_COLUMN_NUMBER, 22, LVCFMT_RIGHT}, {IDS_COLUMN_NAME, 56},
-    {IDS_COLUMN_DESCRIPTION, 46}, {IDS_COLUMN_CHOSEN, 22, LVCFMT_RIGHT}, {IDS_COLUMN_MODEL, 50},
+    {IDS_COLUMN_SIGNS, 28},       {IDS_COLUMN_NUMBER, 22, LVCFMT_RIGHT}, {IDS_COLUMN_NAME, 54},
+    {IDS_COLUMN_DESCRIPTION, 44}, {IDS_COLUMN_CHOSEN, 22, LVCFMT_RIGHT}, {IDS_COLUMN_MODEL, 50},
 };
 static_assert(std::size(Columns) == DeviceColumnCount);
 

@@ -65,21 +65,33 @@ SummaryRows DeviceSummary(plant::Project& project, const KZDeviceIdentity& devic
     return rows;
 }
 
-// Devices of another type, or whose document cannot be read, have other rows; what is common to all is then little.
-SummaryRows DeviceSummary(plant::Project& project, std::span<const KZDeviceIdentity* const> devices)
+bool CommonValues::Work(std::chrono::milliseconds slice)
 {
-    SummaryRows rows;
-    for (const KZDeviceIdentity* const device : devices) {
-        const SummaryRows next = DeviceSummary(project, *device);
-        if (device == devices.front()) {
-            rows = next;
-            continue;
-        }
-        const auto isGone = [&next](const SummaryRow& row) { return !FindSetting(next, row); };
-        std::erase_if(rows, isGone);
-        for (SummaryRow& row : rows)
-            if (FindSetting(next, row)->value != row.value)
-                row.value = EditorText(IDS_VALUE_DIFFERENT);
+    const auto end = std::chrono::steady_clock::now() + slice;
+    while (m_next < m_devices.size()) {
+        Add(DeviceSummary(m_project, m_project.Devices()[m_devices[m_next++]]));
+        if (std::chrono::steady_clock::now() >= end)
+            break;
     }
-    return rows;
+    return m_next < m_devices.size();
+}
+
+// Devices of another type, or whose document cannot be read, have other rows; what is common to all is then little.
+void CommonValues::Add(const SummaryRows& rows)
+{
+    if (m_next == 1) {
+        m_rows = rows;
+        return;
+    }
+    // Devices of one type have the same rows in the same order.
+    const bool isSameType = rows.size() == m_rows.size();
+    for (std::size_t row = 0; row < m_rows.size(); ++row) {
+        const SummaryRow& mine = m_rows[row];
+        const bool isThere = isSameType && rows[row].name == mine.name && rows[row].section == mine.section;
+        const SummaryRow* other = isThere ? &rows[row] : FindSetting(rows, mine);
+        if (!other)
+            m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(row--));
+        else if (other->value != mine.value)
+            m_rows[row].value = EditorText(IDS_VALUE_DIFFERENT);
+    }
 }

@@ -6,6 +6,7 @@
 BEGIN_MESSAGE_MAP(VariablesPage, CDialog)
     ON_BN_CLICKED(IDC_REMOVE, &VariablesPage::OnRemove)
     ON_LBN_SELCHANGE(IDC_CHOSEN, &VariablesPage::OnMark)
+    ON_WM_CTLCOLOR()
     ON_WM_SIZE()
 END_MESSAGE_MAP()
 
@@ -44,6 +45,13 @@ void VariablesPage::OnRemove()
 void VariablesPage::OnMark()
 {
     GetParent()->SendMessage(WM_KZ_VARIABLES_MARKED);
+}
+
+HBRUSH VariablesPage::OnCtlColor(CDC* pDC, CWnd*, UINT)
+{
+    pDC->SetBkColor(::GetSysColor(COLOR_WINDOW));
+    pDC->SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+    return ::GetSysColorBrush(COLOR_WINDOW);
 }
 
 void VariablesPage::Arrange()

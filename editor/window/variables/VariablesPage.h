@@ -27,6 +27,7 @@ protected:
     void OnOK() override {}
     void OnCancel() override {}
 
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnRemove();
     afx_msg void OnMark();
     afx_msg void OnSize(UINT type, int cx, int cy);
