@@ -1,7 +1,8 @@
 // Adding, duplicating, renaming and removing devices. Nothing is saved by it: all are unsaved changes of the project,
-// made whole or not at all, and meant to be made inside UndoList::Do.
+// to be made inside UndoList::Do, which takes back what a failure has left half made.
 #pragma once
 
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -55,12 +56,21 @@ using EntryRefusals = std::vector<EntryRefusal>;
                                                          const std::wstring& first, std::size_t count,
                                                          const std::wstring& description);
 
-// The device's id, which names its document: made from the name, used by no device, setup or document, not even one on
-// disk that belongs to no device.
-[[nodiscard]] KZBasicString FreeDriverId(Project& project, std::wstring_view name);
+// Ids for new devices, which name their documents: made from the devices' names, used by no device, setup or document,
+// not even by a document on disk that belongs to no device.
+class FreeDriverIds {
+public:
+    // Throws Refusal when the folder cannot be read.
+    explicit FreeDriverIds(Project& project);
+    // Each one once.
+    [[nodiscard]] KZBasicString Take(std::wstring_view name);
 
-// These require that nothing is refused. They throw Refusal when a document cannot be read, and std::bad_alloc;
-// nothing is changed then.
+private:
+    bool TakeDocument(std::string name);
+    std::set<std::string> m_documents;  // in small letters
+};
+
+// These require that nothing is refused. They throw Refusal when a document cannot be read, and std::bad_alloc.
 
 // Appends a device, with a document that holds its transformer ratio. Returns its driverId.
 KZBasicString AddDevice(Project& project, const NewDevice& device);

@@ -104,14 +104,27 @@ void FieldEdit::Refuse(std::size_t device, const std::string& key, Message reaso
 
 Project::Outcome FieldEdit::Save(const std::string& cause)
 {
+    bool isMainChanged = false;
+    Change documents = ChangeAll(isMainChanged);
+    return m_project.SaveTogether(std::move(documents), isMainChanged, cause);
+}
+
+void FieldEdit::Keep()
+{
+    bool isMainChanged = false;
+    Change documents = ChangeAll(isMainChanged);
+    m_project.KeepUnsaved(std::move(documents), isMainChanged);
+}
+
+Change FieldEdit::ChangeAll(bool& isMainChanged)
+{
     Change documents;
     for (const DeviceEdit& edit : m_edits)
         ChangeDocument(edit, documents);
     // Last, since nothing but memory can fail here, and then the document takes back all of it.
-    bool isMainChanged = false;
     for (const DeviceEdit& edit : m_edits)
         isMainChanged = ChangeMain(edit) || isMainChanged;
-    return m_project.SaveTogether(std::move(documents), isMainChanged, cause);
+    return documents;
 }
 
 void FieldEdit::ChangeDocument(const DeviceEdit& edit, Change& documents)

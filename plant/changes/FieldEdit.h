@@ -50,6 +50,10 @@ public:
     // the changes are unsaved ones of the project.
     Project::Outcome Save(const std::string& cause);
 
+    // Makes unsaved changes of the project of them; only without findings. Throws Refusal when a document cannot be
+    // read, and std::bad_alloc; to be called inside UndoList::Do, which takes back what a failure has left half made.
+    void Keep();
+
 private:
     // The changes of one device, a part of all.
     struct DeviceEdit {
@@ -62,6 +66,7 @@ private:
     void JudgeLimits(std::size_t device, std::size_t first);
     void JudgeVariable(std::size_t device, std::size_t part, std::size_t first);
     void Refuse(std::size_t device, const std::string& key, Message reason);
+    [[nodiscard]] Change ChangeAll(bool& isMainChanged);
     [[nodiscard]] bool ChangeMain(const DeviceEdit& edit);
     void ChangeDocument(const DeviceEdit& edit, Change& documents);
 

@@ -1,6 +1,7 @@
 #include "UndoList.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 #include "KZMainCfg.h"
@@ -80,28 +81,27 @@ bool UndoList::Do(Message name, std::span<const KZBasicString> driverIds, const 
         step->before.emplace(std::move(document), std::move(bytes));
     }
     m_project.RememberSaved(driverIds);
-    Make(*step, change);
-    const bool isComplete = FillIn(*step);
+    Change pending = m_project.m_pending;
+    Make(*step, pending, change);
+    const bool isComplete = FillIn(*step, pending);
     const bool isAll = std::exchange(m_project.m_doing, {})->isAll;
-    const ProjectChange told{isAll, step->isListChanged, driverIds};
     const bool isDifferent = isAll || !isComplete || step->main || !step->before.empty();
-    m_project.CompareSaved(driverIds);
+    m_project.CompareSaved(step->driverIds);
+    // The step may be gone before all have heard of it.
+    const std::vector<KZBasicString> changed = std::move(step->driverIds);
+    const bool isListChanged = step->isListChanged;
     if (isAll || !isComplete)
         Clear();
     else if (isDifferent)
-        Keep(std::move(step));
+        Keep(std::move(step), changed);
     if (isDifferent)
-        m_project.Tell(told);
+        m_project.Tell({isAll, isListChanged, changed});
     return isDifferent;
 }
 
 // What a change that throws has changed is taken back.
-void UndoList::Make(const Step& step, const std::function<void()>& change)
+void UndoList::Make(const Step& step, Change& pending, const std::function<void()>& change)
 {
-    Change pending;
-    for (const auto& [name, bytes] : step.before)
-        if (m_project.m_pending.contains(name))
-            pending.emplace(name, bytes);
     KZMainCfg::Get()->StartRecording();
     m_project.m_doing.emplace();
     try {
@@ -117,15 +117,9 @@ void UndoList::TakeBackHalf(const Step& step, Change& pending) noexcept
     XmlDocument& main = *KZMainCfg::Get();
     if (const auto made = main.StopRecording())
         main.TakeBack(*made);
-    for (const auto& [name, bytes] : step.before) {
-        const auto now = m_project.m_pending.find(name);
-        if (now == m_project.m_pending.end())
-            continue;
-        if (const auto before = pending.find(name); before != pending.end())
-            now->second.swap(before->second);
-        else
-            m_project.m_pending.erase(now);
-    }
+    m_project.m_pending.swap(pending);
+    std::erase_if(m_project.m_pending,
+                  [this](const auto& document) { return m_project.m_seen.Saw(document.first, document.second); });
     Project::Doing doing = *std::exchange(m_project.m_doing, {});
     if (doing.isAll)
         return m_project.TellAll();
@@ -136,11 +130,14 @@ void UndoList::TakeBackHalf(const Step& step, Change& pending) noexcept
 }
 
 // What the change has made of the project. Returns false when it cannot be found out.
-bool UndoList::FillIn(Step& step) noexcept
+bool UndoList::FillIn(Step& step, const Change& pending) noexcept
 {
     step.main = KZMainCfg::Get()->StopRecording();
     step.isListChanged = m_project.m_doing->devicesBefore.has_value();
     try {
+        if (step.isListChanged)
+            AddListedDevices(step);
+        AddOtherDocuments(step, pending);
         for (auto document = step.before.begin(); document != step.before.end();) {
             const auto& [name, bytes] = *document;
             std::optional<std::string> now;
@@ -157,7 +154,43 @@ bool UndoList::FillIn(Step& step) noexcept
     return true;
 }
 
-void UndoList::Keep(std::unique_ptr<Step> step) noexcept
+// Nobody could name new ones before they were made.
+void UndoList::AddListedDevices(Step& step)
+{
+    const auto idsIn = [](const DeviceList& devices) {
+        std::unordered_set<std::wstring_view> driverIds;
+        for (const KZDeviceIdentity& device : devices)
+            driverIds.insert(device.driverId.View());
+        return driverIds;
+    };
+    const DeviceList& before = *m_project.m_doing->devicesBefore;
+    const DriverIds named(step.driverIds.begin(), step.driverIds.end());
+    const auto missing = [&](const DeviceList& devices, const DeviceList& others) {
+        const auto known = idsIn(others);
+        std::vector<KZBasicString> driverIds;
+        for (const KZDeviceIdentity& device : devices)
+            if (!known.contains(device.driverId.View()) && !named.contains(device.driverId))
+                driverIds.push_back(device.driverId);
+        return driverIds;
+    };
+    const std::vector<KZBasicString> made = missing(m_project.m_devices, before);
+    const std::vector<KZBasicString> gone = missing(before, m_project.m_devices);
+    m_project.m_savedDevices.RememberMissing(made);
+    step.driverIds.insert(step.driverIds.end(), made.begin(), made.end());
+    step.driverIds.insert(step.driverIds.end(), gone.begin(), gone.end());
+}
+
+// Documents of other devices than those that were named, new ones above all.
+void UndoList::AddOtherDocuments(Step& step, const Change& pending)
+{
+    for (const auto& [name, bytes] : pending)
+        step.before.emplace(name, bytes);
+    for (const auto& [name, bytes] : m_project.m_pending)
+        if (!step.before.contains(name))
+            step.before.emplace(name, m_project.ReadSaved(name));
+}
+
+void UndoList::Keep(std::unique_ptr<Step> step, const std::vector<KZBasicString>& driverIds) noexcept
 {
     const auto drop = [this](auto first, auto last) {
         for (auto dropped = first; dropped != last; ++dropped)
@@ -166,6 +199,7 @@ void UndoList::Keep(std::unique_ptr<Step> step) noexcept
     };
     drop(m_steps.begin() + static_cast<std::ptrdiff_t>(m_position), m_steps.end());
     try {
+        step->driverIds = driverIds;
         m_bytes += step->bytes;
         m_steps.push_back(std::move(step));
         ++m_position;

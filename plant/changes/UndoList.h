@@ -31,7 +31,7 @@ public:
     // before can then no longer be redone. The project's listeners hear of it once, behind it. A change inside another
     // belongs to the outer one.
     //   name       what the user is told can be undone
-    //   driverIds  the devices whose values, chosen variables or documents the change may touch, new ones included
+    //   driverIds  the devices whose values, chosen variables or documents the change may touch; new ones are found
     //   change     may show dialogs. When it throws, what it has changed is taken back, but for what it has saved, and
     //              the exception goes on to the caller.
     // Returns whether something is different. Throws Refusal, before anything is changed, when the project is read-only
@@ -59,10 +59,12 @@ public:
 
 private:
     struct Step;
-    void Make(const Step& step, const std::function<void()>& change);
+    void Make(const Step& step, Change& pending, const std::function<void()>& change);
     void TakeBackHalf(const Step& step, Change& pending) noexcept;
-    [[nodiscard]] bool FillIn(Step& step) noexcept;
-    void Keep(std::unique_ptr<Step> step) noexcept;
+    [[nodiscard]] bool FillIn(Step& step, const Change& pending) noexcept;
+    void AddListedDevices(Step& step);
+    void AddOtherDocuments(Step& step, const Change& pending);
+    void Keep(std::unique_ptr<Step> step, const std::vector<KZBasicString>& driverIds) noexcept;
     bool Go(Step& step, bool isBack);
     bool GoInMain(Step& step, bool isBack) noexcept;
     void TellOf(const Step& step) noexcept;

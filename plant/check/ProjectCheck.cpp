@@ -1,12 +1,10 @@
 #include "ProjectCheck.h"
 
-#include <map>
 #include <set>
+#include <unordered_map>
+#include <unordered_set>
 
 #include "KZUtf8.h"
-#include "LimitsStore.h"
-#include "UnitsRecord.h"
-#include "project/ChosenVariables.h"
 #include "project/DocumentFiles.h"
 #include "project/DocumentName.h"
 
@@ -25,7 +23,6 @@ public:
 
 private:
     bool ReadMain();
-    void CheckStrays();
     void CheckReadable();
     const XmlDocument::XmlNode* Read(const std::string& name);
 
@@ -70,8 +67,9 @@ Findings Checking::All()
         m_findings.push_back({ToUtf8(fault.device), Main, std::move(fault.reason)});
     for (const KZDeviceIdentity& device : m_devices)
         m_check.Check(device, m_findings);
-    CheckSetups(m_main, m_devices, m_findings);
-    CheckStrays();
+    for (const zep::SetupList& setups : ListsOfSetups)
+        CheckSetups(m_main, setups, m_devices, m_findings);
+    CheckStrays(m_documents, m_devices, m_findings);
     return std::move(m_findings);
 }
 
@@ -82,16 +80,6 @@ Findings Checking::Of(std::span<const std::wstring> devices)
             m_check.Check(m_devices[DeviceByNameOrId(m_devices, device, m_project.Folder() / MainDocument)],
                           m_findings);
     return std::move(m_findings);
-}
-
-void Checking::CheckStrays()
-{
-    std::set<std::string, NameLess> owned{Main};
-    for (const KZDeviceIdentity& device : m_devices)
-        owned.insert(DeviceDocumentName(device.driverId));
-    for (const auto& [name, file] : m_documents)
-        if (!owned.contains(name))
-            m_findings.push_back({"", name, {IDS_PLANT_CHECK_STRAY_DOCUMENT, {}}});
 }
 
 void Checking::CheckReadable()
@@ -113,26 +101,34 @@ Findings CheckProject(const StoredProject& project, std::span<const std::wstring
     return devices.empty() ? checking.All() : checking.Of(devices);
 }
 
-void CheckSetups(const XmlDocument& main, const DeviceList& devices, Findings& findings)
+void CheckSetups(const XmlDocument& main, const zep::SetupList& setups, const DeviceList& devices, Findings& findings)
 {
-    std::map<std::wstring_view, const KZDeviceIdentity*> known;
+    std::unordered_map<std::wstring_view, const KZDeviceIdentity*> known;
     for (const KZDeviceIdentity& device : devices)
         known.emplace(device.driverId.View(), &device);
-    for (const zep::SetupList& setups : {zep::UnitSetups, zep::ViewSetups, Selections}) {
-        std::set<std::wstring> seen;
-        const XmlDocument::XmlNode* const list = main.Node(setups.list);
-        for (const auto* setup = list ? list->FirstChild(setups.element) : nullptr; setup;
-             setup = setup->NextSibling(setups.element)) {
-            const std::wstring driverId = setup->Value(zep::DriverIdName, L"");
-            const auto device = known.find(driverId);
-            const bool isFirst = seen.insert(driverId).second;
-            const std::string name = device == known.end() ? "" : ToUtf8(device->second->name.View());
-            if (device == known.end())
-                findings.push_back({name, Main, {IDS_PLANT_CHECK_STRAY_SETUP, {setups.element, driverId}}});
-            else if (!isFirst)
-                findings.push_back({name, Main, {IDS_PLANT_CHECK_DOUBLE_SETUP, {setups.element, driverId}}});
-        }
+    std::unordered_set<std::wstring_view> seen;
+    const XmlDocument::XmlNode* const list = main.Node(setups.list);
+    for (const auto* setup = list ? list->FirstChild(setups.element) : nullptr; setup;
+         setup = setup->NextSibling(setups.element)) {
+        const wchar_t* const driverId = setup->Value(zep::DriverIdName, L"");
+        const auto device = known.find(driverId);
+        const bool isFirst = seen.insert(driverId).second;
+        const std::string name = device == known.end() ? "" : ToUtf8(device->second->name.View());
+        if (device == known.end())
+            findings.push_back({name, Main, {IDS_PLANT_CHECK_STRAY_SETUP, {setups.element, driverId}}});
+        else if (!isFirst)
+            findings.push_back({name, Main, {IDS_PLANT_CHECK_DOUBLE_SETUP, {setups.element, driverId}}});
     }
+}
+
+void CheckStrays(const DocumentFiles& documents, const DeviceList& devices, Findings& findings)
+{
+    std::set<std::string, NameLess> owned{Main};
+    for (const KZDeviceIdentity& device : devices)
+        owned.insert(DeviceDocumentName(device.driverId));
+    for (const auto& [name, file] : documents)
+        if (!owned.contains(name))
+            findings.push_back({"", name, {IDS_PLANT_CHECK_STRAY_DOCUMENT, {}}});
 }
 
 }  // namespace plant

@@ -1,9 +1,13 @@
 // What is wrong with a whole project.
 #pragma once
 
+#include <array>
 #include <span>
 
 #include "DeviceCheck.h"
+#include "LimitsStore.h"
+#include "UnitsRecord.h"
+#include "project/ChosenVariables.h"
 #include "project/DeviceList.h"
 #include "project/StoredProject.h"
 
@@ -15,8 +19,13 @@ namespace plant {
 // Throws Refusal when a device is named that the project does not have.
 [[nodiscard]] Findings CheckProject(const StoredProject& project, std::span<const std::wstring> devices);
 
-// Appends a finding for each setup, unit or limits or chosen variables alike, that is not the first of its driverId or
-// whose driverId no device has.
-void CheckSetups(const XmlDocument& main, const DeviceList& devices, Findings& findings);
+// The lists of setups that a main configuration document may have.
+inline constexpr std::array<zep::SetupList, 3> ListsOfSetups{zep::UnitSetups, zep::ViewSetups, Selections};
+
+// Appends a finding for each setup of a list that is not the first of its driverId or whose driverId no device has.
+void CheckSetups(const XmlDocument& main, const zep::SetupList& setups, const DeviceList& devices, Findings& findings);
+
+// Appends a finding for each document, of which the name counts, that belongs to no device.
+void CheckStrays(const DocumentFiles& documents, const DeviceList& devices, Findings& findings);
 
 }  // namespace plant

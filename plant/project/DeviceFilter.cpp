@@ -1,8 +1,6 @@
 #include "DeviceFilter.h"
 
 #include <algorithm>
-#include <array>
-#include <cwctype>
 #include <map>
 
 #include "ChosenVariables.h"
@@ -12,21 +10,24 @@ namespace plant {
 
 namespace {
 
-// The plain letters of U+00C0 to U+017F, after their capitals are gone; a blank where there is none.
-constexpr wchar_t FirstAccented = 0xC0;
-constexpr std::wstring_view Plain = L"aaaaaa ceeeeiiii nooooo ouuuuy  aaaaaa ceeeeiiii nooooo ouuuuy y"
-                                    L"aaaaaaccccccccddddeeeeeeeeeegggggggghhhhiiiiiiiiii  jjkk llllll "
-                                    L" llnnnnnn   oooooo  rrrrrrssssssssttttttuuuuuuuuuuuuwwyyyzzzzzzs";
-static_assert(Plain.size() == 0x180 - FirstAccented);
+// The letters of Western and Central European languages without their accents, from U+00C0 to U+017F.
+constexpr std::wstring_view PlainLetters = L"aaaaaaaceeeeiiiidnooooo*ouuuuytsaaaaaaaceeeeiiiidnooooo/ouuuuyty"
+                                           L"aaaaaaccccccccddddeeeeeeeeeegggggggghhhhiiiiiiiiiiiijjkkklllllll"
+                                           L"lllnnnnnnnnnoooooooorrrrrrssssssssttttttuuuuuuuuuuuuwwyyyzzzzzzs";
+constexpr wchar_t FirstAccented = L'\u00C0';
+static_assert(PlainLetters.size() == 0x180 - 0xC0);
 
-wchar_t FoldedLetter(wchar_t letter) noexcept
+constexpr bool IsMark(wchar_t c) noexcept
 {
-    if (letter >= FirstAccented && letter < FirstAccented + static_cast<wchar_t>(Plain.size())) {
-        const wchar_t plain = Plain[static_cast<std::size_t>(letter - FirstAccented)];
-        if (plain != L' ')
-            return plain;
-    }
-    return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(letter)));
+    return c >= 0x300 && c <= 0x36F;
+}
+
+// Of Greek and Cyrillic.
+constexpr wchar_t SmallLetter(wchar_t c) noexcept
+{
+    if ((c >= 0x391 && c <= 0x3A9) || (c >= 0x410 && c <= 0x42F))
+        return static_cast<wchar_t>(c + 0x20);
+    return c >= 0x400 && c <= 0x40F ? static_cast<wchar_t>(c + 0x50) : c;
 }
 
 std::vector<std::wstring> WordsIn(std::wstring_view text)
@@ -48,8 +49,17 @@ std::vector<std::wstring> WordsIn(std::wstring_view text)
 
 std::wstring Folded(std::wstring_view text)
 {
-    std::wstring folded(text);
-    std::transform(folded.begin(), folded.end(), folded.begin(), FoldedLetter);
+    std::wstring folded;
+    folded.reserve(text.size());
+    for (const wchar_t c : text) {
+        const auto accented = static_cast<std::size_t>(c - FirstAccented);
+        if (c < FirstAccented)
+            folded += c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
+        else if (accented < PlainLetters.size())
+            folded += PlainLetters[accented];
+        else if (!IsMark(c))
+            folded += SmallLetter(c);
+    }
     return folded;
 }
 

@@ -106,8 +106,17 @@ public:
     void ReadDevicesAnew();
     // A document as it is now, saved or not; nothing for none. Throws Refusal when it cannot be read.
     [[nodiscard]] std::optional<std::string> Content(const std::string& name);
+    // The same without remembering it as seen, for somebody who looks at all of them.
+    [[nodiscard]] std::optional<std::string> Peek(const std::string& name) const;
+    // The same as its file holds it.
+    [[nodiscard]] std::optional<std::string> SavedContent(const std::string& name) const
+    {
+        return m_disk.Read(FileOf(m_folder, name));
+    }
     // Every document that there is on disk. Throws Refusal.
     [[nodiscard]] DocumentFiles FilesOnDisk() const { return DocumentFilesIn(m_disk, m_folder); }
+    // The same as a save would leave it.
+    [[nodiscard]] DocumentFiles FilesShown() const;
     // The device documents that are changed and not saved.
     [[nodiscard]] const Change& Pending() const noexcept { return m_pending; }
 
@@ -161,6 +170,7 @@ private:
     void RehearseDevice(const std::string& name, const std::optional<std::string>& bytes) const;
     void ReplaceMain(const std::string& bytes, DeviceList devices);
     void ReadDevice(const std::string& name, XmlDocument& document, SeenDocuments& seen) const;
+    std::optional<std::string> ReadSaved(const std::string& name);
     [[nodiscard]] ProjectLock Lock() const;
     [[nodiscard]] Change Waiting() const;
     Outcome Write(Change change, const std::string& cause);

@@ -48,10 +48,34 @@ std::optional<std::string> Project::Content(const std::string& name)
 {
     if (const auto pending = m_pending.find(name); pending != m_pending.end())
         return pending->second;
+    return ReadSaved(name);
+}
+
+// Who has the document open may have read an earlier content, and is asked before he writes over this one.
+std::optional<std::string> Project::ReadSaved(const std::string& name)
+{
     SeenDocuments seen(m_disk, m_folder);
     std::optional<std::string> bytes = seen.Read(name);
     m_seen.Complete(std::move(seen));
     return bytes;
+}
+
+std::optional<std::string> Project::Peek(const std::string& name) const
+{
+    const auto pending = m_pending.find(name);
+    return pending != m_pending.end() ? pending->second : SavedContent(name);
+}
+
+DocumentFiles Project::FilesShown() const
+{
+    DocumentFiles files = FilesOnDisk();
+    for (const auto& [name, bytes] : m_pending) {
+        if (bytes)
+            files.try_emplace(name);
+        else
+            files.erase(name);
+    }
+    return files;
 }
 
 void Project::OnCommit(XmlDocument&) noexcept

@@ -30,6 +30,12 @@ void SavedDevices::Remember(const XmlDocument& main, std::span<const KZBasicStri
     }
 }
 
+void SavedDevices::RememberMissing(std::span<const KZBasicString> driverIds)
+{
+    for (const KZBasicString& driverId : driverIds)
+        m_saved.emplace(driverId, Saving{0, DeviceDocumentName(driverId), std::nullopt});
+}
+
 void SavedDevices::CompareOne(const XmlDocument& main, const KZBasicString& driverId, const Saving& saved,
                               const DocumentHashes& documents)
 {

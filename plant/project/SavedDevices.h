@@ -31,6 +31,8 @@ public:
     // Devices are about to be changed, which are as the files have them unless they were remembered before. Throws
     // std::bad_alloc.
     void Remember(const XmlDocument& main, std::span<const KZBasicString> driverIds, const DocumentHashes& documents);
+    // These are new: the files have nothing of them, unless they were remembered before.
+    void RememberMissing(std::span<const KZBasicString> driverIds);
     // They are changed now. Throws std::bad_alloc, and forgets all then.
     void Compare(const XmlDocument& main, std::span<const KZBasicString> driverIds, const DocumentHashes& documents);
     // These documents are saved as they are now, or everything is.

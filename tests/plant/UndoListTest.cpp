@@ -291,6 +291,7 @@ TEST_F(UndoListTest, TakesBackAChangeThatThrows)
 
 TEST_F(UndoListTest, KeepsSoManySteps)
 {
+    m_project->SetProtection(Project::Protection::WhenAsked);
     for (std::size_t step = 0; step < UndoList::MostSteps + 10; ++step)
         DoNote(std::to_wstring(step).c_str());
     EXPECT_EQ(m_undo->Count(), UndoList::MostSteps);
@@ -301,6 +302,7 @@ TEST_F(UndoListTest, KeepsSoManySteps)
 
 TEST_F(UndoListTest, KeepsSoManyBytesButNeverFewerThanTheLeastSteps)
 {
+    m_project->SetProtection(Project::Protection::WhenAsked);
     constexpr std::size_t large = 2u << 20;
     for (char step = 'a'; step <= 'z'; ++step)
         DoDocument(DeviceText(std::string(large, step)));
