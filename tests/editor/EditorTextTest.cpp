@@ -15,7 +15,7 @@ constexpr struct {
 } Blocks[] = {
     {IDS_NO_HOST_STRING, IDS_DIAGNOSIS_FONT},
     {IDS_MENU_FILE, IDS_PAGE_VARIABLES_COUNTED},
-    {IDS_LIST_COPY, IDS_HISTORY_CONFIRM},
+    {IDS_LIST_COPY, IDS_REVIEW_OTHER},
 };
 
 // The conversions of a printf format, in their order.

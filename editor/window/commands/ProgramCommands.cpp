@@ -8,12 +8,14 @@
 #include "diagnosis/Diagnosis.h"
 #include "modules/PeFile.h"
 #include "project/DocumentName.h"
+#include "project/ProjectFolder.h"
 #include "text/EditorText.h"
 #include "text/PlantMessage.h"
 #include "window/about/AboutDialog.h"
 #include "window/frame/MainWindow.h"
 #include "window/history/HistoryDialog.h"
 #include "window/modules/ModulesDialog.h"
+#include "window/open/ProjectFolderDialog.h"
 
 namespace {
 
@@ -134,4 +136,11 @@ void ShowHistory(MainWindow& window)
     HistoryDialog dialog(&window, std::move(saves), [&](int number) { return ConfirmRestore(project, number); });
     if (dialog.DoModal() == IDOK)
         window.CarryOut([&] { project.Restore(dialog.Number(), false); });
+}
+
+void SaveCopyAs(MainWindow& window)
+{
+    ProjectFolderDialog(&window, FolderPurpose::Copy, {}, [&](const plant::Path& folder) {
+        plant::SaveCopy(window.Project(), folder);
+    }).DoModal();
 }

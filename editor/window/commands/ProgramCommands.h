@@ -8,3 +8,6 @@ void ShowAbout(MainWindow& window);
 
 // The saves of the project, one of which the user can go back to.
 void ShowHistory(MainWindow& window);
+
+// Writes what is shown as another project; this one stays open.
+void SaveCopyAs(MainWindow& window);

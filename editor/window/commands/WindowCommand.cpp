@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "DeviceCommands.h"
 #include "ProgramCommands.h"
 #include "resources/DialogTextIds.h"
 #include "resources/EditorIds.h"
@@ -81,6 +82,7 @@ constexpr WindowCommand Commands[] = {
     {.menu = MenuName::File, .text = IDS_MENU_RECENT, .opens = MenuName::Recent},
     {MenuName::File},
     {MenuName::File, IDC_SAVE, IDS_COMMAND_SAVE, {FCONTROL, 'S'}, 0, When<&Window::IsDirty>, Run<&Window::Save>},
+    {MenuName::File, IDC_SAVE_COPY, IDS_COMMAND_SAVE_COPY, {}, 0, When<&Window::HasProject>, SaveCopyAs},
     {MenuName::File, IDC_HISTORY, IDS_COMMAND_HISTORY, {}, 0, When<&Window::HasProject>, ShowHistory},
     {MenuName::File},
     {MenuName::File, IDC_EXIT, IDS_COMMAND_EXIT, {FALT, VK_F4}, 0, Always, Run<&Window::Close>},
@@ -90,11 +92,18 @@ constexpr WindowCommand Commands[] = {
     {MenuName::Edit},
     {MenuName::Edit, IDC_MARK_ALL, IDS_COMMAND_MARK_ALL, {FCONTROL, 'A'}, IDC_DEVICES, When<&Window::HasDevices>, Run<&Window::MarkAll>},
     {MenuName::Edit, IDC_GO_FIND, IDS_COMMAND_FIND, {FCONTROL, 'F'}, 0, When<&Window::HasProject>, Run<&Window::GoToFind>},
+    {MenuName::Edit},
+    {MenuName::Edit, IDC_REVIEW, IDS_COMMAND_REVIEW, {FCONTROL, 'R'}, 0, When<&Window::IsDirty>, ReviewChanges},
 
     {MenuName::Device, IDC_SELECT, IDS_COMMAND_SELECT, {0, VK_F5}, 0, When<&Window::HasCallbacks>, Run<&Window::SelectVariables>},
     {MenuName::Device, IDC_OPTIONS, IDS_COMMAND_OPTIONS, {0, VK_F4}, 0, When<&Window::HasCallbacks>, Run<&Window::OpenOptions>},
     {MenuName::Device},
     {MenuName::Device, IDC_REMOVE, IDS_COMMAND_REMOVE_VARIABLES, {0, VK_DELETE}, IDC_CHOSEN, When<&Window::HasMarkedVariables>, Run<&Window::RemoveVariables>},
+    {MenuName::Device},
+    {MenuName::Device, IDC_ADD_DEVICE, IDS_COMMAND_ADD, {0, VK_INSERT}, 0, CanChangeProject, AddDevice},
+    {MenuName::Device, IDC_DUPLICATE_DEVICE, IDS_COMMAND_DUPLICATE, {FCONTROL | FSHIFT, 'D'}, 0, CanChangeOneDevice, DuplicateDevice},
+    {MenuName::Device, IDC_RENAME_DEVICE, IDS_COMMAND_RENAME, {0, VK_F2}, IDC_DEVICES, CanChangeOneDevice, RenameDevice},
+    {MenuName::Device, IDC_REMOVE_DEVICE, IDS_COMMAND_REMOVE, {0, VK_DELETE}, IDC_DEVICES, CanChangeDevices, RemoveDevices},
 
     {MenuName::View, IDC_SHOW_VALUES, IDS_COMMAND_SHOW_VALUES, {FCONTROL, '1'}, 0, When<&Window::HasProject>, Show<PageName::Values>, Shows<PageName::Values>},
     {MenuName::View, IDC_SHOW_VARIABLES, IDS_COMMAND_SHOW_VARIABLES, {FCONTROL, '3'}, 0, When<&Window::HasProject>, Show<PageName::Variables>, Shows<PageName::Variables>},

@@ -4,6 +4,7 @@
 #include "project/GroupMask.h"
 #include "window/commands/CommandKeys.h"
 #include "window/commands/MenuBar.h"
+#include "window/save/SaveQuestion.h"
 
 bool MainWindow::HasCallbacks() const
 {
@@ -135,7 +136,8 @@ void MainWindow::GoToPreviousDevice()
 
 void MainWindow::Save()
 {
-    SaveOrSayWhy();
+    if (MaySave(m_open->project))
+        SaveOrSayWhy();
 }
 
 void MainWindow::Close()

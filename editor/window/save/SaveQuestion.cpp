@@ -2,6 +2,9 @@
 
 #include <afxwin.h>
 
+#include <algorithm>
+
+#include "project/DocumentName.h"
 #include "resources/DialogTextIds.h"
 #include "text/EditorText.h"
 
@@ -10,4 +13,18 @@ bool AskToSave(const plant::ReviewCount& count)
     const std::wstring question =
         FormatEditorText(IDS_ASK_TO_SAVE, static_cast<int>(count.lines), static_cast<int>(count.devices));
     return AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION) == IDYES;
+}
+
+bool MaySave(plant::Project& project)
+{
+    const auto& changed = project.ChangedDevices();
+    if (std::none_of(changed.begin(), changed.end(), [&](const KZBasicString& driverId) {
+            return project.IsUnsaved(plant::DeviceDocumentName(driverId));
+        }))
+        return true;
+    try {
+        return AskToSave(plant::CountOf(plant::Review(project)));
+    } catch (const plant::Refusal&) {
+        return true;
+    }
 }

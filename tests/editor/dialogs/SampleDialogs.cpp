@@ -72,7 +72,7 @@ std::unique_ptr<CDialog> History()
     return std::make_unique<HistoryDialog>(
         nullptr,
         std::vector<SaveRow>{
-            {12, L"22/11/2026 9:28:04", L"window", {L"main.xml", L"devices/zep-01.xml (TREN1)"}},
+            {12, L"22/11/2026 9:28:04", L"the editor's window", {L"main.xml", L"devices/zep-01.xml (TREN1)"}},
             {11, L"21/11/2026 21:02:59", L"import", {L"devices/zep-02.xml (CPD)"}},
         },
         [](int) { return true; });
