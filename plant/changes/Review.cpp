@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <set>
 #include <unordered_set>
 
 #include "DeviceEdit.h"
@@ -31,6 +32,7 @@ private:
     void CompareVariables();
     void Add(What what, std::string before = {}, std::string after = {}, const Field* field = nullptr);
     [[nodiscard]] bool Has(std::size_t first, bool isInDocument) const;
+    [[nodiscard]] bool HasStrayDocument() const;
     [[nodiscard]] std::wstring Rest(const XmlDocument& main) const;
     static const Node* RootOf(const std::optional<std::string>& bytes, XmlDocument& document);
 
@@ -83,7 +85,7 @@ std::vector<ReviewLine> Reviewing::Lines()
             m_name = Utf8(device.name);
             Add(What::Removed);
         }
-    if (Rest(m_main) != Rest(m_saved.Main())) {
+    if (HasStrayDocument() || Rest(m_main) != Rest(m_saved.Main())) {
         m_driverId.Clear();
         m_name.clear();
         Add(What::Other);
@@ -167,6 +169,20 @@ bool Reviewing::Has(std::size_t first, bool isInDocument) const
 {
     return std::any_of(m_lines.begin() + static_cast<std::ptrdiff_t>(first), m_lines.end(),
                        [=](const ReviewLine& line) { return IsOfDocument(line) == isInDocument; });
+}
+
+// A changed document of a device that neither of the lists has.
+bool Reviewing::HasStrayDocument() const
+{
+    const Change& pending = m_project.Pending();
+    if (pending.empty())
+        return false;
+    std::set<std::string, NameLess> known;
+    for (const DeviceList* const devices : {&m_project.Devices(), &m_saved.Devices()})
+        for (const KZDeviceIdentity& device : *devices)
+            known.insert(DeviceDocumentName(device.driverId));
+    return std::any_of(pending.begin(), pending.end(),
+                       [&](const auto& document) { return !known.contains(document.first); });
 }
 
 // What belongs to no device that either of the lists has.

@@ -39,7 +39,11 @@ void SavedDevices::RememberMissing(std::span<const KZBasicString> driverIds)
 void SavedDevices::CompareOne(const XmlDocument& main, const KZBasicString& driverId, const Saving& saved,
                               const DocumentHashes& documents)
 {
-    if (FingerprintOf(main, driverId) == saved.main && documents(saved.name) == saved.document)
+    const std::uint64_t now = FingerprintOf(main, driverId);
+    const bool isSame = now == saved.main && documents(saved.name) == saved.document;
+    // A document of no device is none that anybody sees.
+    const bool isNowhere = now == 0 && saved.main == 0;
+    if (isSame || isNowhere)
         m_changed.erase(driverId);
     else
         m_changed.insert(driverId);
