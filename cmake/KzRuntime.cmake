@@ -14,7 +14,8 @@ foreach(dll ${runtime_dlls})
   set(copy ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${dll})
   add_custom_command(OUTPUT ${copy} DEPENDS ${path} VERBATIM
     COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}
-    COMMAND ${CMAKE_STRIP} -o ${copy} ${path} COMMENT "Copying ${dll}")
+    COMMAND ${CMAKE_STRIP} -p -o ${copy} ${path} COMMENT "Copying ${dll}")
   list(APPEND copies ${copy})
 endforeach()
 add_custom_target(kz_runtime ALL DEPENDS ${copies})
+set(KZ_RUNTIME_DLLS ${copies})

@@ -5,6 +5,12 @@ option(KZ_HARDEN "Trap on undefined behaviour, broken stacks and misuse of the s
 option(KZ_FUZZ "Build for libFuzzer, which needs clang" OFF)
 option(KZ_COVERAGE "Count which lines and branches the tests take" OFF)
 
+# How a release build compiles what ships: with enough for the names of functions and for lines, and with paths inside the
+# tree, so that it is the same in each folder.
+if(WIN32)
+  set(KZ_SHIPPED_OPTIONS $<$<CONFIG:Release>:-g1> $<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>)
+endif()
+
 function(kz_common target)
   target_compile_features(${target} PUBLIC cxx_std_20)
   target_compile_options(${target} PRIVATE
@@ -34,12 +40,26 @@ function(kz_common target)
   endif()
 endfunction()
 
-# A Windows DLL: NAME.dll, its symbols stripped in a release build, no "lib" before the name.
+# What a release build ships: without the time of the build, which strip writes too unless told -p, and with its symbols in
+# symbols/FILE.debug, known by the id in both.
+function(kz_shipped target)
+  if(NOT CMAKE_BUILD_TYPE STREQUAL Release)
+    return()
+  endif()
+  target_link_options(${target} PRIVATE -Wl,--no-insert-timestamp -Wl,--build-id)
+  set(symbols ${CMAKE_BINARY_DIR}/symbols)
+  add_custom_command(TARGET ${target} POST_BUILD VERBATIM
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${symbols}
+    COMMAND ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE:${target}> ${symbols}/$<TARGET_FILE_NAME:${target}>.debug
+    COMMAND ${CMAKE_STRIP} -p $<TARGET_FILE:${target}>)
+endfunction()
+
+# A Windows DLL: NAME.dll, no "lib" before the name.
 function(kz_dll target)
   add_library(${target} SHARED ${ARGN})
   set_target_properties(${target} PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
   kz_common(${target})
-  target_link_options(${target} PRIVATE $<$<CONFIG:Release>:-s>)
+  kz_shipped(${target})
 endfunction()
 
 # Resource scripts are UTF-8. CMake does not hand a target's compile options to the resource compiler.

@@ -22,6 +22,9 @@ using Diagnosis = std::vector<DiagnosisLine>;
 // project can be written to, a file is made in it and taken away again. Throws std::bad_alloc only.
 [[nodiscard]] Diagnosis Diagnose(const ModuleLoader& modules, const std::filesystem::path& project);
 
+// Such as "10.0.19045"; under Wine its version too.
+[[nodiscard]] std::wstring WindowsVersion();
+
 [[nodiscard]] bool IsSound(const Diagnosis& diagnosis) noexcept;
 
 // One line for each in UTF-8, all ended by "\n", with tabs between subject, name, value and fault, "-" for no fault.

@@ -18,21 +18,6 @@ Function FunctionOf(const wchar_t* library, const char* name) noexcept
     return reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(library), name)));
 }
 
-// The true one; GetVersionEx tells a program what its manifest asks for.
-std::wstring WindowsVersion()
-{
-    OSVERSIONINFOW version{};
-    version.dwOSVersionInfoSize = sizeof version;
-    if (const auto get = FunctionOf<LONG(WINAPI*)(OSVERSIONINFOW*)>(L"ntdll.dll", "RtlGetVersion"))
-        get(&version);
-    std::wstring text =
-        KZBasicString::Format(L"%u.%u.%u", version.dwMajorVersion, version.dwMinorVersion, version.dwBuildNumber)
-            .c_str();
-    if (const auto wine = FunctionOf<const char*(CDECL*)()>(L"ntdll.dll", "wine_get_version"))
-        text += L", Wine " + FromUtf8(wine());
-    return text;
-}
-
 std::wstring LocaleText(LCTYPE type)
 {
     std::array<wchar_t, LOCALE_NAME_MAX_LENGTH> text{};
@@ -100,6 +85,21 @@ void DiagnoseScreen(Diagnosis& diagnosis)
 }
 
 }  // namespace
+
+// The true one; GetVersionEx tells a program what its manifest asks for.
+std::wstring WindowsVersion()
+{
+    OSVERSIONINFOW version{};
+    version.dwOSVersionInfoSize = sizeof version;
+    if (const auto get = FunctionOf<LONG(WINAPI*)(OSVERSIONINFOW*)>(L"ntdll.dll", "RtlGetVersion"))
+        get(&version);
+    std::wstring text =
+        KZBasicString::Format(L"%u.%u.%u", version.dwMajorVersion, version.dwMinorVersion, version.dwBuildNumber)
+            .c_str();
+    if (const auto wine = FunctionOf<const char*(CDECL*)()>(L"ntdll.dll", "wine_get_version"))
+        text += L", Wine " + FromUtf8(wine());
+    return text;
+}
 
 void DiagnoseFont(Diagnosis& diagnosis, HDC context, const wchar_t* name)
 {

@@ -4,6 +4,7 @@
 
 #include "command/Commands.h"
 #include "command/Console.h"
+#include "crash/CrashDialog.h"
 #include "modules/ModuleLoader.h"
 #include "text/EditorError.h"
 #include "text/EditorText.h"
@@ -47,6 +48,7 @@ int EditorApp::RunProgram() noexcept
 {
     RegisterControlClasses();
     try {
+        ReportCrashes();
         KZQuorvelantaSetup::Get()->SetLanguage(UserLanguage());
         KZQuorvelantaSetup::Get()->SetProgramIDResource(IDI_PROGRAM);
         const int status = RunArguments(ParseArguments(ProcessArguments()));
@@ -65,6 +67,7 @@ int EditorApp::RunArguments(const Arguments& arguments)
 {
     if (arguments.language)
         KZQuorvelantaSetup::Get()->SetLanguage(*arguments.language);
+    NoteCommand(static_cast<unsigned>(arguments.command));
     switch (arguments.command) {
     case Command::Help:
         PrintLine(arguments.help);
@@ -94,6 +97,7 @@ int EditorApp::RunWindow(const Arguments& arguments)
         throw EditorError(EditorText(IDS_NO_WINDOW));
     m_pMainWnd = &window;
     m_window = &window;
+    ShowNewCrash(&window);
     if (!failure.empty())
         AfxMessageBox(failure.c_str(), MB_OK | MB_ICONWARNING);
     Run();

@@ -8,6 +8,7 @@
 #define IDD_VALUES 106
 #define IDD_VARIABLES 107
 #define IDD_START 108
+#define IDD_CRASH 190
 
 // Commands: menu items and, where there is one, the button of the same id. A hundred numbers, twenty for each menu.
 #define IDC_FIRST_COMMAND 1100
@@ -68,6 +69,12 @@
 // The pane that embeds a driver's options dialog, in the main window and in the child window.
 #define IDC_PANE 1020
 #define IDC_PANE_TEXT 1021
+
+// The report of a crash.
+#define IDC_CRASH_TEXT 1030
+#define IDC_CRASH_REPORT 1031
+#define IDC_CRASH_FILE 1032
+#define IDC_CRASH_COPY 1033
 
 // Texts.
 #define IDS_NO_HOST_STRING 2012
@@ -147,6 +154,10 @@
 #define IDS_DIAGNOSIS_SEPARATORS 2083
 #define IDS_DIAGNOSIS_ENLARGED 2084
 #define IDS_DIAGNOSIS_FONT 2085  // %s %s: font, characters
+#define IDS_CRASH_TITLE 2086
+#define IDS_CRASH_TEXT 2087
+#define IDS_CRASH_FILE 2088
+#define IDS_CRASH_COPY 2089
 
 // Of the menus. The access key of an item is one that its menu does not have yet.
 #define IDS_MENU_FILE 2100

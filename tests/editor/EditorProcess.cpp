@@ -20,6 +20,11 @@ fs::path BuildFolder()
     return fs::path(program).parent_path().parent_path();
 }
 
+fs::path LocalFolder(const EditorFolder& folder)
+{
+    return folder.Path() / "local";
+}
+
 std::wstring Quoted(const std::string& argument)
 {
     // Enough for the tests, which pass no quotes and no backslash at the end.
@@ -102,6 +107,11 @@ EditorFolder::EditorFolder(const fs::path& folder) : m_folder(folder)
     fs::copy(Products() / "images", m_folder / "images");
 }
 
+fs::path EditorFolder::CrashReports() const
+{
+    return LocalFolder(*this) / "KZEditor" / "crash";
+}
+
 fs::path EditorFolder::Products()
 {
     return BuildFolder() / "bin";
@@ -164,6 +174,7 @@ EditorProcess::EditorProcess(const EditorFolder& folder, const std::vector<std::
     std::wstring line = L"\"" + program.wstring() + L"\"";
     for (const std::string& argument : arguments)
         line += L" " + Quoted(argument);
+    ::SetEnvironmentVariableW(L"LOCALAPPDATA", LocalFolder(folder).c_str());
     const fs::path& current = currentFolder.empty() ? folder.Path() : currentFolder;
     if (!::CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, current.c_str(), &start,
                           &m_process))

@@ -25,9 +25,11 @@ public:
 
     // Copies the real module.
     void AddRealModule() const;
-    // Copies one of the test modules ("ready", "noentry", "refusing", "needing") to KZUsr<model>.dll.
+    // Copies one of the test modules ("ready", "noentry", "refusing", "needing", "crashing") to KZUsr<model>.dll.
     void AddModule(const std::string& kind, const std::string& model = "ZEP") const;
     [[nodiscard]] const std::filesystem::path& Path() const noexcept { return m_folder; }
+    // Where the editor puts its crash reports.
+    [[nodiscard]] std::filesystem::path CrashReports() const;
 
     // Where the program and its libraries were built.
     [[nodiscard]] static std::filesystem::path Products();
@@ -40,7 +42,8 @@ private:
 
 class EditorProcess {
 public:
-    // Starts the editor of the folder; arguments in UTF-8. The current folder is the editor's own unless told.
+    // Starts the editor of the folder, with a folder for crash reports of its own; arguments in UTF-8. The current
+    // folder is the editor's own unless told.
     EditorProcess(const EditorFolder& folder, const std::vector<std::string>& arguments,
                   const std::filesystem::path& currentFolder = {});
     // Ends the process if the test left it running.

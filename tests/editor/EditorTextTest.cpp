@@ -13,7 +13,7 @@ namespace {
 constexpr struct {
     unsigned first, last;
 } Blocks[] = {
-    {IDS_NO_HOST_STRING, IDS_DIAGNOSIS_FONT},
+    {IDS_NO_HOST_STRING, IDS_CRASH_COPY},
     {IDS_MENU_FILE, IDS_PAGE_VARIABLES_COUNTED},
     {IDS_LIST_COPY, IDS_REVIEW_OTHER},
 };

@@ -4,6 +4,7 @@
 #include "EditorWindowFixture.h"
 #include "ModalScript.h"
 #include "ParameterNames.h"
+#include "crash/CrashDialog.h"
 #include "modules/DeviceType.h"
 #include "project/ChosenVariables.h"
 #include "window/options/ChildWindow.h"
@@ -89,4 +90,28 @@ TEST_P(ChildWindowLook, IsTidy)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, ChildWindowLook, testing::Values(KZLanguage::English, KZLanguage::Spanish),
+                         kztest::ByLanguage);
+
+class CrashDialogLook : public testing::TestWithParam<KZLanguage> {
+protected:
+    CrashDialogLook() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
+};
+
+TEST_P(CrashDialogLook, IsTidy)
+{
+    std::string report = "KZEditor 1.0.0.0\r\n";
+    for (int frame = 0; frame < 40; ++frame)
+        report += "frame KZEditor.exe 12345\r\n";
+    kztest::ModalScript script([] {
+        const HWND dialog = kztest::WaitForDialog();
+        EXPECT_NE(::GetDlgItem(dialog, IDC_CRASH_REPORT), nullptr);
+        kztest::ExpectNothingClippedOrOverlapping(dialog);
+        ::PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    CrashDialog({"C:\\Users\\Somebody\\AppData\\Local\\KZEditor\\crash\\2026-01-01 10-00-00 12345.txt", report},
+                nullptr)
+        .DoModal();
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, CrashDialogLook, testing::Values(KZLanguage::English, KZLanguage::Spanish),
                          kztest::ByLanguage);

@@ -1,6 +1,7 @@
 // What the user can do in the main window: menu items, buttons and shortcuts of the same ids, and closing it.
 #include "KZMainCfg.h"
 #include "MainWindow.h"
+#include "crash/CrashReport.h"
 #include "project/GroupMask.h"
 #include "window/commands/CommandKeys.h"
 #include "window/commands/MenuBar.h"
@@ -57,6 +58,7 @@ void MainWindow::EnableButton(int id, bool enabled)
 void MainWindow::OnMenuCommand(UINT id)
 {
     const WindowCommand* command = FindWindowCommand(static_cast<int>(id));
+    NoteCommand(id);
     if (command && command->isEnabled(*this))
         command->run(*this);
 }
