@@ -15,6 +15,12 @@ if(WIN32)
     kz_consistency(${check} ${check})
   endforeach()
   kz_consistency(exports exports ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  if(TARGET kz_materials)
+    kz_consistency(materials materials ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    add_test(NAME package.signing COMMAND ${CMAKE_SOURCE_DIR}/tools/package/signing.sh
+      ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/KZEditor.exe ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/KZUsrZEP.dll)
+    set_tests_properties(package.signing PROPERTIES TIMEOUT 60 LABELS consistency)
+  endif()
   kz_consistency(hardening hardening ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 
   # The linters that need no build; "./dev lint" has the others too.

@@ -10,6 +10,7 @@
              the products import only what ships with them
   hardening  every program and library that ships is moved to random addresses, cannot execute data and has no section that
              is writable and executable
+  materials  the bill of materials lists every file that ships with its hash, origin, version and licence
   files      no machine paths, no file of more than 400 lines, UTF-8, LF, no tabs, no blanks at line ends
   documents  links lead to files and headings, quotes of the code are in the code, each picture is shown
   guide      the messages that the user guide explains are the product's own
@@ -32,6 +33,7 @@ import formats  # noqa: E402
 import guide  # noqa: E402
 import hardening  # noqa: E402
 import includes  # noqa: E402
+import materials  # noqa: E402
 import names  # noqa: E402
 import texts  # noqa: E402
 import verbs  # noqa: E402
@@ -44,6 +46,7 @@ CHECKS = {
     "formats": formats.check,
     "exports": exports.check,
     "hardening": hardening.check,
+    "materials": materials.check,
     "files": files.check,
     "documents": documents.check,
     "guide": guide.check,

@@ -7,18 +7,19 @@ packages_build=(
   googletest libcli11-dev dpkg-dev                   # sources, headers, the unpacker of source packages
   librsvg2-bin imagemagick                           # pictures and icon
   libxml2-dev                                        # the other reader that documents are tried with
+  python3                                            # the bill of materials
 )
 packages_wine=(
   wine wine64 fonts-wine locales
   libxcursor1 libxrandr2 libxi6 libxcomposite1 libxrender1 libxinerama1 libxfixes3 libxxf86vm1
 )
 packages_display=(xvfb xdotool imagemagick)
-packages_check=(python3 clang-format shellcheck pyflakes3)
+packages_check=(python3 clang-format shellcheck pyflakes3 osslsigncode openssl)
 packages_format=(clang-format)
 packages_tidy=(clang-14 clang-tidy-14)
 packages_coverage=(gcovr)
 packages_fuzz=(clang-14 libclang-rt-14-dev)
-packages_package=(zip)
+packages_package=(python3 nsis unzip osslsigncode openssl)
 
 say() { echo "== $*"; }
 fail() { echo "dev: $*" >&2; exit 1; }
