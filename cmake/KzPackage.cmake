@@ -12,7 +12,7 @@ add_custom_command(OUTPUT ${materials} VERBATIM
     ${CMAKE_RUNTIME_OUTPUT_DIRECTORY} ${PROJECT_VERSION} ${CMAKE_SOURCE_DIR}/build/deps
   DEPENDS ${CMAKE_SOURCE_DIR}/tools/package/materials.py KZEditor KZHost KZMfc KZUsrZEP kz_csv ${KZ_RUNTIME_DLLS} ${pictures}
   COMMENT "Listing what ships")
-add_custom_target(kz_materials DEPENDS ${materials})
+add_custom_target(kz_materials ALL DEPENDS ${materials})
 add_dependencies(kz_materials kz_images kz_runtime)
 add_dependencies(product kz_materials)
 

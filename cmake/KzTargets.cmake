@@ -5,12 +5,6 @@ option(KZ_HARDEN "Trap on undefined behaviour, broken stacks and misuse of the s
 option(KZ_FUZZ "Build for libFuzzer, which needs clang" OFF)
 option(KZ_COVERAGE "Count which lines and branches the tests take" OFF)
 
-# How a release build compiles what ships: with enough for the names of functions and for lines, and with paths inside the
-# tree, so that it is the same in each folder.
-if(WIN32)
-  set(KZ_SHIPPED_OPTIONS $<$<CONFIG:Release>:-g1> $<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>)
-endif()
-
 function(kz_common target)
   target_compile_features(${target} PUBLIC cxx_std_20)
   target_compile_options(${target} PRIVATE

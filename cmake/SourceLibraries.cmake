@@ -14,7 +14,6 @@ endfunction()
 
 function(kz_source_library target type)
   add_library(${target} ${type} ${ARGN})
-  target_compile_options(${target} PRIVATE ${KZ_SHIPPED_OPTIONS})
   if(KZ_SANITIZE)
     target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all)
   endif()

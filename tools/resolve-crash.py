@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Names the functions and lines of a crash report: resolve-crash.py REPORT SYMBOLS
+"""Names the functions of a crash report: resolve-crash.py REPORT SYMBOLS
 
 REPORT is a file of %LOCALAPPDATA%\\KZEditor\\crash, SYMBOLS the folder of the same build's symbols: build/windows/symbols,
 or what ./dev package has put beside the packages. The report comes out as it is, with its frames resolved. The exit status is 1 when
 no frame of ours could be.
 """
+import bisect
 import re
 import struct
 import subprocess
@@ -33,24 +34,32 @@ def image_base(path):
 
 
 def symbols_of(report, folder):
-    """{file: its symbols} for the files of the report whose symbols are there."""
+    """{file: its functions} for the files of the report whose symbols are there, and what is wrong with others."""
     found, told = {}, []
     for name, build in re.findall(r"^module (\S+) \S+ (\S+)$", report, re.M):
         path = folder / f"{name}.debug"
         if not path.is_file():
             continue
         if build_id(path) == build:
-            found[name] = path
+            found[name] = Functions(path)
         else:
             told.append(f"{path}: the symbols of another build than {name}'s")
     return found, told
 
 
-def resolved(path, offset):
-    """The calls at a place, the innermost first: several where the compiler has put functions into each other."""
-    out = subprocess.run(["x86_64-w64-mingw32-addr2line", "-fCie", str(path), hex(image_base(path) + offset)], check=True,
-                         capture_output=True, text=True).stdout.splitlines()
-    return [f"{function} at {line}" for function, line in zip(out[::2], out[1::2])]
+class Functions:
+    """The functions of a file, by where they begin."""
+
+    def __init__(self, path):
+        table = subprocess.run(["x86_64-w64-mingw32-nm", "-C", "--defined-only", str(path)], check=True, capture_output=True,
+                               text=True).stdout
+        found = re.findall(r"^([0-9a-f]+) [tT] (.+)$", table, re.M)
+        self.base = image_base(path)
+        self.names = sorted((int(address, 16), name) for address, name in found if not name.startswith("."))
+
+    def at(self, offset):
+        place = bisect.bisect_right(self.names, (self.base + offset, chr(0x10FFFF)))
+        return self.names[place - 1][1] if place else "?"
 
 
 def main(arguments):
@@ -64,8 +73,7 @@ def main(arguments):
         print(line)
         frame = re.fullmatch(r"frame (\S+) ([0-9a-f]+)", line)
         if frame and frame.group(1) in symbols:
-            for call in resolved(symbols[frame.group(1)], int(frame.group(2), 16)):
-                print(f"    {call}")
+            print(f"    {symbols[frame.group(1)].at(int(frame.group(2), 16))}")
             count += 1
     for what in told:
         print(f"resolve-crash.py: {what}", file=sys.stderr)

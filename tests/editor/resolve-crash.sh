@@ -6,8 +6,8 @@ folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 KZ_TEST_REPORT="Z:$folder/report.txt" "$tools/run-wine.sh" "$1" --gtest_filter=CrashReports.AFaultLeavesVersionsCallsAndCommands
 "$tools/resolve-crash.py" "$folder/report.txt" "$2" | tee "$folder/resolved.txt"
-grep -q '^    .*RunOnDevice.* at .*editor/command/Commands.cpp:[0-9]' "$folder/resolved.txt"
-grep -q '^    EditorApp::RunProgram() at .*editor/main/EditorApp.cpp:[0-9]' "$folder/resolved.txt"
+grep -q '^    .*RunOnDevice' "$folder/resolved.txt"
+grep -q '^    EditorApp::RunProgram()' "$folder/resolved.txt"
 
 # The symbols of another build resolve nothing.
 mkdir "$folder/other"

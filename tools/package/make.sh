@@ -14,7 +14,12 @@ mkdir -p "$out"
 umask 022
 cpack --config "$build/CPackConfig.cmake" -B "$out" "$@" > "$out/cpack.log" 2>&1 || { cat "$out/cpack.log" >&2; exit 1; }
 rm -rf "$out/_CPack_Packages" "$out/cpack.log" "$out"/*.json
-"$root/tools/package/archive.py" "$build/symbols" "$out/KZEditor-symbols.zip"
+mkdir "$out/symbols"
+for file in "$build"/bin/*; do
+  if [ -f "$build/symbols/${file##*/}.debug" ]; then cp "$build/symbols/${file##*/}.debug" "$out/symbols"; fi
+done
+"$root/tools/package/archive.py" "$out/symbols" "$out/KZEditor-symbols.zip"
+rm -r "$out/symbols"
 "$root/tools/package/checksum.py" "$out"/*.exe
 cd "$out"
 sha256sum -- *.zip *.exe > SHA256SUMS
