@@ -16,7 +16,8 @@ installer=$(echo "$packages"/*.exe)
 later=$(echo "$next"/*.exe)
 local_data=$(echo "$prefix"/drive_c/users/*/AppData/Local)
 menu='Microsoft/Windows/Start Menu/Programs/KZEditor.lnk'
-user_menu=$(echo "$prefix"/drive_c/users/*/AppData/Roaming)/$menu
+roaming=$(echo "$prefix"/drive_c/users/*/AppData/Roaming)
+user_menu=$roaming/$menu
 mine=$local_data/Programs/KZEditor
 everyones=$prefix/drive_c/"Program Files"/KZEditor
 uninstall='Software\Microsoft\Windows\CurrentVersion\Uninstall\KZEditor'
@@ -110,17 +111,21 @@ echo 'a later version'
 cp -r "$root/examples/plant" "$mine/plant"
 echo mine > "$mine/images/mine.txt"
 mkdir -p "$local_data/KZEditor/crash"
+mkdir -p "$roaming/KZEditor"
+echo settings > "$roaming/KZEditor/settings.xml"
 echo report > "$local_data/KZEditor/crash/2026-01-01 10-00-00 1.txt"
 [ "$(status run "$later" /S)" = 0 ] || fail 'the upgrade failed'
 registered HKCU "$mine" 99.0.0
 [ -f "$mine/new.txt" ] || fail 'the new file is missing'
 [ ! -e "$mine/images/ZEP-50.png" ] || fail 'the file that the later version lacks is still there'
 [ -f "$local_data/KZEditor/crash/2026-01-01 10-00-00 1.txt" ] || fail 'the upgrade took a crash report away'
+[ -f "$roaming/KZEditor/settings.xml" ] || fail 'the upgrade took the settings away'
 
 echo 'taken away'
 [ "$(status run "$mine/Uninstall.exe" /S)" = 0 ] || fail 'the uninstaller failed'
 gone "$mine/Uninstall.exe"
 gone "$local_data/KZEditor"
+gone "$roaming/KZEditor"
 diff -r "$root/examples/plant" "$mine/plant" || fail 'a project was touched'
 [ "$(cd "$mine" && find . -type f ! -path './plant/*')" = ./images/mine.txt ] || fail "something else than the user's own is left"
 rm -r "$mine"
