@@ -262,6 +262,11 @@ void MainWindow::ShowChanges()
         }
         m_rows->Refresh({false, false, changed});
         m_lstDevices.Refresh(m_marked, m_open->project);
+        // A device that is no longer found is hidden, and its mark with it.
+        if (m_lstDevices.Marked() != m_places) {
+            ShowMarked();
+            return;
+        }
     }
     ShowVariables();
     ShowValues();
