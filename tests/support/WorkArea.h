@@ -12,8 +12,10 @@ public:
     WorkArea(HMODULE importer, LONG width, LONG height)
         : m_patch(importer ? importer : ::GetModuleHandleW(nullptr), "GetMonitorInfoW", reinterpret_cast<void*>(Answer))
     {
-        s_area = {0, 0, width, height};
+        Resize(width, height);
     }
+
+    void Resize(LONG width, LONG height) const noexcept { s_area = {0, 0, width, height}; }
 
 private:
     static BOOL WINAPI Answer(HMONITOR, MONITORINFO* monitor)
