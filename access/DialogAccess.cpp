@@ -1,10 +1,10 @@
 #include "DialogAccess.h"
 
-#include <tuple>
 #include <utility>
 
 #include "PictureTips.h"
 #include "TabKeys.h"
+#include "WindowProcedure.h"
 
 namespace {
 
@@ -26,16 +26,6 @@ auto Guarded(Operation operation, decltype(operation()) otherwise) noexcept
     }
 }
 
-WNDPROC ProcedureOf(HWND window) noexcept
-{
-    return reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(window, GWLP_WNDPROC));
-}
-
-WNDPROC SetProcedure(HWND window, WNDPROC procedure) noexcept
-{
-    return reinterpret_cast<WNDPROC>(::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
-}
-
 bool IsArrow(WPARAM key) noexcept
 {
     return key >= VK_LEFT && key <= VK_DOWN;
@@ -44,13 +34,6 @@ bool IsArrow(WPARAM key) noexcept
 bool IsHeld(int key) noexcept
 {
     return ::GetKeyState(key) < 0;
-}
-
-BOOL CALLBACK PassOn(HWND window, LPARAM message) noexcept
-{
-    const auto& [number, wParam, lParam] = *reinterpret_cast<const std::tuple<UINT, WPARAM, LPARAM>*>(message);
-    ::SendMessageW(window, number, wParam, lParam);
-    return TRUE;
 }
 
 }  // namespace
@@ -102,8 +85,9 @@ LRESULT CALLBACK DialogAccess::Filter(int code, WPARAM wParam, LPARAM lParam)
     if (code == MSGF_DIALOGBOX) {
         const MSG& message = *reinterpret_cast<const MSG*>(lParam);
         // A dialog inside another one comes first: it was attached later.
-        DialogAccess* const access =
-            Find([&](const DialogAccess& each) { return ::IsChild(each.m_dialog, message.hwnd) != FALSE; });
+        DialogAccess* const access = Find([&](const DialogAccess& each) {
+            return each.m_dialog == message.hwnd || ::IsChild(each.m_dialog, message.hwnd);
+        });
         if (access && Guarded([&] { return access->UsesInput(message); }, false))
             return 1;
     }
@@ -127,7 +111,7 @@ std::optional<LRESULT> DialogAccess::Handle(UINT message, WPARAM wParam, LPARAM 
         break;
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
-        OnColours(message, wParam, lParam);
+        OnColours();
         break;
     default:
         if (message == OpenedMessage()) {
@@ -155,13 +139,8 @@ void DialogAccess::OnOpened()
         m_needs.nameControls(*m_names);
 }
 
-// Windows tells only top windows of new colours; the common controls among their children must hear of them too.
-void DialogAccess::OnColours(UINT message, WPARAM wParam, LPARAM lParam) const
+void DialogAccess::OnColours() const
 {
-    if (message == WM_SYSCOLORCHANGE) {
-        const std::tuple passed{message, wParam, lParam};
-        ::EnumChildWindows(m_dialog, PassOn, reinterpret_cast<LPARAM>(&passed));
-    }
     if (m_needs.followColours)
         m_needs.followColours();
     ::RedrawWindow(m_dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);

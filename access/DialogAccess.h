@@ -6,7 +6,6 @@
 // the keys of its thread. What every dialog gets without asking:
 // - one that is higher than the work area is cut to it and scrolls (SmallScreen.h);
 // - Ctrl+Tab and its like change the tabs, where there are some (TabKeys.h);
-// - the common controls hear of new system colours;
 // - buttons with a name and without a text get tool tips, made at the first movement of the mouse.
 #pragma once
 
@@ -52,7 +51,7 @@ private:
     [[nodiscard]] std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
     void OnShow();
     void OnOpened();
-    void OnColours(UINT message, WPARAM wParam, LPARAM lParam) const;
+    void OnColours() const;
     [[nodiscard]] bool UsesInput(const MSG& message);
     [[nodiscard]] bool UsesKey(const MSG& message);
 

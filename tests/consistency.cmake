@@ -11,7 +11,7 @@ endfunction()
 
 kz_consistency(names_${KZ_TEST_PLATFORM} names ${CMAKE_CURRENT_BINARY_DIR})
 if(WIN32)
-  foreach(check includes controls dialogs texts formats files documents guide verbs)
+  foreach(check includes controls dialogs texts formats files documents guide guidelines verbs)
     kz_consistency(${check} ${check})
   endforeach()
   kz_consistency(exports exports ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})

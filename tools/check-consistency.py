@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Proves what no compiler checks: check-consistency.py CHECK [BUILD_FOLDER]
 
+  guidelines controls keep the distances of the platform's guidelines, captions have the access keys that they should
   includes   every file includes only what its folder may know; rules and records include no window header
   controls   every control id of the templates is used in code, every id that is defined is in a template or in code
   dialogs    every dialog template has a test that looks at its window
@@ -31,6 +32,7 @@ import exports  # noqa: E402
 import files  # noqa: E402
 import formats  # noqa: E402
 import guide  # noqa: E402
+import guidelines  # noqa: E402
 import hardening  # noqa: E402
 import includes  # noqa: E402
 import materials  # noqa: E402
@@ -50,6 +52,7 @@ CHECKS = {
     "files": files.check,
     "documents": documents.check,
     "guide": guide.check,
+    "guidelines": guidelines.check,
     "names": names.check,
     "verbs": verbs.check,
 }

@@ -47,6 +47,7 @@ IMPLEMENT_DYNAMIC(KZDlgOptions, CDialog)
 BEGIN_MESSAGE_MAP(KZDlgOptions, CDialog)
     ON_COMMAND_RANGE(KZ_IDC_OPTIONS_DRIVER, KZ_IDC_OPTIONS_GENERIC3, &KZDlgOptions::OnSection)
     ON_WM_SIZE()
+    ON_WM_SYSCOLORCHANGE()
     ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
@@ -66,6 +67,7 @@ void KZDlgOptions::SetBackgroundColor(COLORREF colour)
 {
     m_brBackground.DeleteObject();
     m_clrBackground = m_brBackground.CreateSolidBrush(colour) ? colour : CLR_INVALID;
+    m_bWindowColour = colour == ::GetSysColor(COLOR_WINDOW);
 }
 
 int KZDlgOptions::Create(CWnd* parent)
@@ -186,6 +188,14 @@ void KZDlgOptions::OnSize(UINT type, int cx, int cy)
     // A modal hub has no sizing border: it changes its own height, while it is laid out.
     if (m_bChild && m_btnOK.m_hWnd)
         Layout();
+}
+
+void KZDlgOptions::OnSysColorChange()
+{
+    CDialog::OnSysColorChange();
+    if (m_bWindowColour)
+        SetBackgroundColor(::GetSysColor(COLOR_WINDOW));
+    Invalidate();
 }
 
 HBRUSH KZDlgOptions::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)

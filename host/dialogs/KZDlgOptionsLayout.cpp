@@ -7,16 +7,34 @@
 
 namespace {
 
+// The distances that the platform's guidelines want, as size codes: between what belongs together, and between what
+// does not, which is also the margin around all.
+class Spacing {
+public:
+    explicit Spacing(const CDialog& dialog)
+    {
+        constexpr int Related = 4;  // dialog units
+        constexpr int Unrelated = 7;
+        CRect units(Related, Related, Unrelated, Unrelated);
+        dialog.MapDialogRect(&units);
+        related = {KZLayout::Pixels2Size(units.left).cx, KZLayout::Pixels2Size(units.top).cy};
+        unrelated = {KZLayout::Pixels2Size(units.right).cx, KZLayout::Pixels2Size(units.bottom).cy};
+    }
+
+    CSize related;
+    CSize unrelated;
+};
+
 // The rows of section buttons, all columns of one width.
 class SectionGrid {
 public:
-    explicit SectionGrid(int columns)
+    SectionGrid(int columns, const Spacing& spacing) : m_spacing(spacing)
     {
         for (int section = 0; section < KZSectionCount; ++section) {
             if (section % columns == 0)
                 m_rows.emplace_back();
             else
-                m_rows.back().AddGap(KZSizeStandard);
+                m_rows.back().AddGap(m_spacing.related.cx);
             m_rows.back().AddControl(KZSectionButtonBase + section, 1);
         }
         // A last row that is not full leaves the places of the buttons that it lacks.
@@ -29,12 +47,14 @@ public:
     void AddTo(KZLayout& page)
     {
         for (KZHoritzontalLayout& row : m_rows) {
+            if (&row != &m_rows.front())
+                page.AddGap(m_spacing.related.cy);
             page.AddLayout(row, KZSizeNatural);
-            page.AddGap(KZSizeStandard);
         }
     }
 
 private:
+    const Spacing& m_spacing;
     std::deque<KZHoritzontalLayout> m_rows;
 };
 
@@ -68,29 +88,27 @@ void KZDlgOptions::Layout()
 
 bool KZDlgOptions::LayOut(int columns, bool evenIfTooNarrow)
 {
+    const Spacing spacing(*this);
     KZVerticalLayout page(this);
-    SectionGrid grid(columns);
+    SectionGrid grid(columns, spacing);
     KZHoritzontalLayout buttons;
-    page.SetBorders(KZSizeStandard, KZSizeStandard);
-    page.AddGap(KZSizeStandard);
+    page.SetBorders(spacing.unrelated.cx, spacing.unrelated.cy);
     if (m_bChild) {
         // A child has no caption that names the device.
         page.AddControl(KZ_IDC_OPTIONS_DEVICE_NAME, KZSizeTextLine);
-        page.AddGap(KZSizeEditLine);
+        page.AddGap(spacing.related.cy);
         page.AddControl(KZ_IDC_OPTIONS_MODEL_NAME, KZSizeTextLine);
-        page.AddGap(KZSizeStandard);
-        page.AddGap(KZSizeStandard);
+        page.AddGap(spacing.unrelated.cy);
     }
     grid.AddTo(page);
     if (!m_bChild) {
         buttons.AddGap(KZSizeCentringGap);
         buttons.AddControl(IDOK, 1);
-        buttons.AddGap(KZSizeStandard);
+        buttons.AddGap(spacing.related.cx);
         buttons.AddControl(IDCANCEL, 1);
         buttons.AddGap(KZSizeCentringGap);
-        page.AddGap(KZSizeStandard);
+        page.AddGap(spacing.unrelated.cy);
         page.AddLayout(buttons, KZSizeStandard);
-        page.AddGap(KZSizeStandard);
     }
     const CSize needed = page.FixedSize();
     if (needed.cx > ClientArea(*this).Width() && !evenIfTooNarrow)

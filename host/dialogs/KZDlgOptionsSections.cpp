@@ -111,7 +111,9 @@ bool KZDlgOptions::NothingToSetUp(KZOptionsSection section)
     const KZBasicString format = KZLoadString(KZ_IDS_OPTIONS_NOTHING_TO_SET_UP);
     CString caption;
     m_sections[section].GetWindowTextW(caption);
-    AfxMessageBox(KZBasicString::Format(format.c_str(), ModelName().c_str(), static_cast<LPCWSTR>(caption)).c_str());
+    std::wstring name(static_cast<LPCWSTR>(caption));
+    std::erase(name, L'&');  // of the access key
+    AfxMessageBox(KZBasicString::Format(format.c_str(), ModelName().c_str(), name.c_str()).c_str());
     return false;
 }
 

@@ -39,7 +39,7 @@ public:
 
     // Makes the dialog a child window without frame, OK and Cancel. To be called before Create.
     void SetChild() noexcept;
-    // The background of a child; to be called before Create.
+    // The background of a child; to be called before Create. The system's window colour is followed when that changes.
     void SetBackgroundColor(COLORREF colour);
     // Creates the window of a child dialog, visible, in the parent's client area; the parent moves it where it wants
     // it. Returns non-zero on success, 0 when the parent has no window or the dialog could not be made: the object then
@@ -85,6 +85,7 @@ protected:
 private:
     afx_msg void OnSection(UINT id);
     afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnSysColorChange();
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
 
     bool CreateChild(CWnd* parent) noexcept;
@@ -105,6 +106,7 @@ private:
     CImageButton m_sections[KZSectionCount];
     bool m_bChild = false;
     COLORREF m_clrBackground = CLR_INVALID;
+    bool m_bWindowColour = false;  // whether the background is the system's
     CBrush m_brBackground;
     CFont m_fontHeading;
 };

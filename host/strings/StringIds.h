@@ -9,6 +9,7 @@
 
 // The options hub
 #define KZ_IDS_OPTIONS_TITLE 40100  // %s %s: the model, the device
+// The captions of the sections have access keys, which the window around the hub must leave to them.
 #define KZ_IDS_OPTIONS_DRIVER 40101
 #define KZ_IDS_OPTIONS_DEVICE 40102
 #define KZ_IDS_OPTIONS_LIMITS 40103

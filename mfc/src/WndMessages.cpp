@@ -3,6 +3,7 @@
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_NCDESTROY()
+    ON_WM_SYSCOLORCHANGE()
 END_MESSAGE_MAP()
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -111,6 +112,16 @@ void CWnd::OnSize(UINT, int, int)
 }
 void CWnd::OnGetMinMaxInfo(MINMAXINFO*)
 {
+    Default();
+}
+void CWnd::OnSysColorChange()
+{
+    const auto tell = [](HWND window, LPARAM) -> BOOL {
+        ::SendMessageW(window, WM_SYSCOLORCHANGE, 0, 0);
+        return TRUE;
+    };
+    if ((GetStyle() & WS_CHILD) == 0)
+        ::EnumChildWindows(m_hWnd, tell, 0);
     Default();
 }
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd*, UINT)

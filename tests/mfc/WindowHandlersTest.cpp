@@ -60,6 +60,11 @@ protected:
         Hear("limits", limits->ptMinTrackSize.x);
         CWnd::OnGetMinMaxInfo(limits);
     }
+    afx_msg void OnSysColorChange()
+    {
+        Hear("system colours");
+        CWnd::OnSysColorChange();
+    }
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind)
     {
         Hear("colour", IdOf(control), kind);
@@ -73,6 +78,7 @@ BEGIN_MESSAGE_MAP(Listener, CWnd)
     ON_WM_CLOSE()
     ON_WM_SIZE()
     ON_WM_GETMINMAXINFO()
+    ON_WM_SYSCOLORCHANGE()
     ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
@@ -139,6 +145,22 @@ TEST_F(WindowHandlers, AreAskedForColours)
     const auto context = reinterpret_cast<WPARAM>(dc.m_hDC);
     Ask(WM_CTLCOLORMSGBOX, context, static_cast<LPARAM>(Child()), "colour 9 0");
     Ask(WM_CTLCOLORSTATIC, context, static_cast<LPARAM>(Child()), "colour 9 6");
+}
+
+// Windows tells top windows alone.
+TEST_F(WindowHandlers, PassNewSystemColoursOnToAllDescendants)
+{
+    Listener inner;
+    ASSERT_TRUE(inner.SubclassWindow(child));
+    const HWND innermost = ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 5, 5, child, nullptr, nullptr, nullptr);
+    Listener last;
+    ASSERT_TRUE(last.SubclassWindow(innermost));
+    Tell(WM_SYSCOLORCHANGE, 0, 0, "system colours");
+    EXPECT_EQ(inner.heard, "system colours");
+    EXPECT_EQ(last.heard, "system colours");
+    last.heard.clear();
+    inner.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ(last.heard, "") << "a child window tells nobody";
 }
 
 TEST_F(WindowHandlers, AreToldOfTheEnd)

@@ -59,7 +59,7 @@ TEST_P(OptionsHubLayout, IsAsHighAsItsContentWhenModal)
     m_hub.Run([this] {
         CRect client;
         m_hub.GetClientRect(&client);
-        RECT margin{0, 0, 0, 8};
+        RECT margin{0, 0, 0, 7};
         ::MapDialogRect(m_hub.m_hWnd, &margin);
         EXPECT_LE(std::abs(PlaceIn(m_hub, ::GetDlgItem(m_hub.m_hWnd, IDOK)).bottom + margin.bottom - client.bottom), 1);
     });
@@ -80,6 +80,30 @@ TEST_P(OptionsHubLayout, UsesAsFewRowsAsAChildsWidthAllows)
     EXPECT_GE(lastRows, 4u);
     m_hub.MoveWindow(0, 0, 1600 * m_owner.X(4) / 6, 500);
     EXPECT_EQ(Rows(m_hub), 1u);
+}
+
+// Around all and between what does not belong together 7 dialog units, between the sections and between the buttons 4.
+TEST_P(OptionsHubLayout, KeepsTheDistancesOfThePlatformsGuidelines)
+{
+    m_hub.Run([this] {
+        const auto section = [this](int number) {
+            return PlaceIn(m_hub, ::GetDlgItem(m_hub.m_hWnd, KZSectionButtonBase + number));
+        };
+        RECT units{4, 4, 7, 7};
+        ::MapDialogRect(m_hub.m_hWnd, &units);
+        CRect client;
+        m_hub.GetClientRect(&client);
+        const CRect ok = PlaceIn(m_hub, ::GetDlgItem(m_hub.m_hWnd, IDOK));
+        const CRect cancel = PlaceIn(m_hub, ::GetDlgItem(m_hub.m_hWnd, IDCANCEL));
+        EXPECT_EQ(section(0).left, units.right);
+        EXPECT_EQ(section(0).top, units.bottom);
+        EXPECT_EQ(section(3).right, client.right - units.right);
+        EXPECT_EQ(section(1).left - section(0).right, units.left);
+        EXPECT_EQ(section(4).top - section(0).bottom, units.top);
+        EXPECT_EQ(ok.top - section(4).bottom, units.bottom);
+        EXPECT_EQ(cancel.left - ok.right, units.left);
+        EXPECT_EQ(ok.bottom, client.bottom - units.bottom);
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, OptionsHubLayout, testing::Values(KZLanguage::English, KZLanguage::Spanish),
@@ -142,6 +166,39 @@ TEST_F(ChildHub, HasTheBackgroundThatItWasGiven)
     ASSERT_TRUE(m_hub->Create(m_parent->Window()));
     EXPECT_EQ(BackgroundOf(*m_hub, WM_CTLCOLORDLG, m_hub->m_hWnd), RGB(250, 240, 230));
     EXPECT_EQ(BackgroundOf(*m_hub, WM_CTLCOLORSTATIC, m_hub->GetDlgItem(1210)->m_hWnd), RGB(250, 240, 230));
+}
+
+// Sets a colour of the system, which tells all windows, and sets it back.
+class SystemColour {
+public:
+    SystemColour(int index, COLORREF colour) : m_index(index), m_before(::GetSysColor(index)) { Set(colour); }
+    ~SystemColour() { Set(m_before); }
+    SystemColour(const SystemColour&) = delete;
+    SystemColour& operator=(const SystemColour&) = delete;
+
+private:
+    void Set(COLORREF colour) const { ::SetSysColors(1, &m_index, &colour); }
+
+    int m_index;
+    COLORREF m_before;
+};
+
+TEST_F(ChildHub, FollowsTheSystemsWindowColour)
+{
+    m_hub->SetBackgroundColor(::GetSysColor(COLOR_WINDOW));
+    ASSERT_TRUE(m_hub->Create(m_parent->Window()));
+    const SystemColour window(COLOR_WINDOW, RGB(10, 20, 30));
+    m_hub->SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ(BackgroundOf(*m_hub, WM_CTLCOLORDLG, m_hub->m_hWnd), RGB(10, 20, 30));
+}
+
+TEST_F(ChildHub, KeepsAColourOfItsOwn)
+{
+    m_hub->SetBackgroundColor(RGB(250, 240, 230));
+    ASSERT_TRUE(m_hub->Create(m_parent->Window()));
+    const SystemColour window(COLOR_WINDOW, RGB(10, 20, 30));
+    m_hub->SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ(BackgroundOf(*m_hub, WM_CTLCOLORDLG, m_hub->m_hWnd), RGB(250, 240, 230));
 }
 
 TEST_F(ChildHub, StaysOnEnterAndEscape)

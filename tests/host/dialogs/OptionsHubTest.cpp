@@ -92,6 +92,13 @@ TEST_F(OptionsHub, OpensTheFocusedSectionOnEnter)
     EXPECT_EQ(m_hub.calls[0].hook, L"units");
 }
 
+TEST_F(OptionsHub, OpensASectionByItsAccessKey)
+{
+    EXPECT_EQ(m_hub.Run([] { ::PostMessageW(::GetFocus(), WM_SYSCHAR, L'l', 0x20000001); }), TestHub::StillOpen);
+    ASSERT_EQ(m_hub.calls.size(), 1u);
+    EXPECT_EQ(m_hub.calls[0].hook, L"limits");
+}
+
 TEST_F(OptionsHub, WalksThroughTheSectionsWithTab)
 {
     int focused = 0;
@@ -200,7 +207,10 @@ TEST_F(OptionsHub, SaysInOneMessageThatADriverHasNothingToSetUpInASection)
             CString caption;
             hub.GetDlgItem(KZSectionButtonBase + section)->GetWindowText(caption);
             ASSERT_EQ(boxes.Texts().size(), 1u);
-            EXPECT_NE(boxes.Texts()[0].find(caption), std::wstring::npos) << "the section is named";
+            std::wstring name = static_cast<LPCWSTR>(caption);
+            EXPECT_EQ(std::erase(name, L'&'), 1U) << "its access key";
+            EXPECT_NE(boxes.Texts()[0].find(name), std::wstring::npos) << "the section is named";
+            EXPECT_EQ(boxes.Texts()[0].find(L'&'), std::wstring::npos);
         }
     }
     EXPECT_TRUE(m_changes.empty());

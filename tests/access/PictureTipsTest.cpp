@@ -1,0 +1,104 @@
+// Tool tips on buttons that show a picture alone.
+#include <gmock/gmock.h>
+
+#include <map>
+
+#include "Controls.h"
+#include "EveryDialog.h"
+#include "SelectVarControls.h"
+
+namespace {
+
+// The tool tip window that belongs to the dialog; null when there is none.
+HWND TipsOf(HWND dialog)
+{
+    struct Search {
+        HWND owner;
+        HWND found;
+    } search{dialog, nullptr};
+    const auto look = [](HWND window, LPARAM into) -> BOOL {
+        auto& wanted = *reinterpret_cast<Search*>(into);
+        if (::GetWindow(window, GW_OWNER) == wanted.owner && kztest::ClassOf(window) == TOOLTIPS_CLASSW)
+            wanted.found = window;
+        return TRUE;
+    };
+    ::EnumThreadWindows(::GetWindowThreadProcessId(dialog, nullptr), look, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+// The tips by the windows that they belong to.
+std::map<HWND, std::wstring> TextsOf(HWND tips)
+{
+    std::map<HWND, std::wstring> texts;
+    const auto count = ::SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0);
+    for (LRESULT index = 0; index < count; ++index) {
+        wchar_t text[256]{};
+        TTTOOLINFOW tool{};
+        tool.cbSize = TTTOOLINFOW_V1_SIZE;
+        tool.lpszText = text;
+        ::SendMessageW(tips, TTM_ENUMTOOLSW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&tool));
+        texts[reinterpret_cast<HWND>(tool.uId)] = text;
+    }
+    return texts;
+}
+
+void MoveMouseOver(HWND control)
+{
+    ::PostMessageW(control, WM_MOUSEMOVE, 0, MAKELPARAM(2, 2));
+    MSG waiting;
+    while (::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE))
+        AfxPumpMessage();
+}
+
+class PictureTips : public testing::TestWithParam<KZLanguage> {
+protected:
+    PictureTips() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
+
+    DialogUser m_user;
+};
+
+TEST_P(PictureTips, ComeWithTheFirstMovementOfTheMouse)
+{
+    m_user.Use(OpenDialog::Selection, [](HWND dialog) {
+        EXPECT_FALSE(TipsOf(dialog));
+        MoveMouseOver(FindControl(dialog, IDC_GENERAL_NET_ROW));
+        const HWND tips = TipsOf(dialog);
+        ASSERT_TRUE(tips);
+        MoveMouseOver(FindControl(dialog, IDC_GENERAL_NET_BOX));
+        EXPECT_EQ(TipsOf(dialog), tips);
+    });
+}
+
+TEST_P(PictureTips, SayWhatTheButtonIsCalled)
+{
+    m_user.Use(OpenDialog::Selection, [this](HWND dialog) {
+        MoveMouseOver(dialog);
+        const auto tips = TextsOf(TipsOf(dialog));
+        EXPECT_EQ(tips.size(), 40U);
+        for (const auto& [window, text] : tips) {
+            EXPECT_EQ(text, m_user.accessibility.names[window]);
+            EXPECT_EQ(::GetWindowTextLengthW(window), 0);
+        }
+        for (const HWND control : WorkableControls(dialog)) {
+            const bool hasTip = ::GetWindowTextLengthW(control) == 0 && kztest::ClassOf(control) == L"Button";
+            EXPECT_EQ(tips.count(control), hasTip ? 1U : 0U) << ::GetDlgCtrlID(control);
+        }
+    });
+}
+
+TEST_P(PictureTips, AreNotMadeWhereEveryButtonHasAText)
+{
+    for (const OpenDialog dialog : {OpenDialog::Device, OpenDialog::Limits, OpenDialog::Units}) {
+        m_user.Use(dialog, [](HWND window) {
+            MoveMouseOver(window);
+            EXPECT_FALSE(TipsOf(window));
+        });
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, PictureTips, testing::Values(KZLanguage::English, KZLanguage::Spanish),
+                         [](const auto& instance) {
+                             return instance.param == KZLanguage::English ? "English" : "Spanish";
+                         });
+
+}  // namespace
