@@ -5,7 +5,7 @@
 # NAME.exe goes to build/<preset>/tests, away from the product. It gets the project's warnings, GoogleTest, GoogleMock, on
 # Windows the helpers of tests/support, and a main function unless one of its sources or libraries has its own. Each test
 # case is one ctest entry, listed when ctest starts: natively "native.Suite.Case", under Wine "wine.Suite.Case". TIMEOUT is
-# for one case, 60 s unless told. WHOLE, for programs without windows, makes the program one entry under Wine, where each start
+# for one case, 60 s unless told. WHOLE, for programs without windows and for those of many short cases, makes the program one entry under Wine, where each start
 # takes a fifth of a second. DPI adds one entry for the whole program at 120 and one at 144 dots per inch, SPANISH one for the
 # whole program with a Spanish user locale (all three Windows only).
 include(GoogleTest)

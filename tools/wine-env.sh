@@ -19,7 +19,7 @@ wine_pin_session() {
   if setarch --addr-no-randomize true 2> /dev/null; then wine_pin=(setarch --addr-no-randomize "${wine_pin[@]}"); fi
 }
 
-# wine_use SESSION: 96, 120 or 144 are sessions without a display at that many dots per inch (Wine reads the resolution once
+# wine_use SESSION: 96, 120, 144 or 192 are sessions without a display at that many dots per inch (Wine reads the resolution once
 # per session, so each has a prefix of its own); desktop draws on DISPLAY, in one window of 1280 x 1024.
 wine_use() {
   wine_session=$1
