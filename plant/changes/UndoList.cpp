@@ -15,6 +15,10 @@ struct UndoList::Step {
     std::unique_ptr<XmlDocument::Change> main;  // null when it is the same
     Change before;                              // of the device documents that differ
     Change after;
+    // Of the device list the piece that differs, by its place; both are empty when it is the same.
+    std::size_t firstDevice = 0;
+    DeviceList devicesBefore;
+    DeviceList devicesAfter;
     bool isListChanged = false;
     std::size_t bytes = 0;
 };
@@ -135,8 +139,10 @@ bool UndoList::FillIn(Step& step, const Change& pending) noexcept
     step.main = KZMainCfg::Get()->StopRecording();
     step.isListChanged = m_project.m_doing->devicesBefore.has_value();
     try {
-        if (step.isListChanged)
+        if (step.isListChanged) {
             AddListedDevices(step);
+            AddListPiece(step);
+        }
         AddOtherDocuments(step, pending);
         for (auto document = step.before.begin(); document != step.before.end();) {
             const auto& [name, bytes] = *document;
@@ -178,6 +184,34 @@ void UndoList::AddListedDevices(Step& step)
     m_project.m_savedDevices.RememberMissing(made);
     step.driverIds.insert(step.driverIds.end(), made.begin(), made.end());
     step.driverIds.insert(step.driverIds.end(), gone.begin(), gone.end());
+}
+
+void UndoList::AddListPiece(Step& step) const
+{
+    const auto isSame = [](const KZDeviceIdentity& a, const KZDeviceIdentity& b) {
+        return a.driverId == b.driverId && a.name == b.name && a.number == b.number && a.typeName == b.typeName &&
+               a.description == b.description && a.groups == b.groups;
+    };
+    const DeviceList& before = *m_project.m_doing->devicesBefore;
+    const DeviceList& after = m_project.m_devices;
+    const auto [first, firstAfter] = std::mismatch(before.begin(), before.end(), after.begin(), after.end(), isSame);
+    const auto [last, lastAfter] = std::mismatch(before.rbegin(), std::make_reverse_iterator(first), after.rbegin(),
+                                                 std::make_reverse_iterator(firstAfter), isSame);
+    step.firstDevice = static_cast<std::size_t>(first - before.begin());
+    step.devicesBefore.assign(first, last.base());
+    step.devicesAfter.assign(firstAfter, lastAfter.base());
+}
+
+// Only getting memory can fail, which comes first.
+void UndoList::ReplaceDevices(const Step& step, bool isBack)
+{
+    const DeviceList& from = isBack ? step.devicesAfter : step.devicesBefore;
+    DeviceList to = isBack ? step.devicesBefore : step.devicesAfter;
+    DeviceList& devices = m_project.m_devices;
+    devices.reserve(devices.size() + to.size());
+    const auto place = devices.begin() + static_cast<std::ptrdiff_t>(step.firstDevice);
+    const auto behind = devices.erase(place, place + static_cast<std::ptrdiff_t>(from.size()));
+    devices.insert(behind, std::make_move_iterator(to.begin()), std::make_move_iterator(to.end()));
 }
 
 // Documents of other devices than those that were named, new ones above all.
@@ -248,7 +282,7 @@ bool UndoList::Go(Step& step, bool isBack)
     }
     try {
         if (step.isListChanged)
-            m_project.ReadDevicesAnew();
+            ReplaceDevices(step, isBack);
     } catch (...) {
         GoInMain(step, !isBack);
         throw;

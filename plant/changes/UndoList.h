@@ -63,6 +63,8 @@ private:
     void TakeBackHalf(const Step& step, Change& pending) noexcept;
     [[nodiscard]] bool FillIn(Step& step, const Change& pending) noexcept;
     void AddListedDevices(Step& step);
+    void AddListPiece(Step& step) const;
+    void ReplaceDevices(const Step& step, bool isBack);
     void AddOtherDocuments(Step& step, const Change& pending);
     void Keep(std::unique_ptr<Step> step, const std::vector<KZBasicString>& driverIds) noexcept;
     bool Go(Step& step, bool isBack);
