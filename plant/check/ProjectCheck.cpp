@@ -29,7 +29,7 @@ private:
     const StoredProject& m_project;
     DocumentFiles m_documents;
     XmlDocument m_main{L"configuration"};
-    std::optional<XmlDocument> m_document;  // of the device that is looked at
+    XmlDocument m_document{L"device"};  // of the device that is looked at
     DeviceCheck m_check{m_main, [this](const std::string& name) { return Read(name); }};
     DeviceList m_devices;
     std::vector<DeviceFault> m_faults;
@@ -53,8 +53,7 @@ const XmlDocument::XmlNode* Checking::Read(const std::string& name)
 {
     if (!m_documents.contains(name))
         throw Refusal(IDS_PLANT_CHECK_NO_DOCUMENT, {Shown(FileOf(m_project.Folder(), name))});
-    m_document.emplace(L"device");
-    return m_project.ReadDevice(name, *m_document) ? m_document->Root() : nullptr;
+    return m_project.ReadDevice(name, m_document) ? m_document.Root() : nullptr;
 }
 
 Findings Checking::All()

@@ -50,7 +50,7 @@ private:
     Part m_part = Part::Nothing;
     std::size_t m_begun = 0;
     bool m_isComplete = false;
-    std::optional<XmlDocument> m_document;  // of the device that is looked at
+    XmlDocument m_document{L"device"};  // of the device that is looked at
     DeviceCheck m_check{*KZMainCfg::Get(), [this](const std::string& name) { return Read(name); }};
     std::optional<Findings> m_all;
 };
@@ -152,9 +152,8 @@ const XmlDocument::XmlNode* ProjectChecker::State::Read(const std::string& name)
         throw Refusal(IDS_PLANT_CHECK_NO_DOCUMENT, {Shown(file)});
     if (bytes->empty())
         return nullptr;
-    m_document.emplace(L"device");
-    ParseDocument(*m_document, *bytes, file);
-    return m_document->Root();
+    ParseDocument(m_document, *bytes, file);
+    return m_document.Root();
 }
 
 void ProjectChecker::State::Cancel() noexcept
