@@ -142,8 +142,8 @@ gone "$everyones"
 nothing_left HKLM "$everyones" "$prefix/drive_c/ProgramData/$menu"
 
 echo 'in a folder of its own, then elsewhere'
-own="$prefix/drive_c/My editor"
-[ "$(status run "$installer" /S '/D=C:\My editor')" = 0 ] || fail 'the installation failed'
+own="$prefix/drive_c/Own"
+[ "$(status run "$installer" /S '/D=C:\Own')" = 0 ] || fail 'the installation failed'
 same "$own"
 registered HKCU "$own" "$version"
 [ "$(status run "$later" /S)" = 0 ] || fail 'the upgrade failed'
@@ -156,7 +156,8 @@ same "$prefix/drive_c/Other"
 gone "$prefix/drive_c/Other"
 nothing_left HKCU "$prefix/drive_c/Other" "$user_menu"
 
-echo 'where nothing can be written'
-[ "$(status run "$installer" /S '/D=C:\windows\win.ini\KZEditor')" = 2 ] || fail 'an installation that failed has not said so'
+echo 'where a file cannot be written'
+mkdir -p "$prefix/drive_c/Blocked/KZHost.dll/something"
+[ "$(status run "$installer" /S '/D=C:\Blocked')" = 2 ] || fail 'an installation that failed has not said so'
 nothing_left HKCU "$mine" "$user_menu"
 environment | cmp -s - "$work/environment" || fail 'the environment was changed'
