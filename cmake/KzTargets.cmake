@@ -34,7 +34,7 @@ function(kz_common target)
   endif()
 endfunction()
 
-# What a release build ships: without the time of the build, which strip writes too unless told -p, and with its symbols in
+# What a release build ships: without the time of the build, which objcopy and strip write too unless told -p, and with its symbols in
 # symbols/FILE.debug, known by the id in both.
 function(kz_shipped target)
   if(NOT CMAKE_BUILD_TYPE STREQUAL Release)
@@ -44,7 +44,7 @@ function(kz_shipped target)
   set(symbols ${CMAKE_BINARY_DIR}/symbols)
   add_custom_command(TARGET ${target} POST_BUILD VERBATIM
     COMMAND ${CMAKE_COMMAND} -E make_directory ${symbols}
-    COMMAND ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE:${target}> ${symbols}/$<TARGET_FILE_NAME:${target}>.debug
+    COMMAND ${CMAKE_OBJCOPY} -p --only-keep-debug $<TARGET_FILE:${target}> ${symbols}/$<TARGET_FILE_NAME:${target}>.debug
     COMMAND ${CMAKE_STRIP} -p $<TARGET_FILE:${target}>)
 endfunction()
 
