@@ -53,6 +53,7 @@ EditorSettings SettingsIn(const XmlDocument::XmlNode& root)
     settings.place = PlaceIn(root);
     settings.isMaximized = Number(root, L"maximized") != 0;
     settings.listShare = Number(root, L"listShare");
+    settings.findingsShare = Number(root, L"findingsShare");
     const std::wstring_view language = root.Value(L"language", L"");
     for (const LanguageName& known : LanguageNames)
         if (language == known.name)
@@ -74,6 +75,7 @@ void Write(const EditorSettings& settings, XmlDocument::XmlNode& root)
             root.SetValue(side.name, static_cast<int>((*settings.place).*side.edge));
     root.SetValue(L"maximized", settings.isMaximized ? 1 : 0);
     root.SetValue(L"listShare", settings.listShare);
+    root.SetValue(L"findingsShare", settings.findingsShare);
     for (const LanguageName& known : LanguageNames)
         if (settings.language == known.language)
             root.SetValue(L"language", known.name);
@@ -89,7 +91,7 @@ bool operator==(const EditorSettings& one, const EditorSettings& other) noexcept
     return one.recent == other.recent && one.lastProject == other.lastProject && one.language == other.language &&
            one.place.has_value() == other.place.has_value() &&
            (!one.place || ::EqualRect(&*one.place, &*other.place)) && one.isMaximized == other.isMaximized &&
-           one.listShare == other.listShare;
+           one.listShare == other.listShare && one.findingsShare == other.findingsShare;
 }
 
 void EditorSettings::Remember(const std::wstring& folder)

@@ -18,7 +18,8 @@ struct EditorSettings {
     std::optional<KZLanguage> language;
     std::optional<RECT> place;  // of the window, on the screen
     bool isMaximized = false;
-    int listShare = 0;  // of the window's width, in thousandths; 0: none
+    int listShare = 0;      // of the window's width, in thousandths; 0: none
+    int findingsShare = 0;  // of its height, likewise
 
     // Puts the project in front; of more than MostRecent the oldest goes.
     void Remember(const std::wstring& folder);

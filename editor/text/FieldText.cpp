@@ -7,6 +7,7 @@
 #include "KZNumber.h"
 #include "KZUtf8.h"
 #include "fields/DecimalText.h"
+#include "modules/DeviceType.h"
 
 namespace {
 
@@ -71,6 +72,16 @@ std::wstring FieldCaption(const plant::Field& field)
     for (const plant::Words& words : field.caption)
         AppendPart(caption, Text(words));
     return caption;
+}
+
+std::wstring FindingPlace(const plant::Finding& finding)
+{
+    for (const DeviceType& type : DeviceTypes()) {
+        const plant::FieldTable* const table = plant::FieldsOfType(type.name);
+        if (const plant::Field* const field = table ? plant::FindField(*table, finding.place) : nullptr)
+            return FieldCaption(*field);
+    }
+    return FromUtf8(finding.place);
 }
 
 std::wstring FieldValueText(const plant::Field& field, const std::string& value)

@@ -3,10 +3,14 @@
 
 #include <string>
 
+#include "changes/Finding.h"
 #include "fields/Field.h"
 
 // "Harmonic 5, Network, Warning"
 [[nodiscard]] std::wstring FieldCaption(const plant::Field& field);
+
+// Where a finding is, in words: the caption of a field, or the name of a document.
+[[nodiscard]] std::wstring FindingPlace(const plant::Finding& finding);
 
 // A value of the field, given as fields/FieldValue.h has it: numbers as the dialogs show them, choices in words, the
 // members of a set with ", " between them, and a dash for what is empty.

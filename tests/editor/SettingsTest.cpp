@@ -24,6 +24,7 @@ TEST_F(Settings, AreWhatWasStored)
     file.settings.place = RECT{-20, 10, 900, 700};
     file.settings.isMaximized = true;
     file.settings.listShare = 333;
+    file.settings.findingsShare = 222;
     file.Store();
     EXPECT_EQ(Stored(), file.settings);
     EXPECT_EQ(Stored().lastProject, L"D:\\ñ");

@@ -105,9 +105,14 @@ constexpr WindowCommand Commands[] = {
     {MenuName::Device, IDC_RENAME_DEVICE, IDS_COMMAND_RENAME, {0, VK_F2}, IDC_DEVICES, CanChangeOneDevice, RenameDevice},
     {MenuName::Device, IDC_REMOVE_DEVICE, IDS_COMMAND_REMOVE, {0, VK_DELETE}, IDC_DEVICES, CanChangeDevices, RemoveDevices},
 
+    {MenuName::Project, IDC_CHECK, IDS_COMMAND_CHECK, {0, VK_F7}, 0, When<&Window::HasProject>, Run<&Window::Check>},
+    {MenuName::Project, IDC_NEXT_FINDING, IDS_COMMAND_NEXT_FINDING, {0, VK_F8}, 0, When<&Window::HasFindings>, Run<&Window::GoToNextFinding>},
+    {MenuName::Project, IDC_PREVIOUS_FINDING, IDS_COMMAND_PREVIOUS_FINDING, {FSHIFT, VK_F8}, 0, When<&Window::HasFindings>, Run<&Window::GoToPreviousFinding>},
+
     {MenuName::View, IDC_SHOW_VALUES, IDS_COMMAND_SHOW_VALUES, {FCONTROL, '1'}, 0, When<&Window::HasProject>, Show<PageName::Values>, Shows<PageName::Values>},
     {MenuName::View, IDC_SHOW_VARIABLES, IDS_COMMAND_SHOW_VARIABLES, {FCONTROL, '3'}, 0, When<&Window::HasProject>, Show<PageName::Variables>, Shows<PageName::Variables>},
     {MenuName::View, IDC_SHOW_OPTIONS, IDS_COMMAND_SHOW_OPTIONS, {FCONTROL, '4'}, 0, When<&Window::HasProject>, Show<PageName::Options>, Shows<PageName::Options>},
+    {MenuName::View, IDC_SHOW_FINDINGS, IDS_COMMAND_SHOW_FINDINGS, {FCONTROL, '5'}, 0, When<&Window::HasProject>, Run<&Window::GoToFindings>},
 
     {MenuName::View},
     {.menu = MenuName::View, .text = IDS_MENU_LANGUAGE, .opens = MenuName::Language},
@@ -131,6 +136,8 @@ constexpr WindowCommand Commands[] = {
 
     {MenuName::None, IDC_OPEN_MARKED, 0, {0, VK_RETURN}, IDC_RECENT, Always, Run<&Window::OpenMarkedRecent>},
     {MenuName::None, IDC_FORGET_MARKED, 0, {0, VK_DELETE}, IDC_RECENT, Always, Run<&Window::ForgetMarkedRecent>},
+    {MenuName::None, IDC_SHOW_FINDING, 0, {0, VK_RETURN}, IDC_FINDINGS, When<&Window::HasFindings>, Run<&Window::ShowMarkedFinding>},
+    {MenuName::None, IDC_FINDINGS_CLOSE, 0, {}, 0, When<&Window::ShowsFindings>, Run<&Window::HideFindings>},
     {MenuName::None, IDC_FIND_CLEAR, 0, {}, 0, When<&Window::IsFiltered>, Run<&Window::ClearFind>},
     {MenuName::None, IDC_FIND_DOWN, 0, {0, VK_DOWN}, IDC_FIND, Always, Run<&Window::GoToList>},
     {MenuName::None, IDC_FIND_ENTER, 0, {0, VK_RETURN}, IDC_FIND, Always, Run<&Window::GoToList>},

@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #include "KZUtf8.h"
-#include "fields/Field.h"
-#include "modules/DeviceType.h"
 #include "resources/DialogTextIds.h"
 #include "text/EditorText.h"
 #include "text/FieldText.h"
@@ -28,16 +26,6 @@ std::wstring Cell(const plant::Finding& finding, int column)
 }
 
 }  // namespace
-
-std::wstring FindingPlace(const plant::Finding& finding)
-{
-    for (const DeviceType& type : DeviceTypes()) {
-        const plant::FieldTable* const table = plant::FieldsOfType(type.name);
-        if (const plant::Field* const field = table ? plant::FindField(*table, finding.place) : nullptr)
-            return FieldCaption(*field);
-    }
-    return FromUtf8(finding.place);
-}
 
 void FindingsList::SetUp()
 {

@@ -12,6 +12,7 @@ public:
     // Shows these. The row that is marked stays so while its finding is there.
     void Show(plant::Findings findings);
 
+    [[nodiscard]] const plant::Findings& Findings() const noexcept { return m_findings; }
     // The finding of the marked row; null for none.
     [[nodiscard]] const plant::Finding* Current() const;
     // Marks the row behind the marked one, or before it, from the last one on to the first; null without findings.
@@ -23,6 +24,3 @@ private:
 
     plant::Findings m_findings;
 };
-
-// Where a finding is, in words: the caption of a field, or the name of a document.
-[[nodiscard]] std::wstring FindingPlace(const plant::Finding& finding);

@@ -9,8 +9,10 @@
 
 namespace {
 
-constexpr int WholeWidth = 1000;
+constexpr int Whole = 1000;
 constexpr int SmallestShare = 200;
+constexpr int SmallestFindings = 150;
+constexpr int LargestFindings = 600;
 
 // In dialog units.
 constexpr int Margin = 4;
@@ -54,7 +56,12 @@ CRect InsideOfTabs(const CWnd& window)
 
 void FrameLayout::SetListShare(int share) noexcept
 {
-    m_nListShare = std::clamp(share, SmallestShare, WholeWidth - SmallestShare);
+    m_nListShare = std::clamp(share, SmallestShare, Whole - SmallestShare);
+}
+
+void FrameLayout::SetFindingsShare(int share) noexcept
+{
+    m_nFindingsShare = std::clamp(share, SmallestFindings, LargestFindings);
 }
 
 bool FrameLayout::MoveListBar(const CWnd& window, int pixels)
@@ -65,8 +72,20 @@ bool FrameLayout::MoveListBar(const CWnd& window, int pixels)
     window.GetDlgItem(IDC_DEVICES)->GetWindowRect(&list);
     window.GetDlgItem(IDC_PAGES)->GetWindowRect(&tabs);
     const int width = std::max(1, list.Width() + tabs.Width());
-    SetListShare(((list.Width() + pixels) * WholeWidth + width / 2) / width);
+    SetListShare(((list.Width() + pixels) * Whole + width / 2) / width);
     return m_nListShare != before;
+}
+
+bool FrameLayout::MoveFindingsBar(const CWnd& window, int pixels)
+{
+    const int before = m_nFindingsShare;
+    CRect list;
+    CRect findings;
+    window.GetDlgItem(IDC_DEVICES)->GetWindowRect(&list);
+    window.GetDlgItem(IDC_FINDINGS)->GetWindowRect(&findings);
+    const int height = std::max(1, list.Height() + findings.Height());
+    SetFindingsShare(((findings.Height() - pixels) * Whole + height / 2) / height);
+    return m_nFindingsShare != before;
 }
 
 void FrameLayout::Arrange(CWnd& window) const
@@ -89,12 +108,20 @@ void FrameLayout::Arrange(CWnd& window) const
     KZHoritzontalLayout panes(&window);
     panes.AddControl(IDC_DEVICES, m_nListShare);
     panes.AddControl(IDC_LIST_BAR, KZLayout::Pixels2Size(Units(window, {BarWidth, 0}).right).cx);
-    panes.AddControl(IDC_PAGES, WholeWidth - m_nListShare);
+    panes.AddControl(IDC_PAGES, Whole - m_nListShare);
 
     KZVerticalLayout frame(&window);
     frame.AddLayout(find, KZSizeNatural);
     frame.AddGap(KZSizeStandard);
-    frame.AddLayout(panes, 1);
+    frame.AddLayout(panes, Whole - m_nFindingsShare);
+    KZHoritzontalLayout heading(&window);
+    if (m_bFindings) {
+        heading.AddControl(IDC_FINDINGS_LABEL, 1);
+        heading.AddControl(IDC_FINDINGS_CLOSE, KZLayout::Pixels2Size(Units(window, {14, 14}).right).cx);
+        frame.AddControl(IDC_FINDINGS_BAR, KZLayout::Pixels2Size(Units(window, {0, BarWidth}).bottom).cy);
+        frame.AddLayout(heading, KZSizeNatural);
+        frame.AddControl(IDC_FINDINGS, m_nFindingsShare);
+    }
     frame.Layout(Area(window));
 
     CRect caption = InsideOfTabs(window);

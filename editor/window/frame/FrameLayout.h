@@ -1,5 +1,5 @@
-// Where the panes of the main window stand: the find line above, the list and the pages beside each other, the status
-// bar below; the bar between list and pages can be moved.
+// Where the panes of the main window stand: the find line above, the list and the pages beside each other, the findings
+// below them while they are shown, the status bar at the bottom; the bars between the panes can be moved.
 #pragma once
 
 #include <afxwin.h>
@@ -12,6 +12,12 @@ public:
     // Moves the bar by pixels; true when it has moved.
     bool MoveListBar(const CWnd& window, int pixels);
 
+    // The same of the findings, in thousandths of the height.
+    [[nodiscard]] int FindingsShare() const noexcept { return m_nFindingsShare; }
+    void SetFindingsShare(int share) noexcept;
+    bool MoveFindingsBar(const CWnd& window, int pixels);
+    void ShowFindings(bool isShown) noexcept { m_bFindings = isShown; }
+
     // Places the controls of the window. The caption and the pages get the inside of the tab control.
     void Arrange(CWnd& window) const;
     // The size of the client area below which something would be cut.
@@ -22,4 +28,6 @@ public:
 
 private:
     int m_nListShare = 440;
+    int m_nFindingsShare = 250;
+    bool m_bFindings = false;
 };

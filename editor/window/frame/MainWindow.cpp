@@ -18,8 +18,9 @@ constexpr struct {
     int control;
     unsigned text;
 } Captions[] = {
-    {IDC_FIND_LABEL, IDS_FIND_LABEL}, {IDC_FIND_CLEAR, IDS_FIND_CLEAR},  {IDC_DEVICES, IDS_DEVICES},
-    {IDC_SELECT, IDS_BUTTON_SELECT},  {IDC_OPTIONS, IDS_BUTTON_OPTIONS}, {IDC_LIST_BAR, IDS_LIST_BAR},
+    {IDC_FIND_LABEL, IDS_FIND_LABEL},     {IDC_FIND_CLEAR, IDS_FIND_CLEAR},         {IDC_DEVICES, IDS_DEVICES},
+    {IDC_SELECT, IDS_BUTTON_SELECT},      {IDC_OPTIONS, IDS_BUTTON_OPTIONS},        {IDC_LIST_BAR, IDS_LIST_BAR},
+    {IDC_FINDINGS_BAR, IDS_FINDINGS_BAR}, {IDC_FINDINGS_CLOSE, IDS_FINDINGS_CLOSE},
 };
 
 }  // namespace
@@ -39,9 +40,12 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_NOTIFY(LVN_KEYDOWN, IDC_DEVICES, &MainWindow::OnDeviceKey)
     ON_NOTIFY(LVN_COLUMNCLICK, IDC_DEVICES, &MainWindow::OnSortDevices)
     ON_NOTIFY(NM_DBLCLK, IDC_DEVICES, &MainWindow::OnDoubleClickDevice)
+    ON_NOTIFY(LVN_GETDISPINFO, IDC_FINDINGS, &MainWindow::OnFindingText)
+    ON_NOTIFY(NM_DBLCLK, IDC_FINDINGS, &MainWindow::OnDoubleClickFinding)
     ON_NOTIFY(TCN_SELCHANGE, IDC_PAGES, &MainWindow::OnSelectPage)
     ON_MESSAGE(WM_KZ_VARIABLES_MARKED, &MainWindow::OnMarkVariable)
     ON_MESSAGE(WM_CONTEXTMENU, &MainWindow::OnContextMenu)
+    ON_MESSAGE(WM_ENABLE, &MainWindow::OnEnable)
     ON_MESSAGE(WM_TIMER, &MainWindow::OnTimer)
     ON_MESSAGE(WM_KZ_CHANGES, &MainWindow::OnChanges)
     ON_MESSAGE(WM_KZ_SPLITTER, &MainWindow::OnSplitter)
@@ -81,6 +85,7 @@ void MainWindow::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_FIND, m_edtFind);
     DDX_Control(pDX, IDC_DEVICES, m_lstDevices);
     DDX_Control(pDX, IDC_PAGES, m_tab);
+    DDX_Control(pDX, IDC_FINDINGS, m_lstFindings);
 }
 
 BOOL MainWindow::OnInitDialog()
@@ -88,7 +93,8 @@ BOOL MainWindow::OnInitDialog()
     if (!CDialog::OnInitDialog())
         return FALSE;
     SetProgramIcon(*this);
-    if (!m_barList.CreateBehind(*this, IDC_DEVICES, IDC_LIST_BAR) || !m_pageValues.CreateIn(*this) ||
+    if (!m_barList.CreateBehind(*this, IDC_DEVICES, IDC_LIST_BAR) ||
+        !m_barFindings.CreateBehind(*this, IDC_PAGE_CAPTION, IDC_FINDINGS_BAR) || !m_pageValues.CreateIn(*this) ||
         !m_pageVariables.CreateIn(*this) || !m_pageOptions.CreateIn(*this) || !m_paneStart.CreateIn(*this)) {
         EndDialog(-1);
         return FALSE;
@@ -102,6 +108,8 @@ BOOL MainWindow::OnInitDialog()
     }
     if (m_settings.settings.listShare != 0)
         m_layout.SetListShare(m_settings.settings.listShare);
+    if (m_settings.settings.findingsShare != 0)
+        m_layout.SetFindingsShare(m_settings.settings.findingsShare);
     m_pageOptions.SetAround([this](const std::function<void()>& command) { RunEmbedded(command); });
     SetTexts();
     Attach();
@@ -114,6 +122,9 @@ void MainWindow::SetTexts()
         SetDlgItemText(caption.control, EditorText(caption.text).c_str());
     ShowMenu();
     m_lstDevices.SetUp();
+    m_lstFindings.SetUp();
+    m_lstFindings.Invalidate();
+    ShowFindingsState();
     m_pageValues.SetTexts();
     m_pageVariables.SetTexts();
     m_paneStart.Show(RecentProjects());
@@ -171,7 +182,7 @@ void MainWindow::ShowTitle()
 void MainWindow::ShowStatus()
 {
     if (!m_open) {
-        for (WPARAM part = 0; part < 3; ++part)
+        for (WPARAM part = 0; part < 4; ++part)
             GetDlgItem(IDC_STATUS_BAR)->SendMessage(SB_SETTEXTW, part, reinterpret_cast<LPARAM>(L""));
         return;
     }
@@ -184,6 +195,7 @@ void MainWindow::ShowStatus()
         count,
         FormatEditorText(IDS_STATUS_MARKED, static_cast<int>(m_places.size())),
         FormatEditorText(changed == 1 ? IDS_STATUS_ONE_CHANGED : IDS_STATUS_CHANGED, changed),
+        CheckText(),
     };
     const CWnd* status = GetDlgItem(IDC_STATUS_BAR);
     for (WPARAM part = 0; part < std::size(parts); ++part)
@@ -198,12 +210,13 @@ void MainWindow::Arrange()
          {static_cast<CWnd*>(&m_pageValues), static_cast<CWnd*>(&m_pageVariables), static_cast<CWnd*>(&m_pageOptions)})
         window->MoveWindow(page);
     m_lstDevices.FitColumns();
+    m_lstFindings.FitColumns();
     CRect client;
     GetClientRect(&client);
     CRect status;
     GetDlgItem(IDC_STATUS_BAR)->GetWindowRect(&status);
     m_paneStart.MoveWindow(0, 0, client.Width(), client.Height() - status.Height());
-    const int edges[] = {client.Width() / 3, client.Width() * 2 / 3, -1};
+    const int edges[] = {client.Width() / 4, client.Width() / 2, client.Width() * 3 / 4, -1};
     GetDlgItem(IDC_STATUS_BAR)->SendMessage(SB_SETPARTS, std::size(edges), reinterpret_cast<LPARAM>(edges));
 }
 
@@ -234,9 +247,10 @@ HBRUSH MainWindow::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)
     return ::GetSysColorBrush(COLOR_WINDOW);
 }
 
-LRESULT MainWindow::OnSplitter(WPARAM, LPARAM lParam)
+LRESULT MainWindow::OnSplitter(WPARAM wParam, LPARAM lParam)
 {
-    if (m_layout.MoveListBar(*this, static_cast<int>(lParam)))
+    const auto pixels = static_cast<int>(lParam);
+    if (wParam == IDC_LIST_BAR ? m_layout.MoveListBar(*this, pixels) : m_layout.MoveFindingsBar(*this, pixels))
         Arrange();
     return 0;
 }

@@ -12,6 +12,7 @@
 #include "ProjectQuestions.h"
 #include "Splitter.h"
 #include "settings/EditorSettings.h"
+#include "window/findings/FindingsList.h"
 #include "window/list/DeviceListView.h"
 #include "window/options/ChildPane.h"
 #include "window/start/StartPane.h"
@@ -82,6 +83,12 @@ public:
     void GoToNextPage() { ShowNextPage(1); }
     void GoToPreviousPage() { ShowNextPage(-1); }
     void ShowPage(PageName page);
+    void Check();
+    void GoToNextFinding();
+    void GoToPreviousFinding();
+    void GoToFindings();
+    void HideFindings();
+    void ShowMarkedFinding();
     [[nodiscard]] PageName ShownPage() const noexcept { return m_page; }
     [[nodiscard]] bool CanUndo() const { return m_open && m_open->undo.CanUndo(); }
     [[nodiscard]] bool CanRedo() const { return m_open && m_open->undo.CanRedo(); }
@@ -93,6 +100,8 @@ public:
     [[nodiscard]] bool HasDevices() const;
     [[nodiscard]] bool IsDirty() const;
     [[nodiscard]] bool IsFiltered() const;
+    [[nodiscard]] bool HasFindings() const { return m_open && !m_lstFindings.Findings().empty(); }
+    [[nodiscard]] bool ShowsFindings() const noexcept { return m_bFindings; }
 
 protected:
     BOOL OnInitDialog() override;
@@ -113,10 +122,13 @@ protected:
     afx_msg void OnDeviceKey(NMHDR* header, LRESULT* result);
     afx_msg void OnDoubleClickDevice(NMHDR* header, LRESULT* result);
     afx_msg void OnSortDevices(NMHDR* header, LRESULT* result);
+    afx_msg void OnFindingText(NMHDR* header, LRESULT* result);
+    afx_msg void OnDoubleClickFinding(NMHDR* header, LRESULT* result);
     afx_msg void OnSelectPage(NMHDR* header, LRESULT* result);
     afx_msg LRESULT OnMarkVariable(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnContextMenu(WPARAM wParam, LPARAM lParam);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    afx_msg LRESULT OnEnable(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnTimer(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnChanges(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSplitter(WPARAM wParam, LPARAM lParam);
@@ -132,6 +144,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    static constexpr UINT_PTR CheckTimer = 2;
+
     // MainWindowFiles.cpp
     bool SaveOrSayWhy();
     bool MayClose();
@@ -164,6 +178,16 @@ private:
     void GoToPane(int step);
     [[nodiscard]] CWnd& PageWindow();
 
+    // MainWindowFindings.cpp
+    void ContinueCheckLater() noexcept;
+    void ContinueCheck();
+    void ShowFindings();
+    void ShowFindingsPane(bool isShown);
+    void ShowFindingsState();
+    [[nodiscard]] std::wstring CheckText() const;
+    void Show(const plant::Finding& finding);
+    void MarkDevice(std::size_t device);
+
     void ShowCommands();
     void EnableButton(int id, bool enabled);
     void SetTexts();
@@ -184,6 +208,7 @@ private:
     ProjectQuestions m_questions;
     FrameLayout m_layout;
     Splitter m_barList{Splitter::Moves::Sideways};
+    Splitter m_barFindings{Splitter::Moves::UpAndDown};
     CEdit m_edtFind;
     std::unique_ptr<DeviceRows> m_rows;
     DeviceListView m_lstDevices;
@@ -192,6 +217,7 @@ private:
     std::optional<CommonValues> m_values;  // as long as they are read
     VariablesPage m_pageVariables;
     ChildPane m_pageOptions;
+    FindingsList m_lstFindings;
     StartPane m_paneStart;
     PageName m_page = PageName::Values;
     std::vector<std::size_t> m_places;       // of the marked devices in the project's list
@@ -199,6 +225,8 @@ private:
     bool m_bChangesShown = true;             // of the project since the last time
     bool m_bAllChanged = false;              // of what is to be shown
     std::vector<KZBasicString> m_changed;    // the devices of which it is
+    bool m_bFindings = false;                // the pane is shown
+    ULONGLONG m_nFindingsShown = 0;          // when, in milliseconds
     bool m_bMarksSettling = false;           // a message is under way that shows what is marked
     bool m_bDamageTold = false;              // of what other editors have left
     bool m_bRecoveriesOffered = false;       // all of them

@@ -71,7 +71,10 @@ void MainWindow::ContinueValues()
 LRESULT MainWindow::OnTimer(WPARAM wParam, LPARAM)
 {
     ::KillTimer(m_hWnd, wParam);
-    ContinueValues();
+    if (wParam == CheckTimer)
+        ContinueCheck();
+    else
+        ContinueValues();
     return 0;
 }
 
@@ -156,13 +159,20 @@ void MainWindow::OnSelectPage(NMHDR*, LRESULT* result)
 
 void MainWindow::GoToPane(int step)
 {
+    std::vector<CWnd*> panes{&m_edtFind, &m_lstDevices, &m_barList, &m_tab};
+    // A page without a control that takes the focus leaves it to the tabs.
     CWnd* const page = GetNextDlgTabItem(&m_tab);
-    CWnd* const panes[] = {&m_edtFind, &m_lstDevices, &m_barList, page};
-    constexpr int count = static_cast<int>(std::size(panes));
+    if (::IsChild(PageWindow(), *page))
+        panes.back() = page;
+    if (m_bFindings)
+        panes.insert(panes.end(), {&m_barFindings, &m_lstFindings});
     const HWND focus = ::GetFocus();
     int now = 0;
+    const int count = static_cast<int>(panes.size());
     for (int pane = 0; pane < count; ++pane)
-        if (panes[pane]->m_hWnd == focus || (pane == count - 1 && ::IsChild(PageWindow(), focus)))
+        if (panes[static_cast<std::size_t>(pane)]->m_hWnd == focus)
             now = pane;
-    GotoDlgCtrl(panes[(now + count + step) % count]);
+    if (::IsChild(PageWindow(), focus))
+        now = 3;
+    GotoDlgCtrl(panes[static_cast<std::size_t>((now + count + step) % count)]);
 }

@@ -26,6 +26,9 @@ void MainWindow::Attach()
         m_settings.Store();
     }
     m_lstDevices.Show(m_rows.get());
+    m_lstFindings.Show({});
+    ShowFindingsPane(false);
+    ShowFindingsState();
     m_edtFind.SetWindowText(L"");
     m_paneStart.Show(RecentProjects());
     ShowMenu();
@@ -146,6 +149,7 @@ void MainWindow::StorePlace()
     m_settings.settings.isMaximized = ::IsZoomed(m_hWnd) != FALSE;
     m_settings.settings.place = placement.rcNormalPosition;
     m_settings.settings.listShare = m_layout.ListShare();
+    m_settings.settings.findingsShare = m_layout.FindingsShare();
     m_settings.Store();
 }
 
@@ -241,6 +245,7 @@ void MainWindow::OnProjectChanged(const plant::ProjectChange& change) noexcept
     }
     m_bChangesShown = false;
     PostMessage(WM_KZ_CHANGES);
+    ContinueCheckLater();
 }
 
 LRESULT MainWindow::OnChanges(WPARAM, LPARAM)

@@ -4,6 +4,7 @@
 #include "changes/UndoList.h"
 #include "main/ProjectStore.h"
 #include "modules/DeviceDrivers.h"
+#include "window/findings/BackgroundCheck.h"
 
 struct OpenProject {
     // Throws plant::Refusal when the project cannot be opened.
@@ -12,5 +13,6 @@ struct OpenProject {
     plant::Project project;
     ProjectStore store{project, "window"};
     plant::UndoList undo{project};
+    BackgroundCheck check{project};
     DeviceDrivers drivers{project.Devices()};
 };

@@ -5,7 +5,10 @@
 
 #include "KZMainCfg.h"
 #include "KZQuorvelantaSetup.h"
+#include "KZUtf8.h"
 #include "project/ChosenVariables.h"
+#include "text/FieldText.h"
+#include "text/PlantMessage.h"
 
 namespace {
 
@@ -30,7 +33,8 @@ std::map<KZBasicString, int> ChosenCounts()
 }  // namespace
 
 DeviceRows::DeviceRows(plant::Project& project, const ModuleLoader& modules)
-    : m_project(project), m_modules(modules), m_filter(project, [this](std::size_t device) { return ModelOf(device); })
+    : m_project(project), m_modules(modules),
+      m_filter(project, [this](std::size_t device) { return MoreWordsOf(device); })
 {
     Refresh({true, true, {}});
 }
@@ -38,6 +42,30 @@ DeviceRows::DeviceRows(plant::Project& project, const ModuleLoader& modules)
 std::wstring DeviceRows::ModelOf(std::size_t device) const
 {
     return KZQuorvelantaSetup::Get()->DriverName(m_project.Devices()[device].typeName.c_str()).c_str();
+}
+
+std::wstring DeviceRows::MoreWordsOf(std::size_t device) const
+{
+    std::wstring words = ModelOf(device);
+    if (const auto found = m_findings.find(m_project.Devices()[device].name.View()); found != m_findings.end())
+        for (const plant::Finding& finding : found->second)
+            words.append(L"\n").append(FindingPlace(finding)).append(L"\n").append(PlantMessage(finding.reason));
+    return words;
+}
+
+bool DeviceRows::ShowFindings(const plant::Findings& findings)
+{
+    std::map<std::wstring, plant::Findings, std::less<>> ofDevices;
+    for (const plant::Finding& finding : findings)
+        if (!finding.device.empty())
+            ofDevices[FromUtf8(finding.device)].push_back(finding);
+    if (ofDevices == m_findings)
+        return false;
+    m_findings = std::move(ofDevices);
+    m_filter.Refresh();
+    const std::vector<std::size_t> before = m_shown;
+    Order();
+    return m_shown != before;
 }
 
 void DeviceRows::CountVariables(const plant::ProjectChange& change)
@@ -102,6 +130,7 @@ DeviceSigns DeviceRows::SignsOf(std::size_t device) const
     const KZDeviceIdentity& identity = m_project.Devices()[device];
     DeviceSigns signs;
     signs.isChanged = m_project.ChangedDevices().contains(identity.driverId);
+    signs.hasFindings = m_findings.contains(identity.name.View());
     signs.hasNoModule = m_modules.CallbacksOf(identity.typeName) == nullptr;
     return signs;
 }

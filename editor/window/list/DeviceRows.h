@@ -1,10 +1,12 @@
 // What the list of devices shows of each, which of them, and in which order. Knows no window.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "check/DeviceCheck.h"
 #include "modules/ModuleLoader.h"
 #include "project/DeviceFilter.h"
 #include "project/Project.h"
@@ -26,6 +28,9 @@ public:
 
     // The project's devices or their variables have changed: all of them, or those that a change names.
     void Refresh(const plant::ProjectChange& change);
+    // Signs the devices that have findings; they are found by the words of these too. Returns whether other rows are
+    // shown now.
+    bool ShowFindings(const plant::Findings& findings);
     // Only the devices in which every word of the text occurs.
     void Filter(const std::wstring& text);
     // In ascending or descending order of a column; at first in the project's order.
@@ -38,6 +43,7 @@ public:
 
 private:
     [[nodiscard]] std::wstring ModelOf(std::size_t device) const;
+    [[nodiscard]] std::wstring MoreWordsOf(std::size_t device) const;
     [[nodiscard]] std::size_t WeightOf(std::size_t device, DeviceColumn column) const;
     void CountVariables(const plant::ProjectChange& change);
     void Order();
@@ -49,5 +55,6 @@ private:
     std::optional<DeviceColumn> m_sorted;
     bool m_isDescending = false;
     std::vector<std::size_t> m_shown;
-    std::vector<int> m_variables;  // chosen ones, by device
+    std::vector<int> m_variables;                                     // chosen ones, by device
+    std::map<std::wstring, plant::Findings, std::less<>> m_findings;  // by the device's name
 };

@@ -1,5 +1,7 @@
 #include "ValuesPage.h"
 
+#include <algorithm>
+
 #include "text/EditorText.h"
 #include "window/shared/FillWindow.h"
 
@@ -68,6 +70,19 @@ void ValuesPage::Show(SummaryRows rows)
         m_lstValues.FitColumns();  // a scroll bar came or went
     }
     m_lstValues.Invalidate();
+}
+
+void ValuesPage::Mark(const std::wstring& setting)
+{
+    constexpr UINT Both = LVIS_SELECTED | LVIS_FOCUSED;
+    m_lstValues.SetItemState(-1, 0, Both);
+    const auto found =
+        std::find_if(m_rows.begin(), m_rows.end(), [&setting](const SummaryRow& row) { return row.name == setting; });
+    if (setting.empty() || found == m_rows.end())
+        return;
+    const int row = static_cast<int>(found - m_rows.begin());
+    m_lstValues.SetItemState(row, Both, Both);
+    m_lstValues.EnsureVisible(row, FALSE);
 }
 
 void ValuesPage::OnSize(UINT type, int cx, int cy)

@@ -13,6 +13,9 @@ public:
     void SetTexts();
     // Shows the rows, or none.
     void Show(SummaryRows rows);
+    // Marks the setting of this name and brings it into view, or none when there is none.
+    void Mark(const std::wstring& setting);
+    void TakeFocus() { m_lstValues.SetFocus(); }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
