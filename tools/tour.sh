@@ -28,6 +28,7 @@ steps=(
   "plant             The editor with the devices of the plant and the values of the marked one"
   "found             Find: the filters that have every word, in whatever text of theirs"
   "several           All filters marked: what differs between them"
+  "findings          F7 checks the project, F8 leads to the value that is wrong"
   "selection         Select variables: what was chosen earlier is checked and disabled"
   "single_boxes      General page: frequency and a current, box by box"
   "whole_row         Power page: one button takes the whole row of the load side"
@@ -51,7 +52,7 @@ steps=(
 
 # The steps that the documents show, each with the picture's name there; it is the window that takes input.
 declare -A documented=(
-  [plant]=editor [found]=find [several]=several [undo]=undo [hub]=options [settings]=device-settings [confirmation]=question [units]=units [limits]=limits-powers
+  [plant]=editor [found]=find [several]=several [findings]=findings [undo]=undo [hub]=options [settings]=device-settings [confirmation]=question [units]=units [limits]=limits-powers
   [refused]=refused [harmonic_limits]=limits-harmonics [single_boxes]=selection-general [whole_row]=selection-power
   [by_keyboard]=selection-harmonics [unsaved]=unsaved [noticed]=changed-elsewhere [foreign]=save-over
 )
@@ -74,7 +75,15 @@ step_several() {
   key ctrl+a
   until_control "$main_title" $IDC_PAGE_CAPTION 'TEXT=6'
 }
+step_findings() {
+  key F7
+  until_control "$main_title" $IDC_FINDINGS_LABEL 'TEXT=Findings (1)'
+  key F8
+  until_control "$main_title" $IDC_PAGE_CAPTION 'TEXT=LAB ENSAYOS'
+}
 step_selection() {
+  click "$main_title" $IDC_FINDINGS_CLOSE
+  until_control "$main_title" $IDC_DEVICES focused
   choose_device 0 $device
   open_selection $device
 }
