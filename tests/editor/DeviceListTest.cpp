@@ -184,4 +184,22 @@ TEST_F(ManyDevices, HaveTheirCommonValuesReadInSlices)
     EXPECT_LT(longest, 1000U);
 }
 
+TEST_F(ManyDevices, AreCheckedInSlicesWithTheShareThatIsDone)
+{
+    const auto status = [this] {
+        std::array<wchar_t, 64> part{};
+        ::SendMessageW(::GetDlgItem(m_window->m_hWnd, IDC_STATUS_BAR), SB_GETTEXTW, 3,
+                       reinterpret_cast<LPARAM>(part.data()));
+        return std::wstring(part.data());
+    };
+    m_window->SendMessage(WM_COMMAND, IDC_CHECK);
+    EXPECT_TRUE(status().starts_with(L"Checking ")) << "one slice is not enough";
+    EXPECT_TRUE(status().ends_with(L" %"));
+    EXPECT_TRUE(kztest::WaitUntil([&] {
+        kztest::DispatchPending();
+        return status() == L"2000 findings";
+    })) << "no device has its document";
+    EXPECT_EQ(Cell(Many - 1, 0), L"  ! ");
+}
+
 }  // namespace
