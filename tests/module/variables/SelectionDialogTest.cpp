@@ -11,6 +11,7 @@
 #include "SelectVarControls.h"
 #include "SelectVarMessages.h"
 #include "SelectionFixture.h"
+#include "WorkArea.h"
 
 namespace {
 
@@ -300,6 +301,8 @@ TEST_F(SelectionDialog, CountsOnlyNewChoicesAgainstTheLimit)
 
 TEST_F(SelectionDialog, GrowsWithItsHighestPage)
 {
+    const kztest::WorkArea screen(::GetModuleHandleW(L"KZUsrZEP.dll"), kztest::LargeScreenWidth,
+                                  kztest::LargeScreenHeight);
     TestSelection dialog(m_device, m_names);
     dialog.Run({[&] {
         dialog.ShowTab(2);
