@@ -53,7 +53,7 @@ test_limits_by_keyboard() {
   enter $((IDC_HARMONIC_MAXD + 3)) 50
   snapshot load
   key Return
-  window ' - TREN1'
+  until_control ' - TREN1' $KZ_IDC_OPTIONS_LIMITS focused
   press_key_on $IDOK Return
   window_gone ' - TREN1'
   save_project

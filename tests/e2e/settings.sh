@@ -57,7 +57,7 @@ test_settings_by_keyboard() {
   key Return
   until_control "$message_title" $IDYES focused
   key Return
-  window ' - TREN1'
+  until_control ' - TREN1' $KZ_IDC_OPTIONS_DEVICE focused
   press_key_on $IDOK Return
   window_gone ' - TREN1'
   close_editor

@@ -42,7 +42,7 @@ test_units_by_keyboard() {
   until_control '' $IDC_REACTIVE_DEC_0 checked
   snapshot units
   key Return
-  window ' - TREN1'
+  until_control ' - TREN1' $KZ_IDC_OPTIONS_UNITS focused
   press_key_on $IDOK Return
   window_gone ' - TREN1'
   save_project
