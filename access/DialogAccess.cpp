@@ -45,8 +45,6 @@ void DialogAccess::Attach(HWND dialog, DialogNeeds needs)
     m_dialog = dialog;
     m_needs = std::move(needs);
     Enlist();
-    // Not SetWindowSubclass, which looks a property of the window up twice for each message: under Wine opening a
-    // dialog then takes a third longer.
     m_previous = SetProcedure(dialog, Procedure);
     // The dialog's loop offers each key and each mouse message to the filter before it takes it for its own.
     m_filter = ::SetWindowsHookExW(WH_MSGFILTER, Filter, nullptr, ::GetCurrentThreadId());

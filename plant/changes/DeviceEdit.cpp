@@ -22,9 +22,7 @@ struct Texts {
 
 void AppendDevice(const Texts& device)
 {
-    Node& list = zep::ChildOrNew(*KZMainCfg::Get()->Root(), DeviceElements.list);
-    Node& element = *list.NewChild(DeviceElements.element, nullptr);
-    element.SetValue(L"driverId", device.driverId.c_str());
+    Node& element = zep::AppendSetup(*KZMainCfg::Get(), DeviceElements, device.driverId);
     element.SetValue(L"name", device.naming.name.c_str());
     if (const auto number = ParseCount(device.naming.number); number && *number > 0)
         element.SetValue(L"number", *number);

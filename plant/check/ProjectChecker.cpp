@@ -1,61 +1,10 @@
 #include "ProjectChecker.h"
 
-#include <deque>
-#include <map>
-
-#include "KZMainCfg.h"
 #include "project/DocumentName.h"
 
 namespace plant {
 
-class ProjectChecker::State {
-public:
-    explicit State(Project& project) : m_project(project) {}
-
-    void Restart();
-    void Restart(const ProjectChange& change);
-    bool Work(std::chrono::milliseconds slice);
-    void Cancel() noexcept;
-
-    [[nodiscard]] bool IsWorking() const noexcept { return !m_waiting.empty() || m_part != Part::Nothing; }
-    [[nodiscard]] bool IsComplete() const noexcept { return m_isComplete; }
-    [[nodiscard]] int Percent() const noexcept;
-    [[nodiscard]] const Findings& All();
-    [[nodiscard]] std::size_t CountOf(const KZBasicString& driverId) const;
-
-private:
-    // What is looked at behind the devices.
-    enum class Part { Units, Limits, Variables, Files, Strays, Nothing };
-    static constexpr std::size_t Parts = static_cast<std::size_t>(Part::Nothing);
-
-    void Begin(std::deque<KZBasicString> devices);
-    void CheckNext();
-    void CheckDevice(const KZBasicString& driverId);
-    void CheckPart();
-    void ForgetMissing();
-    const XmlDocument::XmlNode* Read(const std::string& name);
-    [[nodiscard]] std::size_t Left() const noexcept
-    {
-        return m_waiting.size() + Parts - static_cast<std::size_t>(m_part);
-    }
-
-    Project& m_project;
-    std::map<KZBasicString, std::size_t> m_places;  // of the devices in the list
-    std::map<KZBasicString, Findings> m_ofDevices;  // of those that have any
-    std::array<Findings, ListsOfSetups.size()> m_ofSetups;
-    Findings m_ofStrays;
-    DocumentFiles m_files;
-
-    std::deque<KZBasicString> m_waiting;  // driverIds
-    Part m_part = Part::Nothing;
-    std::size_t m_begun = 0;
-    bool m_isComplete = false;
-    XmlDocument m_document{L"device"};  // of the device that is looked at
-    DeviceCheck m_check{*KZMainCfg::Get(), [this](const std::string& name) { return Read(name); }};
-    std::optional<Findings> m_all;
-};
-
-void ProjectChecker::State::Restart()
+void ProjectChecker::Restart()
 {
     std::deque<KZBasicString> devices;
     for (const KZDeviceIdentity& device : m_project.Devices())
@@ -64,7 +13,7 @@ void ProjectChecker::State::Restart()
 }
 
 // What was waiting goes on waiting.
-void ProjectChecker::State::Restart(const ProjectChange& change)
+void ProjectChecker::Restart(const ProjectChange& change)
 {
     if (change.isAll || (!m_isComplete && !IsWorking()))
         return Restart();
@@ -78,7 +27,7 @@ void ProjectChecker::State::Restart(const ProjectChange& change)
     Begin(std::move(devices));
 }
 
-void ProjectChecker::State::Begin(std::deque<KZBasicString> devices)
+void ProjectChecker::Begin(std::deque<KZBasicString> devices)
 {
     m_isComplete = false;
     m_places.clear();
@@ -90,13 +39,13 @@ void ProjectChecker::State::Begin(std::deque<KZBasicString> devices)
     m_begun = Left();
 }
 
-void ProjectChecker::State::ForgetMissing()
+void ProjectChecker::ForgetMissing()
 {
     std::erase_if(m_ofDevices, [this](const auto& device) { return !m_places.contains(device.first); });
     m_all.reset();
 }
 
-bool ProjectChecker::State::Work(std::chrono::milliseconds slice)
+bool ProjectChecker::Work(std::chrono::milliseconds slice)
 {
     const auto end = std::chrono::steady_clock::now() + slice;
     while (IsWorking()) {
@@ -108,7 +57,7 @@ bool ProjectChecker::State::Work(std::chrono::milliseconds slice)
     return IsWorking();
 }
 
-void ProjectChecker::State::CheckNext()
+void ProjectChecker::CheckNext()
 {
     m_all.reset();
     if (m_waiting.empty())
@@ -117,7 +66,7 @@ void ProjectChecker::State::CheckNext()
     m_waiting.pop_front();
 }
 
-void ProjectChecker::State::CheckDevice(const KZBasicString& driverId)
+void ProjectChecker::CheckDevice(const KZBasicString& driverId)
 {
     Findings findings;
     if (const auto place = m_places.find(driverId); place != m_places.end())
@@ -128,7 +77,7 @@ void ProjectChecker::State::CheckDevice(const KZBasicString& driverId)
         m_ofDevices[driverId] = std::move(findings);
 }
 
-void ProjectChecker::State::CheckPart()
+void ProjectChecker::CheckPart()
 {
     if (m_part == Part::Files) {
         m_files = m_project.FilesShown();
@@ -144,7 +93,7 @@ void ProjectChecker::State::CheckPart()
     m_part = static_cast<Part>(static_cast<std::size_t>(m_part) + 1);
 }
 
-const XmlDocument::XmlNode* ProjectChecker::State::Read(const std::string& name)
+const XmlDocument::XmlNode* ProjectChecker::Read(const std::string& name)
 {
     const std::optional<std::string> bytes = m_project.Peek(name);
     const Path file = FileOf(m_project.Folder(), name);
@@ -156,18 +105,18 @@ const XmlDocument::XmlNode* ProjectChecker::State::Read(const std::string& name)
     return m_document.Root();
 }
 
-void ProjectChecker::State::Cancel() noexcept
+void ProjectChecker::Cancel() noexcept
 {
     m_waiting.clear();
     m_part = Part::Nothing;
 }
 
-int ProjectChecker::State::Percent() const noexcept
+int ProjectChecker::Percent() const noexcept
 {
     return !IsWorking() || m_begun == 0 ? 100 : static_cast<int>((m_begun - Left()) * 100 / m_begun);
 }
 
-const Findings& ProjectChecker::State::All()
+const Findings& ProjectChecker::All() const
 {
     if (m_all)
         return *m_all;
@@ -182,61 +131,6 @@ const Findings& ProjectChecker::State::All()
         append(findings);
     append(m_ofStrays);
     return m_all.emplace(std::move(all));
-}
-
-std::size_t ProjectChecker::State::CountOf(const KZBasicString& driverId) const
-{
-    const auto found = m_ofDevices.find(driverId);
-    return found == m_ofDevices.end() ? 0 : found->second.size();
-}
-
-ProjectChecker::ProjectChecker(Project& project) : m_state(std::make_unique<State>(project)) {}
-
-ProjectChecker::~ProjectChecker() = default;
-
-void ProjectChecker::Restart()
-{
-    m_state->Restart();
-}
-
-void ProjectChecker::Restart(const ProjectChange& change)
-{
-    m_state->Restart(change);
-}
-
-bool ProjectChecker::Work(std::chrono::milliseconds slice)
-{
-    return m_state->Work(slice);
-}
-
-void ProjectChecker::Cancel() noexcept
-{
-    m_state->Cancel();
-}
-
-bool ProjectChecker::IsWorking() const noexcept
-{
-    return m_state->IsWorking();
-}
-
-bool ProjectChecker::IsComplete() const noexcept
-{
-    return m_state->IsComplete();
-}
-
-int ProjectChecker::Percent() const noexcept
-{
-    return m_state->Percent();
-}
-
-const Findings& ProjectChecker::All() const
-{
-    return m_state->All();
-}
-
-std::size_t ProjectChecker::CountOf(const KZBasicString& driverId) const
-{
-    return m_state->CountOf(driverId);
 }
 
 }  // namespace plant

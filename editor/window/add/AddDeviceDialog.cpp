@@ -3,7 +3,6 @@
 #include "AddDeviceControls.h"
 #include "modules/DeviceType.h"
 #include "text/EditorText.h"
-#include "text/PlantMessage.h"
 
 namespace {
 
@@ -18,12 +17,9 @@ constexpr EditorDialog::Caption Captions[] = {
     {IDOK, IDS_ADD_OK},
 };
 
-int ControlOf(plant::DeviceEntry entry)
-{
-    constexpr int controls[] = {IDC_ADD_NAME,  IDC_ADD_NUMBER, IDC_ADD_DESCRIPTION,
-                                IDC_ADD_MODEL, IDC_ADD_GROUPS, IDC_ADD_RATIO};
-    return controls[static_cast<std::size_t>(entry)];
-}
+// By plant::DeviceEntry.
+constexpr int Controls[] = {IDC_ADD_NAME,  IDC_ADD_NUMBER, IDC_ADD_DESCRIPTION,
+                            IDC_ADD_MODEL, IDC_ADD_GROUPS, IDC_ADD_RATIO};
 
 }  // namespace
 
@@ -71,10 +67,6 @@ BOOL AddDeviceDialog::OnInitDialog()
 
 void AddDeviceDialog::OnOK()
 {
-    if (!UpdateData(TRUE))
-        return;
-    if (const plant::EntryRefusals refusals = m_judge(m_device); !refusals.empty())
-        RefuseEntry(ControlOf(refusals.front().entry), PlantMessage(refusals.front().reason));
-    else
-        EndDialog(IDOK);
+    if (UpdateData(TRUE))
+        EndUnlessRefused(m_judge(m_device), Controls);
 }

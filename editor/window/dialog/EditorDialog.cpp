@@ -5,6 +5,7 @@
 #include "KZLoadString.h"
 #include "KZStringIds.h"
 #include "text/EditorText.h"
+#include "text/PlantMessage.h"
 #include "window/WindowIcon.h"
 
 BEGIN_MESSAGE_MAP(EditorDialog, CDialog)
@@ -151,6 +152,14 @@ void EditorDialog::Exchange(CDataExchange* pDX, int edit, std::wstring& text)
     const std::wstring entry = typed.GetString();
     const std::size_t first = std::min(entry.find_first_not_of(L" \t"), entry.size());
     text = entry.substr(first, entry.find_last_not_of(L" \t") + 1 - first);
+}
+
+void EditorDialog::EndUnlessRefused(const plant::EntryRefusals& refusals, std::span<const int> controls)
+{
+    if (refusals.empty())
+        EndDialog(IDOK);
+    else
+        RefuseEntry(controls[static_cast<std::size_t>(refusals.front().entry)], PlantMessage(refusals.front().reason));
 }
 
 void EditorDialog::RefuseEntry(int control, const std::wstring& why)

@@ -11,6 +11,7 @@
 
 #include "KZLayout.h"
 #include "RowList.h"
+#include "changes/DeviceEdit.h"
 #include "resources/DialogTextIds.h"
 
 class EditorDialog : public CDialog {
@@ -40,6 +41,9 @@ protected:
 
     // Moves a text between an edit and a member, for DoDataExchange; blanks around it are left out.
     static void Exchange(CDataExchange* pDX, int edit, std::wstring& text);
+    // Ends the dialog with OK, or tells the user the first refusal and turns to its control, which stands at the place
+    // of the entry.
+    void EndUnlessRefused(const plant::EntryRefusals& refusals, std::span<const int> controls);
     // Tells the user why an entry is refused, and turns to it.
     void RefuseEntry(int control, const std::wstring& why);
 

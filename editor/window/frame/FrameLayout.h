@@ -17,6 +17,7 @@ public:
     void SetFindingsShare(int share) noexcept;
     bool MoveFindingsBar(const CWnd& window, int pixels);
     void ShowFindings(bool isShown) noexcept { m_bFindings = isShown; }
+    [[nodiscard]] bool ShowsFindings() const noexcept { return m_bFindings; }
 
     // Places the controls of the window. The caption and the pages get the inside of the tab control.
     void Arrange(CWnd& window) const;

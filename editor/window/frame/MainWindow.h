@@ -40,12 +40,13 @@ public:
     // message, and for all while a dialog is open.
     bool TranslateKey(const MSG& message);
 
-    // For the commands. Only HasProject may be asked while there is none. MarkedDevices gives driverIds, in the order
-    // of the list.
+    // For the commands. Only HasProject may be asked while there is none. MarkedDevices gives driverIds, MarkedPlaces
+    // their places in the project's list, both in the order of the list.
     [[nodiscard]] bool HasProject() const noexcept { return m_open != nullptr; }
     [[nodiscard]] plant::Project& Project() const noexcept { return m_open->project; }
     [[nodiscard]] const ModuleLoader& Modules() const noexcept { return m_modules; }
     [[nodiscard]] const std::vector<KZBasicString>& MarkedDevices() const noexcept { return m_marked; }
+    [[nodiscard]] const std::vector<std::size_t>& MarkedPlaces() const noexcept { return m_places; }
     // Carries out a change of these devices that can be undone, and shows it. What the plant refuses is told to the
     // user, and false is returned.
     bool Change(plant::Message name, const std::vector<KZBasicString>& driverIds, const std::function<void()>& change);
@@ -101,7 +102,7 @@ public:
     [[nodiscard]] bool IsDirty() const;
     [[nodiscard]] bool IsFiltered() const;
     [[nodiscard]] bool HasFindings() const { return m_open && !m_lstFindings.Findings().empty(); }
-    [[nodiscard]] bool ShowsFindings() const noexcept { return m_bFindings; }
+    [[nodiscard]] bool ShowsFindings() const noexcept { return m_layout.ShowsFindings(); }
 
 protected:
     BOOL OnInitDialog() override;
@@ -225,7 +226,6 @@ private:
     bool m_bChangesShown = true;             // of the project since the last time
     bool m_bAllChanged = false;              // of what is to be shown
     std::vector<KZBasicString> m_changed;    // the devices of which it is
-    bool m_bFindings = false;                // the pane is shown
     ULONGLONG m_nFindingsShown = 0;          // when, in milliseconds
     bool m_bMarksSettling = false;           // a message is under way that shows what is marked
     bool m_bDamageTold = false;              // of what other editors have left

@@ -72,6 +72,25 @@ bool MainWindow::TranslateKey(const MSG& message)
     return command != nullptr;
 }
 
+LRESULT MainWindow::OnContextMenu(WPARAM wParam, LPARAM lParam)
+{
+    if (reinterpret_cast<HWND>(wParam) != m_lstDevices.m_hWnd)
+        return Default();
+    CPoint place(lParam);
+    // By the keyboard: below the row that has the focus.
+    if (place.x == -1 && place.y == -1) {
+        CRect row(LVIR_LABEL, 0, 0, 0);
+        m_lstDevices.SendMessage(LVM_GETITEMRECT, static_cast<WPARAM>(m_lstDevices.GetNextItem(-1, LVNI_FOCUSED)),
+                                 reinterpret_cast<LPARAM>(static_cast<LPRECT>(row)));
+        place = {row.left, row.bottom};
+        m_lstDevices.ClientToScreen(&place);
+    }
+    const MenuHandle menu = MakeMenu(MenuName::Device, this);
+    ShowStateIn(menu.get(), *this);
+    ::TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON, place.x, place.y, 0, m_hWnd, nullptr);
+    return 0;
+}
+
 // A project that cannot be written is looked at without a step to undo.
 void MainWindow::OpenOptions()
 {

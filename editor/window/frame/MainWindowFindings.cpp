@@ -66,7 +66,6 @@ void MainWindow::ShowFindings()
 void MainWindow::ShowFindingsPane(bool isShown)
 {
     const CWnd* const focus = GetFocus();
-    m_bFindings = isShown;
     m_layout.ShowFindings(isShown);
     for (const int id : {IDC_FINDINGS_BAR, IDC_FINDINGS_LABEL, IDC_FINDINGS, IDC_FINDINGS_CLOSE}) {
         CWnd* const control = GetDlgItem(id);
@@ -132,7 +131,7 @@ void MainWindow::ShowMarkedFinding()
 // A finding that concerns no device has no value to be shown.
 void MainWindow::Show(const plant::Finding& finding)
 {
-    if (!m_bFindings)
+    if (!ShowsFindings())
         ShowFindingsPane(true);
     const plant::DeviceList& devices = m_open->project.Devices();
     const std::wstring name = FromUtf8(finding.device);

@@ -164,7 +164,7 @@ void MainWindow::GoToPane(int step)
     CWnd* const page = GetNextDlgTabItem(&m_tab);
     if (::IsChild(PageWindow(), *page))
         panes.back() = page;
-    if (m_bFindings)
+    if (ShowsFindings())
         panes.insert(panes.end(), {&m_barFindings, &m_lstFindings});
     const HWND focus = ::GetFocus();
     int now = 0;

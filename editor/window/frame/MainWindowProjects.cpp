@@ -1,11 +1,11 @@
 // Opening projects in the main window, and what it does when the open one changes.
 #include <algorithm>
+#include <utility>
 
 #include "MainWindow.h"
 #include "project/ProjectFolder.h"
 #include "text/EditorText.h"
 #include "text/PlantMessage.h"
-#include "window/commands/MenuBar.h"
 #include "window/open/ProjectFolderDialog.h"
 
 // Shows the project that has just been opened, or the start page.
@@ -65,7 +65,7 @@ bool MainWindow::Open(const std::filesystem::path& folder)
         plant::RequireOpenable(folder);
         if (!MayClose())
             return false;
-        if (m_bUnwanted)
+        if (std::exchange(m_bUnwanted, false))
             m_open->project.Discard();
         m_pageOptions.ShowText({});
         m_lstDevices.Show(nullptr);
@@ -276,23 +276,4 @@ void MainWindow::ShowChanges()
     ShowVariables();
     ShowValues();
     ShowState();
-}
-
-LRESULT MainWindow::OnContextMenu(WPARAM wParam, LPARAM lParam)
-{
-    if (reinterpret_cast<HWND>(wParam) != m_lstDevices.m_hWnd)
-        return Default();
-    CPoint place(lParam);
-    // By the keyboard: below the row that has the focus.
-    if (place.x == -1 && place.y == -1) {
-        CRect row(LVIR_LABEL, 0, 0, 0);
-        m_lstDevices.SendMessage(LVM_GETITEMRECT, static_cast<WPARAM>(m_lstDevices.GetNextItem(-1, LVNI_FOCUSED)),
-                                 reinterpret_cast<LPARAM>(static_cast<LPRECT>(row)));
-        place = {row.left, row.bottom};
-        m_lstDevices.ClientToScreen(&place);
-    }
-    const MenuHandle menu = MakeMenu(MenuName::Device, this);
-    ShowStateIn(menu.get(), *this);
-    ::TrackPopupMenu(menu.get(), TPM_RIGHTBUTTON, place.x, place.y, 0, m_hWnd, nullptr);
-    return 0;
 }

@@ -1,49 +1,29 @@
 #include "ProjectQuestions.h"
 
 #include <algorithm>
-#include <array>
 
-#include "KZUtf8.h"
-#include "project/DocumentName.h"
+#include "text/DocumentText.h"
 #include "text/EditorText.h"
 #include "text/PlantMessage.h"
 
 namespace {
 
-// In the user's time zone and way of writing.
-std::wstring LocalTime(std::int64_t since1970)
+// From ten-millionths of a second since 1970.
+std::wstring TimeText(std::int64_t since1970)
 {
     constexpr std::int64_t From1601To1970 = 116'444'736'000'000'000;
     const auto ticks = static_cast<std::uint64_t>(since1970 + From1601To1970);
     const FILETIME time{static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
     SYSTEMTIME utc{};
-    SYSTEMTIME local{};
     ::FileTimeToSystemTime(&time, &utc);
-    ::SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local);
-    std::array<wchar_t, 80> date{};
-    std::array<wchar_t, 80> clock{};
-    ::GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &local, nullptr, date.data(), date.size(), nullptr);
-    ::GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, 0, &local, nullptr, clock.data(), clock.size());
-    return std::wstring(date.data()) + L" " + clock.data();
+    return LocalTime(utc);
 }
 
 }  // namespace
 
-// Documents in the words of the user: with the name of the device, where it is a device's. Of many only the first.
 std::wstring ProjectQuestions::Listed(const std::vector<std::string>& documents) const
 {
-    constexpr std::size_t most = 10;
-    std::wstring list;
-    for (std::size_t index = 0; index < std::min(documents.size(), most); ++index) {
-        list.append(list.empty() ? L"" : L", ").append(FromUtf8(documents[index]));
-        for (const KZDeviceIdentity& device : m_project->Devices()) {
-            if (plant::DeviceDocumentName(device.driverId) == documents[index])
-                list.append(L" (").append(device.name.View()).append(L")");
-        }
-    }
-    if (documents.size() <= most)
-        return list;
-    return FormatEditorText(IDS_AND_MORE, list.c_str(), static_cast<int>(documents.size() - most));
+    return DocumentTexts(m_project->Devices()).Listed(documents);
 }
 
 plant::ProjectUser::Answer ProjectQuestions::AskAboutForeignChanges(const std::vector<std::string>& documents)
@@ -94,7 +74,7 @@ bool ProjectQuestions::AskToLoadAnew(const std::vector<std::string>& documents) 
 ProjectQuestions::Offer ProjectQuestions::OfferRecovery(const plant::Unsaved& unsaved,
                                                         const std::vector<std::string>& changedSince) const
 {
-    std::wstring question = FormatEditorText(IDS_OFFER_RECOVERY, LocalTime(unsaved.time).c_str(),
+    std::wstring question = FormatEditorText(IDS_OFFER_RECOVERY, TimeText(unsaved.time).c_str(),
                                              Listed(plant::NamesIn(unsaved.documents)).c_str());
     if (!changedSince.empty())
         question += FormatEditorText(IDS_OFFER_CHANGED_SINCE, Listed(changedSince).c_str());

@@ -1,7 +1,6 @@
 #include "RenameDeviceDialog.h"
 
 #include "RenameDeviceControls.h"
-#include "text/PlantMessage.h"
 
 namespace {
 
@@ -13,11 +12,8 @@ constexpr EditorDialog::Caption Captions[] = {
     {IDOK, IDS_RENAME_OK},
 };
 
-int ControlOf(plant::DeviceEntry entry)
-{
-    constexpr int controls[] = {IDC_RENAME_NAME, IDC_RENAME_NUMBER, IDC_RENAME_DESCRIPTION};
-    return controls[static_cast<std::size_t>(entry)];
-}
+// By plant::DeviceEntry.
+constexpr int Controls[] = {IDC_RENAME_NAME, IDC_RENAME_NUMBER, IDC_RENAME_DESCRIPTION};
 
 }  // namespace
 
@@ -52,10 +48,6 @@ BOOL RenameDeviceDialog::OnInitDialog()
 
 void RenameDeviceDialog::OnOK()
 {
-    if (!UpdateData(TRUE))
-        return;
-    if (const plant::EntryRefusals refusals = m_judge(m_naming); !refusals.empty())
-        RefuseEntry(ControlOf(refusals.front().entry), PlantMessage(refusals.front().reason));
-    else
-        EndDialog(IDOK);
+    if (UpdateData(TRUE))
+        EndUnlessRefused(m_judge(m_naming), Controls);
 }

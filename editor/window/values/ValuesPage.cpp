@@ -52,7 +52,8 @@ void ValuesPage::DoDataExchange(CDataExchange* pDX)
 
 void ValuesPage::SetTexts()
 {
-    m_lstValues.SetColumns(Columns, ColumnValue);
+    m_lstValues.SetUp(Columns, ColumnValue,
+                      [this](int row, int column) { return Text(m_rows[static_cast<std::size_t>(row)], column); });
     m_lstValues.SetWindowText(EditorText(IDS_PAGE_VALUES).c_str());
 }
 
@@ -74,15 +75,12 @@ void ValuesPage::Show(SummaryRows rows)
 
 void ValuesPage::Mark(const std::wstring& setting)
 {
-    constexpr UINT Both = LVIS_SELECTED | LVIS_FOCUSED;
-    m_lstValues.SetItemState(-1, 0, Both);
     const auto found =
         std::find_if(m_rows.begin(), m_rows.end(), [&setting](const SummaryRow& row) { return row.name == setting; });
     if (setting.empty() || found == m_rows.end())
-        return;
-    const int row = static_cast<int>(found - m_rows.begin());
-    m_lstValues.SetItemState(row, Both, Both);
-    m_lstValues.EnsureVisible(row, FALSE);
+        m_lstValues.SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    else
+        m_lstValues.MarkOnly(static_cast<int>(found - m_rows.begin()));
 }
 
 void ValuesPage::OnSize(UINT type, int cx, int cy)
@@ -95,9 +93,5 @@ void ValuesPage::OnSize(UINT type, int cx, int cy)
 
 void ValuesPage::OnGiveText(NMHDR* header, LRESULT* result)
 {
-    *result = 0;
-    LVITEMW& item = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
-    if ((item.mask & LVIF_TEXT) != 0 && item.iItem < static_cast<int>(m_rows.size()))
-        ::lstrcpynW(item.pszText, Text(m_rows[static_cast<std::size_t>(item.iItem)], item.iSubItem).c_str(),
-                    item.cchTextMax);
+    m_lstValues.Answer(*header, *result);
 }

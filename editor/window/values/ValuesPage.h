@@ -3,7 +3,7 @@
 #pragma once
 
 #include "DeviceSummary.h"
-#include "window/ReportList.h"
+#include "window/dialog/RowList.h"
 
 class ValuesPage : public CDialog {
 public:
@@ -28,6 +28,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    ReportList m_lstValues;
+    RowList m_lstValues;
     SummaryRows m_rows;  // as shown, with a row for the name of each section
 };
