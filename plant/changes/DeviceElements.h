@@ -1,20 +1,12 @@
-// The elements that the main configuration document has of a device: one in its list, and its setups.
+// What adding, duplicating, renaming and taking back do with the elements of a device.
 #pragma once
 
-#include <array>
 #include <optional>
-#include <string>
+#include <string_view>
 
-#include "DriverSetup.h"
-#include "LimitsStore.h"
-#include "UnitsRecord.h"
-#include "project/ChosenVariables.h"
+#include "project/DeviceSetups.h"
 
 namespace plant {
-
-inline constexpr zep::SetupList DeviceElements{L"devices", L"device"};
-inline constexpr std::array<zep::SetupList, 4> AllOfDevice{DeviceElements, zep::UnitSetups, zep::ViewSetups,
-                                                           Selections};
 
 // Puts what is in an element into another one: texts that have it already are replaced, other elements appended.
 void CopyInto(XmlDocument::XmlNode& to, XmlDocument::Element from);

@@ -199,7 +199,7 @@ std::wstring Reviewing::Rest(const XmlDocument& main) const
         if (list == AllOfDevice.end())
             AppendAll(rest, child);
     }
-    for (const zep::SetupList& setups : {zep::UnitSetups, zep::ViewSetups, Selections}) {
+    for (const zep::SetupList& setups : ListsOfSetups) {
         const Node* const list = main.Node(setups.list);
         for (const Node* setup = list ? list->FirstChild(setups.element) : nullptr; setup;
              setup = setup->NextSibling(setups.element))

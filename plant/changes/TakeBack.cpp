@@ -129,7 +129,7 @@ void TakingBack::BringBack(const KZBasicString& driverId)
         before = Setup(DeviceElements, next->driverId);
     Node& list = zep::ChildOrNew(*m_main.Root(), DeviceElements.list);
     CopyInto(*list.NewChild(DeviceElements.element, before), SavedSetup(DeviceElements, driverId)->Look());
-    for (const zep::SetupList& setups : {zep::UnitSetups, zep::ViewSetups, Selections})
+    for (const zep::SetupList& setups : ListsOfSetups)
         TakeSetup(setups, driverId);
     const std::string document = DeviceDocumentName(driverId);
     m_documents[document] = m_project.SavedContent(document);

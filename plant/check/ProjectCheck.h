@@ -1,14 +1,11 @@
 // What is wrong with a whole project.
 #pragma once
 
-#include <array>
 #include <span>
 
 #include "DeviceCheck.h"
-#include "LimitsStore.h"
-#include "UnitsRecord.h"
-#include "project/ChosenVariables.h"
 #include "project/DeviceList.h"
+#include "project/DeviceSetups.h"
 #include "project/StoredProject.h"
 
 namespace plant {
@@ -18,9 +15,6 @@ namespace plant {
 //   devices  names or driverIds, a name first; empty for the whole project
 // Throws Refusal when a device is named that the project does not have.
 [[nodiscard]] Findings CheckProject(const StoredProject& project, std::span<const std::wstring> devices);
-
-// The lists of setups that a main configuration document may have.
-inline constexpr std::array<zep::SetupList, 3> ListsOfSetups{zep::UnitSetups, zep::ViewSetups, Selections};
 
 // Appends a finding for each setup of a list that is not the first of its driverId or whose driverId no device has.
 void CheckSetups(const XmlDocument& main, const zep::SetupList& setups, const DeviceList& devices, Findings& findings);

@@ -6,6 +6,7 @@
 #include <cwctype>
 #include <optional>
 
+#include "DeviceSetups.h"
 #include "DocumentName.h"
 #include "GroupMask.h"
 #include "KZUtf8.h"
@@ -173,9 +174,9 @@ DeviceList ReadDevices(const XmlDocument& document, const std::wstring& file, st
 {
     DeviceList devices;
     ElementReader reader(file, faults);
-    const XmlDocument::XmlNode* list = document.Node(L"devices");
-    for (const auto* element = list ? list->FirstChild(L"device") : nullptr; element;
-         element = element->NextSibling(L"device"))
+    const XmlDocument::XmlNode* list = document.Node(DeviceElements.list);
+    for (const auto* element = list ? list->FirstChild(DeviceElements.element) : nullptr; element;
+         element = element->NextSibling(DeviceElements.element))
         if (auto device = reader.Read(*element))
             devices.push_back(std::move(*device));
     const auto fail = [&](std::size_t place, unsigned textId, const KZBasicString& text) {

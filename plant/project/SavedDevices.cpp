@@ -1,17 +1,14 @@
 #include "SavedDevices.h"
 
-#include "ChosenVariables.h"
-#include "LimitsStore.h"
+#include "DeviceSetups.h"
 #include "SeenDocuments.h"
-#include "UnitsRecord.h"
 
 namespace plant {
 
 std::uint64_t FingerprintOf(const XmlDocument& main, const KZBasicString& driverId)
 {
-    constexpr zep::SetupList devices{L"devices", L"device"};
     std::uint64_t whole = 0;
-    for (const zep::SetupList& list : {devices, zep::UnitSetups, zep::ViewSetups, Selections}) {
+    for (const zep::SetupList& list : AllOfDevice) {
         const XmlDocument::XmlNode* const element = zep::FindSetup(main, list, driverId);
         whole = whole * 31 + (element ? element->Fingerprint() : 0);
     }
