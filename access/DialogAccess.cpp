@@ -62,6 +62,7 @@ void DialogAccess::Detach() noexcept
     m_dialog = nullptr;
     m_needs = {};
     m_wasShown = m_hasTips = false;
+    m_tips = nullptr;
 }
 
 LRESULT CALLBACK DialogAccess::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -137,6 +138,21 @@ void DialogAccess::OnOpened()
         m_needs.nameControls(*m_names);
 }
 
+void DialogAccess::NameAnew() noexcept
+{
+    if (!m_names || !m_needs.nameControls)
+        return;
+    // The tips are made of the names, at the next movement of the mouse.
+    if (m_tips)
+        ::DestroyWindow(std::exchange(m_tips, nullptr));
+    m_hasTips = false;
+    const auto name = [this] {
+        m_needs.nameControls(*m_names);
+        return true;
+    };
+    Guarded(name, false);
+}
+
 void DialogAccess::OnColours() const
 {
     if (m_needs.followColours)
@@ -147,13 +163,13 @@ void DialogAccess::OnColours() const
 bool DialogAccess::UsesInput(const MSG& message)
 {
     if (message.message == WM_MOUSEMOVE && m_names && !std::exchange(m_hasTips, true))
-        MakePictureTips(m_dialog, *m_names);
+        m_tips = MakePictureTips(m_dialog, *m_names);
     return message.message == WM_KEYDOWN && UsesKey(message);
 }
 
 bool DialogAccess::UsesKey(const MSG& message)
 {
-    if (m_needs.tabs && ChangesTab(message, m_needs.tabs))
+    if (m_needs.tabs && ::IsWindowVisible(m_needs.tabs) && ChangesTab(message, m_needs.tabs))
         return true;
     if (IsHeld(VK_CONTROL))
         return false;

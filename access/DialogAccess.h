@@ -4,7 +4,7 @@
 // A dialog has a DialogAccess as a member and attaches it at the end of OnInitDialog, when its controls stand where
 // they belong. It works beside the dialog's own message map: by a subclass of the dialog's window, and by a filter for
 // the keys of its thread. What every dialog gets without asking:
-// - one that is higher than the work area is cut to it and scrolls (SmallScreen.h);
+// - one that is higher than the work area is shrunk or cut to it, and scrolls (SmallScreen.h);
 // - Ctrl+Tab and its like change the tabs, where there are some (TabKeys.h);
 // - buttons with a name and without a text get tool tips, made at the first movement of the mouse.
 #pragma once
@@ -25,7 +25,7 @@ struct DialogNeeds {
 
     // Called once, when the dialog is about to be shown and its focus is settled: the time to change the order of Tab.
     std::function<void()> beforeShown{};
-    // Called once, in a message that is posted when the dialog has opened.
+    // Called in a message that is posted when the dialog has opened, and by NameAnew.
     std::function<void(AccessibleNames& names)> nameControls{};
     // Called after the system's colours or theme have changed: the time to make pictures and brushes anew.
     std::function<void()> followColours{};
@@ -42,6 +42,9 @@ public:
 
     // Starts to work for a dialog, once for each window. Ends with the window, or with this object.
     void Attach(HWND dialog, DialogNeeds needs);
+
+    // Asks for the names again, in another language for example. Nothing happens until the dialog has opened.
+    void NameAnew() noexcept;
 
 private:
     friend Enlisted;
@@ -61,6 +64,7 @@ private:
     DialogNeeds m_needs;
     bool m_wasShown = false;
     bool m_hasTips = false;
+    HWND m_tips = nullptr;
     std::optional<AccessibleNames> m_names;
     SmallScreen m_screen;
 };

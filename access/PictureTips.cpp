@@ -7,16 +7,17 @@
 
 namespace {
 
+// Or one sign, such as a cross.
 bool ShowsPictureAlone(HWND window) noexcept
 {
     wchar_t className[8]{};  // longer names are no buttons
     ::GetClassNameW(window, className, static_cast<int>(std::size(className)));
-    return std::wcscmp(className, WC_BUTTONW) == 0 && ::GetWindowTextLengthW(window) == 0;
+    return std::wcscmp(className, WC_BUTTONW) == 0 && ::GetWindowTextLengthW(window) <= 1;
 }
 
 }  // namespace
 
-void MakePictureTips(HWND dialog, const AccessibleNames& names)
+HWND MakePictureTips(HWND dialog, const AccessibleNames& names)
 {
     HWND tips = nullptr;
     for (const auto& [window, name] : names.All()) {
@@ -34,4 +35,5 @@ void MakePictureTips(HWND dialog, const AccessibleNames& names)
         tool.lpszText = text.data();
         ::SendMessageW(tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     }
+    return tips;
 }

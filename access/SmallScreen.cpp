@@ -9,7 +9,7 @@ namespace {
 
 constexpr int LineUnits = 8;    // dialog units of one line of text
 constexpr int MarginUnits = 7;  // around a control that comes into view
-constexpr std::array FooterIds{IDOK, IDCANCEL};
+constexpr std::array ClosingIds{IDOK, IDCANCEL};
 
 RECT WorkAreaOf(HWND window) noexcept
 {
@@ -56,11 +56,18 @@ int PixelsOf(HWND dialog, int verticalUnits) noexcept
     return units.bottom;
 }
 
-// Lists have their own use for PgUp and PgDn.
-bool IsList(HWND window) noexcept
+bool HasStyle(HWND window, DWORD style) noexcept
+{
+    return (static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_STYLE)) & style) != 0;
+}
+
+// What has its own use for PgUp and PgDn.
+bool TakesPageKeys(HWND window) noexcept
 {
     std::array<wchar_t, 32> name{};
     ::GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+    if (std::wcscmp(name.data(), L"Edit") == 0)
+        return HasStyle(window, ES_MULTILINE);
     constexpr std::array Lists{L"ComboBox", L"ListBox", L"SysListView32", L"SysTreeView32"};
     return std::any_of(Lists.begin(), Lists.end(), [&](auto list) { return std::wcscmp(list, name.data()) == 0; });
 }
@@ -72,9 +79,20 @@ void SmallScreen::Fit(HWND dialog)
     if (IsCut())
         Restore();
     const RECT workArea = WorkAreaOf(dialog);
+    // What can grow can shrink too, as far as it allows.
+    if (HasStyle(dialog, WS_THICKFRAME) && !::IsZoomed(dialog))
+        Shrink(dialog, workArea);
     const int height = HeightOf(WindowPlace(dialog));
     if (height > HeightOf(workArea))
         Cut(dialog, workArea, height);
+}
+
+void SmallScreen::Shrink(HWND dialog, const RECT& workArea)
+{
+    const RECT place = WindowPlace(dialog);
+    if (WidthOf(place) > WidthOf(workArea) || HeightOf(place) > HeightOf(workArea))
+        MoveWindow(dialog, workArea, std::min(WidthOf(place), WidthOf(workArea)),
+                   std::min(HeightOf(place), HeightOf(workArea)));
 }
 
 void SmallScreen::Forget() noexcept
@@ -85,18 +103,41 @@ void SmallScreen::Forget() noexcept
     m_dialog = nullptr;
 }
 
-void SmallScreen::Cut(HWND dialog, const RECT& workArea, int windowHeight)
+// The row of OK and Cancel, whatever stands beside them included; empty when there is none.
+RECT SmallScreen::FindFooter(HWND dialog)
 {
-    RECT client{};
-    ::GetClientRect(dialog, &client);
     RECT footer{};
-    for (const int id : FooterIds) {
+    for (const int id : ClosingIds) {
         const HWND button = ::GetDlgItem(dialog, id);
         const RECT place = button ? PlaceIn(dialog, button) : RECT{};
         ::UnionRect(&footer, &footer, &place);
     }
+    m_footer.clear();
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        const RECT place = PlaceIn(dialog, child);
+        if (HasStyle(child, WS_VISIBLE) && place.top < footer.bottom && place.bottom > footer.top)
+            m_footer.push_back(child);
+    }
+    return footer;
+}
+
+// The lowest edge of what stands above the footer.
+LONG SmallScreen::ContentBottom(HWND dialog, LONG lowest, LONG footerTop) const
+{
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        if (HasStyle(child, WS_VISIBLE) && !IsFooter(child))
+            lowest = std::max(lowest, PlaceIn(dialog, child).bottom);
+    }
+    return std::min(lowest, footerTop);
+}
+
+void SmallScreen::Cut(HWND dialog, const RECT& workArea, int windowHeight)
+{
+    RECT client{};
+    ::GetClientRect(dialog, &client);
+    const RECT footer = FindFooter(dialog);
     const LONG gap = client.bottom - footer.bottom;
-    const LONG contentHeight = footer.top - gap;
+    const LONG contentHeight = ContentBottom(dialog, footer.top - gap, footer.top);
     m_cutHeight = windowHeight - HeightOf(workArea);
     m_view = {0, 0, client.right, contentHeight - m_cutHeight};
     m_line = PixelsOf(dialog, LineUnits);
@@ -138,8 +179,9 @@ void SmallScreen::Restore()
 }
 
 // As near to its place as the work area allows; what is larger shows its start.
-void SmallScreen::MoveWindow(HWND dialog, const RECT& workArea, int width, int height) const
+void SmallScreen::MoveWindow(HWND dialog, const RECT& workArea, int width, int height)
 {
+    m_size = {width, height};
     const RECT place = WindowPlace(dialog);
     const LONG left = std::max(workArea.left, std::min<LONG>(place.left, workArea.right - width));
     const LONG top = std::max(workArea.top, std::min<LONG>(place.top, workArea.bottom - height));
@@ -148,17 +190,15 @@ void SmallScreen::MoveWindow(HWND dialog, const RECT& workArea, int width, int h
 
 void SmallScreen::MoveFooter(int distance) const
 {
-    for (const int id : FooterIds) {
-        if (const HWND button = ::GetDlgItem(m_dialog, id)) {
-            const RECT place = PlaceIn(m_dialog, button);
-            MoveTo(button, place.left, place.top + distance);
-        }
+    for (const HWND control : m_footer) {
+        const RECT place = PlaceIn(m_dialog, control);
+        MoveTo(control, place.left, place.top + distance);
     }
 }
 
 bool SmallScreen::IsFooter(HWND child) const noexcept
 {
-    return std::find(FooterIds.begin(), FooterIds.end(), ::GetDlgCtrlID(child)) != FooterIds.end();
+    return std::find(m_footer.begin(), m_footer.end(), child) != m_footer.end();
 }
 
 std::vector<HWND> SmallScreen::Content() const
@@ -213,6 +253,12 @@ std::optional<LRESULT> SmallScreen::Handle(UINT message, WPARAM wParam, LPARAM l
     switch (message) {
     case WM_SIZE:
         return 0;  // the dialog would lay itself out at its own height again
+    case WM_GETMINMAXINFO: {
+        // While it is cut it has one size, whatever it wants otherwise.
+        auto& limits = *reinterpret_cast<MINMAXINFO*>(lParam);
+        limits.ptMinTrackSize = limits.ptMaxTrackSize = m_size;
+        return 0;
+    }
     case WM_VSCROLL:
         if (lParam != 0)
             return std::nullopt;  // of a scroll bar that is a control
@@ -268,7 +314,7 @@ void SmallScreen::OnWheel(int turn)
 bool SmallScreen::UsesKey(const MSG& message)
 {
     const bool isPage = message.wParam == VK_PRIOR || message.wParam == VK_NEXT;
-    if (!IsCut() || !isPage || IsList(message.hwnd))
+    if (!IsCut() || !isPage || TakesPageKeys(message.hwnd))
         return false;
     ScrollBy(message.wParam == VK_PRIOR ? -HeightOf(m_view) : HeightOf(m_view));
     return true;
@@ -279,10 +325,11 @@ void SmallScreen::BringIntoView(HWND control)
     if (IsFooter(control))
         return;
     const RECT place = PlaceIn(m_dialog, control);
-    const int margin = PixelsOf(m_dialog, MarginUnits);
+    const int spare = HeightOf(m_view) - HeightOf(place);
+    const int margin = std::clamp(spare / 2, 0, PixelsOf(m_dialog, MarginUnits));
     const LONG above = place.top - margin;
     const LONG below = place.bottom + margin - m_view.bottom;
-    const bool fits = HeightOf(place) + 2 * margin <= HeightOf(m_view);
+    const bool fits = spare >= 0;
     // What is higher than the view shows its start.
     if (above < 0 || (!fits && place.top >= m_view.bottom))
         ScrollBy(above);

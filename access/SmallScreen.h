@@ -1,5 +1,6 @@
-// A dialog that is higher than the screen's work area: it is cut to the work area, and what stands above its OK and
-// Cancel buttons scrolls, by scroll bar, wheel, PgUp and PgDn. A control that gets the focus scrolls into view.
+// A dialog that is higher than the screen's work area: it is cut to the work area, and what stands above the row of its
+// OK and Cancel buttons scrolls, by scroll bar, wheel, PgUp and PgDn. A control that gets the focus scrolls into view.
+// One that the user can size is first made as small as it allows, so that its lists show fewer rows before it scrolls.
 //
 // While the dialog is cut its controls stand in the places of the uncut dialog, moved up by what is scrolled; those
 // that reach below the part that scrolls are clipped by a window region, for the buttons stand there.
@@ -34,9 +35,12 @@ private:
     static LRESULT CALLBACK FocusHook(int code, WPARAM wParam, LPARAM lParam);
 
     [[nodiscard]] bool IsCut() const noexcept { return m_dialog != nullptr; }
+    void Shrink(HWND dialog, const RECT& workArea);
+    [[nodiscard]] RECT FindFooter(HWND dialog);
+    [[nodiscard]] LONG ContentBottom(HWND dialog, LONG lowest, LONG footerTop) const;
     void Cut(HWND dialog, const RECT& workArea, int windowHeight);
     void Restore();
-    void MoveWindow(HWND dialog, const RECT& workArea, int width, int height) const;
+    void MoveWindow(HWND dialog, const RECT& workArea, int width, int height);
     void MoveFooter(int distance) const;
     void ScrollTo(int position);
     void ScrollBy(int distance) { ScrollTo(m_position + distance); }
@@ -49,6 +53,8 @@ private:
 
     HWND m_dialog = nullptr;  // null while nothing is cut
     HHOOK m_focusHook = nullptr;
+    std::vector<HWND> m_footer;
+    POINT m_size{};       // that the window was given last
     RECT m_view{};        // the part of the client area that scrolls
     int m_cutHeight = 0;  // by which the dialog is lower than it wants to be
     int m_contentHeight = 0;

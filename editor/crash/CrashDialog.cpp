@@ -20,6 +20,7 @@ BOOL CrashDialog::OnInitDialog()
     SetDlgItemText(IDC_CRASH_FILE, FormatEditorText(IDS_CRASH_FILE, m_crash.file.c_str()).c_str());
     SetDlgItemText(IDC_CRASH_COPY, EditorText(IDS_CRASH_COPY).c_str());
     SetDlgItemText(IDCANCEL, EditorText(IDS_BUTTON_CLOSE).c_str());
+    m_access.Attach(m_hWnd, {});
     return TRUE;
 }
 

@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 #include "CrashReport.h"
+#include "DialogAccess.h"
 
 class CrashDialog : public CDialog {
 public:
@@ -17,6 +18,7 @@ protected:
 
 private:
     FoundCrash m_crash;
+    DialogAccess m_access;
 };
 
 // Shows what TakeNewCrash finds; nothing when there is none.

@@ -230,3 +230,8 @@
 #define IDS_STATUS_CHECKING 2158  // %d: how much of the check is done
 #define IDS_STATUS_FINDINGS 2159
 #define IDS_STATUS_ONE_FINDING 2160
+
+// What screen readers call controls that show no text, or a sign; the tool tips of the signs
+#define IDS_NAME_FIND_CLEAR 2180
+#define IDS_NAME_FINDINGS_CLOSE 2181
+#define IDS_NAME_PAGES 2182

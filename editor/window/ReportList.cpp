@@ -9,7 +9,8 @@ void ReportList::SetColumns(std::span<const ReportColumn> columns, int stretchin
     const bool isNew = m_columns.empty();
     m_columns = columns;
     m_nStretching = stretching;
-    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_DOUBLEBUFFER);
+    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+    m_tips.Attach(m_hWnd);
     for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
         const ReportColumn& drawn = columns[static_cast<std::size_t>(column)];
         std::wstring caption = EditorText(drawn.caption);

@@ -1,9 +1,11 @@
-// The columns of a list control in report view.
+// The columns of a list control in report view. A cell that is cut shows its whole text as a tool tip.
 #pragma once
 
 #include <afxcmn.h>
 
 #include <span>
+
+#include "CutTextTips.h"
 
 // Width in dialog units of the list's parent.
 struct ReportColumn {
@@ -31,4 +33,5 @@ protected:
 private:
     std::span<const ReportColumn> m_columns;
     int m_nStretching = 0;
+    CutTextTips m_tips;
 };

@@ -23,19 +23,6 @@ protected:
     }
 };
 
-DWORD StyleOf(HWND window)
-{
-    return static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_STYLE));
-}
-
-bool IsWorkable(HWND control)
-{
-    const std::wstring kind = kztest::ClassOf(control);
-    const bool isFrame = kind == L"Button" && (StyleOf(control) & BS_TYPEMASK) == BS_GROUPBOX;
-    return kind != L"Static" && kind != L"#32770" && !isFrame &&
-           (StyleOf(control) & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
-}
-
 const char* Word(OpenDialog dialog)
 {
     switch (dialog) {
@@ -120,19 +107,6 @@ void DialogUser::Use(OpenDialog dialog, const std::function<void(HWND)>& step)
         project.Select(chosen);
 }
 
-std::vector<HWND> WorkableControls(HWND dialog)
-{
-    std::vector<HWND> controls;
-    for (HWND child = ::GetWindow(dialog, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        if (IsWorkable(child))
-            controls.push_back(child);
-        if (kztest::ClassOf(child) == L"#32770")
-            for (const HWND control : WorkableControls(child))
-                controls.push_back(control);
-    }
-    return controls;
-}
-
 HWND FindControl(HWND dialog, int id)
 {
     HWND found = ::GetDlgItem(dialog, id);
@@ -142,19 +116,4 @@ HWND FindControl(HWND dialog, int id)
             found = control;
     }
     return found;
-}
-
-HeldKeys::HeldKeys(std::initializer_list<int> keys)
-{
-    ::GetKeyboardState(m_before);
-    BYTE held[256];
-    std::copy(std::begin(m_before), std::end(m_before), held);
-    for (const int key : keys)
-        held[key] = 0x80;
-    ::SetKeyboardState(held);
-}
-
-HeldKeys::~HeldKeys()
-{
-    ::SetKeyboardState(m_before);
 }

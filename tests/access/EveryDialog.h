@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "FakeAccessibility.h"
+#include "HeldKeys.h"
+#include "PlatformNames.h"
 #include "ZepProject.h"
 
 enum class OpenDialog { Hub, Device, Limits, Units, Selection };
@@ -44,19 +46,5 @@ private:
     std::unique_ptr<CWnd> m_stage;  // where the steps run
 };
 
-// The controls of the dialog and of all its pages that the user can work, hidden pages included.
-[[nodiscard]] std::vector<HWND> WorkableControls(HWND dialog);
 // The control of that id in the dialog or in one of its pages, the visible one first; null when there is none.
 [[nodiscard]] HWND FindControl(HWND dialog, int id);
-
-// Holds keys down for the thread's next messages.
-class HeldKeys {
-public:
-    explicit HeldKeys(std::initializer_list<int> keys);
-    ~HeldKeys();
-    HeldKeys(const HeldKeys&) = delete;
-    HeldKeys& operator=(const HeldKeys&) = delete;
-
-private:
-    BYTE m_before[256]{};
-};

@@ -37,7 +37,7 @@ protected:
     }
     static void Press(WORD key, std::initializer_list<int> held = {})
     {
-        const HeldKeys keys(held);
+        const kztest::HeldKeys keys(held);
         TypeKeyNow(key);
     }
     [[nodiscard]] static int Focused() { return ::GetDlgCtrlID(::GetFocus()); }
@@ -205,7 +205,7 @@ TEST_F(GridKeyboard, ChecksNothingOnItsWay)
         ::SetFocus(FindControl(dialog, IDC_GENERAL_CAPTION));
         for (const WORD key : std::initializer_list<WORD>{VK_RIGHT, VK_RIGHT, VK_DOWN, VK_DOWN, VK_LEFT, VK_UP})
             TypeKeyNow(key);
-        for (const HWND control : WorkableControls(dialog))
+        for (const HWND control : kztest::WorkableControls(dialog))
             EXPECT_NE(::SendMessageW(control, BM_GETCHECK, 0, 0), BST_CHECKED);
     });
 }

@@ -13,42 +13,16 @@
 #include "Controls.h"
 #include "DeviceControls.h"
 #include "LimitsControls.h"
+#include "PlatformNames.h"
 #include "SelectVarControls.h"
 #include "UnitsControls.h"
 
 namespace {
 
+using kztest::PlatformName;
+using kztest::WithoutAccessKey;
+using kztest::WorkableControls;
 using testing::IsEmpty;
-
-std::wstring WithoutAccessKey(std::wstring text)
-{
-    std::erase(text, L'&');
-    return text;
-}
-
-// The label of an edit box or list, as the platform finds it: the static text or group box before it, unless another
-// group or tab stop comes first.
-std::wstring LabelBefore(HWND control)
-{
-    for (HWND before = ::GetWindow(control, GW_HWNDPREV); before; before = ::GetWindow(before, GW_HWNDPREV)) {
-        const auto style = static_cast<DWORD>(::GetWindowLongPtrW(before, GWL_STYLE));
-        if ((style & WS_VISIBLE) == 0)
-            continue;
-        if ((::SendMessageW(before, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) != 0)
-            return WithoutAccessKey(kztest::TextOf(before));
-        if ((style & (WS_GROUP | WS_TABSTOP)) != 0)
-            break;
-    }
-    return {};
-}
-
-// A name that was given comes before the control's own text and its label.
-std::wstring PlatformName(HWND control, const std::map<HWND, std::wstring>& given)
-{
-    if (const auto found = given.find(control); found != given.end())
-        return found->second;
-    return kztest::ClassOf(control) == L"Button" ? WithoutAccessKey(kztest::TextOf(control)) : LabelBefore(control);
-}
 
 class Names : public testing::TestWithParam<DialogCase> {
 protected:
@@ -60,16 +34,7 @@ protected:
 TEST_P(Names, AreThereAndNoneIsDoubled)
 {
     m_user.Use(GetParam().dialog, [this](HWND dialog) {
-        std::map<std::wstring, int> owners;
-        for (const HWND control : WorkableControls(dialog)) {
-            const int id = ::GetDlgCtrlID(control);
-            const std::wstring name = PlatformName(control, m_user.accessibility.names);
-            EXPECT_THAT(name, testing::Not(IsEmpty())) << "control " << id;
-            const auto [owner, isNew] = owners.emplace(name, id);
-            EXPECT_TRUE(isNew) << "control " << id << " is called as control " << owner->second << ": "
-                               << testing::PrintToString(name);
-        }
-        EXPECT_GT(owners.size(), 4U);
+        EXPECT_GT(kztest::ExpectNamesOfTheirOwn(dialog, m_user.accessibility.names), 4);
     });
     EXPECT_THAT(m_user.accessibility.names, IsEmpty()) << "names outlive the dialog";
 }

@@ -1,46 +1,15 @@
 // Tool tips on buttons that show a picture alone.
 #include <gmock/gmock.h>
 
-#include <map>
-
 #include "Controls.h"
 #include "EveryDialog.h"
 #include "SelectVarControls.h"
+#include "ToolTips.h"
 
 namespace {
 
-// The tool tip window that belongs to the dialog; null when there is none.
-HWND TipsOf(HWND dialog)
-{
-    struct Search {
-        HWND owner;
-        HWND found;
-    } search{dialog, nullptr};
-    const auto look = [](HWND window, LPARAM into) -> BOOL {
-        auto& wanted = *reinterpret_cast<Search*>(into);
-        if (::GetWindow(window, GW_OWNER) == wanted.owner && kztest::ClassOf(window) == TOOLTIPS_CLASSW)
-            wanted.found = window;
-        return TRUE;
-    };
-    ::EnumThreadWindows(::GetWindowThreadProcessId(dialog, nullptr), look, reinterpret_cast<LPARAM>(&search));
-    return search.found;
-}
-
-// The tips by the windows that they belong to.
-std::map<HWND, std::wstring> TextsOf(HWND tips)
-{
-    std::map<HWND, std::wstring> texts;
-    const auto count = ::SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0);
-    for (LRESULT index = 0; index < count; ++index) {
-        wchar_t text[256]{};
-        TTTOOLINFOW tool{};
-        tool.cbSize = TTTOOLINFOW_V1_SIZE;
-        tool.lpszText = text;
-        ::SendMessageW(tips, TTM_ENUMTOOLSW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&tool));
-        texts[reinterpret_cast<HWND>(tool.uId)] = text;
-    }
-    return texts;
-}
+using kztest::TextsOf;
+using kztest::TipsOf;
 
 void MoveMouseOver(HWND control)
 {
@@ -79,7 +48,7 @@ TEST_P(PictureTips, SayWhatTheButtonIsCalled)
             EXPECT_EQ(text, m_user.accessibility.names[window]);
             EXPECT_EQ(::GetWindowTextLengthW(window), 0);
         }
-        for (const HWND control : WorkableControls(dialog)) {
+        for (const HWND control : kztest::WorkableControls(dialog)) {
             const bool hasTip = ::GetWindowTextLengthW(control) == 0 && kztest::ClassOf(control) == L"Button";
             EXPECT_EQ(tips.count(control), hasTip ? 1U : 0U) << ::GetDlgCtrlID(control);
         }

@@ -8,57 +8,16 @@
 #include "LimitsControls.h"
 #include "Portrait.h"
 #include "SelectVarControls.h"
+#include "ShownParts.h"
 #include "WorkArea.h"
 
 namespace {
 
-int Dpi()
-{
-    const HDC screen = ::GetDC(nullptr);
-    const int dpi = ::GetDeviceCaps(screen, LOGPIXELSY);
-    ::ReleaseDC(nullptr, screen);
-    return dpi;
-}
-
-CSize SmallestScreen()
-{
-    constexpr int TaskBar = 40;  // at 96 dots per inch
-    CSize screen = Dpi() <= 96 ? CSize(800, 600) : Dpi() <= 144 ? CSize(1366, 768) : CSize(1920, 1080);
-    screen.cy -= ::MulDiv(TaskBar, Dpi(), 96);
-    return screen;
-}
-
-CRect PlaceIn(HWND around, HWND window)
-{
-    CRect place;
-    ::GetWindowRect(window, &place);
-    ::MapWindowPoints(nullptr, around, reinterpret_cast<POINT*>(static_cast<RECT*>(&place)), 2);
-    return place;
-}
-
-// The part of a control that no region of it or of its page hides, in client coordinates of the dialog.
-CRect ShownPart(HWND dialog, HWND control)
-{
-    CRect shown = PlaceIn(dialog, control);
-    for (HWND window = control; window != dialog; window = ::GetParent(window)) {
-        CRect region;
-        const CRect place = PlaceIn(dialog, window);
-        CRect part = place;
-        if (::GetWindowRgnBox(window, &region) != ERROR)
-            part = CRect(place.left + region.left, place.top + region.top, place.left + region.right,
-                         place.top + region.bottom);
-        shown.IntersectRect(&shown, &part);
-    }
-    CRect client;
-    ::GetClientRect(dialog, &client);
-    shown.IntersectRect(&shown, &client);
-    return shown;
-}
-
-bool IsCut(HWND dialog)
-{
-    return (::GetWindowLongPtrW(dialog, GWL_STYLE) & WS_VSCROLL) != 0;
-}
+using kztest::IsCut;
+using kztest::PlaceIn;
+using kztest::ShownPart;
+using kztest::SmallestScreen;
+using kztest::WorkableControls;
 
 class SmallScreens : public testing::TestWithParam<DialogCase> {
 protected:
@@ -172,7 +131,7 @@ protected:
         ::SendMessageW(window, WM_MOUSEWHEEL, MAKEWPARAM(0, notches * WHEEL_DELTA), 0);
     }
 
-    CSize m_size{SmallestScreen().cx, ::MulDiv(400, Dpi(), 96)};
+    CSize m_size{SmallestScreen().cx, ::MulDiv(400, kztest::ScreenDpi(), 96)};
     DialogUser m_user;
     kztest::WorkArea m_screen{m_user.project.Module(), m_size.cx, m_size.cy};
     kztest::WorkArea m_centring{::GetModuleHandleW(L"KZMfc.dll"), m_size.cx, m_size.cy};

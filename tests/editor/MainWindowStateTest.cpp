@@ -89,17 +89,6 @@ TEST_F(MainWindowState, HasAMenuWithTheCommands)
         EXPECT_NE(MenuText(menu, command, MF_BYCOMMAND), L"") << command;
 }
 
-TEST_F(MainWindowState, NamesEveryControlThatTabReaches)
-{
-    std::set<std::wstring> names;
-    for (const int id : {IDC_FIND_LABEL, IDC_FIND_CLEAR, IDC_OPTIONS, IDC_SELECT, IDC_DEVICES, IDC_LIST_BAR, IDC_VALUES,
-                         IDC_CHOSEN_LABEL, IDC_REMOVE}) {
-        EXPECT_NE(kztest::TextOf(Control(id)), L"") << id;
-        names.insert(kztest::TextOf(Control(id)));
-    }
-    EXPECT_EQ(names.size(), 9U);
-}
-
 TEST_F(MainWindowState, ShowsTheProgramsIcon)
 {
     ExpectProgramIcon(m_window.m_hWnd);
@@ -202,8 +191,7 @@ TEST_F(MainWindowState, SaysOfSeveralDevicesWhichValuesDiffer)
 TEST_F(MainWindowState, SelectsWholeRowsOfItsLists)
 {
     for (const int id : {IDC_DEVICES, IDC_VALUES}) {
-        const DWORD styles = ListView_GetExtendedListViewStyle(Control(id));
-        EXPECT_TRUE((styles & LVS_EX_FULLROWSELECT) != 0 && (styles & LVS_EX_LABELTIP) != 0) << id;
+        EXPECT_NE(ListView_GetExtendedListViewStyle(Control(id)) & LVS_EX_FULLROWSELECT, 0U) << id;
     }
 }
 

@@ -8,6 +8,12 @@
 #include "text/PlantMessage.h"
 #include "window/WindowIcon.h"
 
+namespace {
+
+constexpr int FewRows = 60;  // of lists and long texts, in dialog units
+
+}  // namespace
+
 BEGIN_MESSAGE_MAP(EditorDialog, CDialog)
     ON_WM_SIZE()
     ON_WM_GETMINMAXINFO()
@@ -28,6 +34,7 @@ BOOL EditorDialog::OnInitDialog()
     m_page.SetBorders(KZSizeStandard, KZSizeStandard);
     PlanPage(m_page);
     FitWindow();
+    m_access.Attach(m_hWnd, {});
     return TRUE;
 }
 
@@ -43,7 +50,8 @@ void EditorDialog::SetTexts()
     }
 }
 
-// What can grow begins with the size of its template, everything else with what it needs.
+// What can grow begins with the size of its template, everything else with what it needs. It may be made lower while
+// its lists have a few rows left.
 void EditorDialog::FitWindow()
 {
     CRect client;
@@ -51,10 +59,18 @@ void EditorDialog::FitWindow()
     GetClientRect(&client);
     GetWindowRect(&window);
     const CSize needed = m_page.FixedSize();
+    const CSize frame(window.Width() - client.Width(), window.Height() - client.Height());
     const int width = std::max<int>(needed.cx, client.Width());
-    const int height = (GetStyle() & WS_THICKFRAME) != 0 ? std::max<int>(needed.cy, client.Height()) : needed.cy;
-    m_sizeSmallest = CSize(width + window.Width() - client.Width(), height + window.Height() - client.Height());
-    SetWindowPos(nullptr, 0, 0, m_sizeSmallest.cx, m_sizeSmallest.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    int height = needed.cy;
+    int smallest = needed.cy;
+    if ((GetStyle() & WS_THICKFRAME) != 0) {
+        CRect rows(0, 0, 0, FewRows);
+        MapDialogRect(&rows);
+        height = std::max<int>(needed.cy, client.Height());
+        smallest = std::min(height, smallest + rows.Height());
+    }
+    m_sizeSmallest = CSize(width + frame.cx, smallest + frame.cy);
+    SetWindowPos(nullptr, 0, 0, width + frame.cx, height + frame.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     Arrange();
 }
 

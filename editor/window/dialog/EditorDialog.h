@@ -1,5 +1,6 @@
 // The base of the editor's own dialogs: texts of the user's language, the program's icon, and controls that the host's
-// layout places, in a window that grows where its template says so.
+// layout places, in a window that grows where its template says so. Each works for everyone (DialogAccess.h): its
+// labels name its controls, and where the screen is too small its list shows fewer rows before anything scrolls.
 #pragma once
 
 #include <afxwin.h>
@@ -9,6 +10,7 @@
 #include <span>
 #include <string>
 
+#include "DialogAccess.h"
 #include "KZLayout.h"
 #include "RowList.h"
 #include "changes/DeviceEdit.h"
@@ -64,4 +66,5 @@ private:
     KZVerticalLayout m_page;
     std::deque<KZHoritzontalLayout> m_rows;
     CSize m_sizeSmallest;  // of the window; none until it is planned
+    DialogAccess m_access;
 };

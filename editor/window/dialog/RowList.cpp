@@ -35,7 +35,7 @@ void RowList::SetCheckBoxes(IsChecked isChecked, Check check)
 {
     m_isChecked = std::move(isChecked);
     m_check = std::move(check);
-    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_DOUBLEBUFFER | LVS_EX_CHECKBOXES);
+    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_CHECKBOXES);
     // The list asks for the boxes as it does for the texts.
     SendMessage(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
 }

@@ -14,13 +14,21 @@ namespace {
 
 constexpr UINT WM_KZ_MARKS_SETTLED = WM_APP + 0x140;
 
-constexpr struct {
+struct ControlText {
     int control;
     unsigned text;
-} Captions[] = {
-    {IDC_FIND_LABEL, IDS_FIND_LABEL},     {IDC_FIND_CLEAR, IDS_FIND_CLEAR},         {IDC_DEVICES, IDS_DEVICES},
-    {IDC_SELECT, IDS_BUTTON_SELECT},      {IDC_OPTIONS, IDS_BUTTON_OPTIONS},        {IDC_LIST_BAR, IDS_LIST_BAR},
-    {IDC_FINDINGS_BAR, IDS_FINDINGS_BAR}, {IDC_FINDINGS_CLOSE, IDS_FINDINGS_CLOSE},
+};
+
+constexpr ControlText Captions[] = {
+    {IDC_FIND_LABEL, IDS_FIND_LABEL},  {IDC_FIND_CLEAR, IDS_FIND_CLEAR},         {IDC_SELECT, IDS_BUTTON_SELECT},
+    {IDC_OPTIONS, IDS_BUTTON_OPTIONS}, {IDC_FINDINGS_CLOSE, IDS_FINDINGS_CLOSE},
+};
+
+// What neither a label nor a text of its own names.
+constexpr ControlText Names[] = {
+    {IDC_FIND_CLEAR, IDS_NAME_FIND_CLEAR}, {IDC_DEVICES, IDS_DEVICES},
+    {IDC_LIST_BAR, IDS_LIST_BAR},          {IDC_PAGES, IDS_NAME_PAGES},
+    {IDC_FINDINGS_BAR, IDS_FINDINGS_BAR},  {IDC_FINDINGS_CLOSE, IDS_NAME_FINDINGS_CLOSE},
 };
 
 }  // namespace
@@ -112,6 +120,7 @@ BOOL MainWindow::OnInitDialog()
         m_layout.SetFindingsShare(m_settings.settings.findingsShare);
     m_pageOptions.SetAround([this](const std::function<void()>& command) { RunEmbedded(command); });
     SetTexts();
+    m_access.Attach(m_hWnd, {.tabs = m_tab, .nameControls = [this](AccessibleNames& names) { NameControls(names); }});
     Attach();
     return FALSE;  // the focus is where it should be
 }
@@ -130,6 +139,14 @@ void MainWindow::SetTexts()
     m_paneStart.Show(RecentProjects());
     ShowTabs();
     Arrange();
+    m_access.NameAnew();
+}
+
+void MainWindow::NameControls(AccessibleNames& names)
+{
+    for (const auto& [control, text] : Names)
+        names.Set(*GetDlgItem(control), EditorText(text));
+    m_pageValues.NameControls(names);
 }
 
 void MainWindow::ShowMenu()

@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "DialogAccess.h"
 #include "FrameLayout.h"
 #include "OpenProject.h"
 #include "ProjectQuestions.h"
@@ -192,6 +193,7 @@ private:
     void ShowCommands();
     void EnableButton(int id, bool enabled);
     void SetTexts();
+    void NameControls(AccessibleNames& names);
     void ShowMenu();
     void ShowState();
     void ShowTitle();
@@ -232,4 +234,5 @@ private:
     bool m_bRecoveriesOffered = false;       // all of them
     plant::ForeignChanges m_refusedChanges;  // the user keeps his own
     bool m_bUnwanted = false;                // what is not saved: the user has said so
+    DialogAccess m_access;
 };

@@ -81,7 +81,6 @@ void MainWindow::ShowFindingsState()
 {
     const std::wstring label = FormatEditorText(IDS_FINDINGS, static_cast<int>(m_lstFindings.Findings().size()));
     SetDlgItemText(IDC_FINDINGS_LABEL, label.c_str());
-    m_lstFindings.SetWindowText(label.c_str());
 }
 
 // Nothing is said of what nobody has checked.

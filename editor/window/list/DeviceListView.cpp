@@ -17,8 +17,7 @@ static_assert(std::size(Columns) == DeviceColumnCount);
 void DeviceListView::SetUp()
 {
     SetColumns(Columns, static_cast<int>(DeviceColumn::Description));
-    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_DOUBLEBUFFER | LVS_EX_INFOTIP |
-                     LVS_EX_HEADERDRAGDROP);
+    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_INFOTIP | LVS_EX_HEADERDRAGDROP);
     ShowSortArrow();
 }
 

@@ -1,6 +1,7 @@
 #include "ChildWindow.h"
 
 #include "ChildPane.h"
+#include "DialogAccess.h"
 #include "EmbeddedCommand.h"
 #include "text/EditorText.h"
 #include "window/WindowIcon.h"
@@ -24,6 +25,7 @@ private:
     void Arrange();
 
     ChildPane m_pane;
+    DialogAccess m_access;
 };
 
 BEGIN_MESSAGE_MAP(ChildWindow, CDialog)
@@ -39,6 +41,7 @@ bool ChildWindow::Run(KZDriver* driver, KZChildOptionsFactory factory)
     SetProgramIcon(*this);
     const bool created = m_pane.Embed(driver, factory);
     Arrange();
+    m_access.Attach(m_hWnd, {});
     m_pane.ShowWindow(SW_SHOW);
     ShowWindow(SW_SHOW);
     if (CWnd* first = GetNextDlgTabItem(nullptr))

@@ -18,6 +18,7 @@ void StartPane::DoDataExchange(CDataExchange* pDX)
 {
     CDialog::DoDataExchange(pDX);
     DDX_Control(pDX, IDC_RECENT, m_lstRecent);
+    m_tips.Attach(m_lstRecent);
 }
 
 void StartPane::Show(const std::vector<std::wstring>& recent)

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "CutTextTips.h"
+
 class StartPane : public CDialog {
 public:
     bool CreateIn(CWnd& parent);
@@ -30,4 +32,5 @@ private:
     void Arrange();
 
     CListBox m_lstRecent;
+    CutTextTips m_tips;
 };

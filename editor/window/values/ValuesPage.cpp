@@ -54,7 +54,11 @@ void ValuesPage::SetTexts()
 {
     m_lstValues.SetUp(Columns, ColumnValue,
                       [this](int row, int column) { return Text(m_rows[static_cast<std::size_t>(row)], column); });
-    m_lstValues.SetWindowText(EditorText(IDS_PAGE_VALUES).c_str());
+}
+
+void ValuesPage::NameControls(AccessibleNames& names)
+{
+    names.Set(m_lstValues, EditorText(IDS_PAGE_VALUES));
 }
 
 void ValuesPage::Show(SummaryRows rows)

@@ -2,6 +2,7 @@
 // between devices is said to be different.
 #pragma once
 
+#include "AccessibleNames.h"
 #include "DeviceSummary.h"
 #include "window/dialog/RowList.h"
 
@@ -11,6 +12,7 @@ public:
 
     // Texts in the user's language; what is shown has to be shown anew.
     void SetTexts();
+    void NameControls(AccessibleNames& names);
     // Shows the rows, or none.
     void Show(SummaryRows rows);
     // Marks the setting of this name and brings it into view, or none when there is none.

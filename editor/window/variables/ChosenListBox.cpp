@@ -15,6 +15,7 @@ int ChosenListBox::WidestText(const plant::VariableList& variables)
 
 void ChosenListBox::Show(const plant::VariableList& variables)
 {
+    m_tips.Attach(m_hWnd);
     SetRedraw(FALSE);
     ResetContent();
     for (const KZBasicString& variable : variables)

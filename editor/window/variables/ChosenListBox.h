@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include "CutTextTips.h"
 #include "project/ChosenVariables.h"
 
 class ChosenListBox : public CListBox {
@@ -15,4 +16,6 @@ public:
 
 private:
     [[nodiscard]] int WidestText(const plant::VariableList& variables);
+
+    CutTextTips m_tips;
 };

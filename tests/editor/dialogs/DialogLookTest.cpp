@@ -1,12 +1,12 @@
 // Every dialog of the editor in each language and at each resolution: nothing cut, nothing over anything else, small
 // enough for a small screen, each access key once, and a name for everything that Tab reaches.
-#include <cwctype>
-#include <set>
-
 #include "DialogFixture.h"
 #include "DialogLayout.h"
 #include "ParameterNames.h"
+#include "PlatformNames.h"
 #include "SampleDialogs.h"
+#include "ShownParts.h"
+#include "WorkArea.h"
 
 namespace {
 
@@ -34,16 +34,6 @@ CSize SizeOf(HWND window)
     return place.Size();
 }
 
-std::vector<HWND> ShownChildren(HWND dialog)
-{
-    std::vector<HWND> children;
-    for (HWND child = ::GetWindow(dialog, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        if (HasStyle(child, WS_VISIBLE))
-            children.push_back(child);
-    }
-    return children;
-}
-
 }  // namespace
 
 TEST_P(DialogLook, IsTidy)
@@ -61,51 +51,68 @@ TEST_P(DialogLook, IsTidyWhenItIsLarge)
     });
 }
 
-// 800 x 600 at 96 dots per inch, and as much of the screen at other resolutions.
-TEST_P(DialogLook, FitsASmallScreen)
+TEST_P(DialogLook, FitsASmallScreenWhole)
 {
-    const HDC screen = ::GetDC(nullptr);
-    const int dpi = ::GetDeviceCaps(screen, LOGPIXELSX);
-    ::ReleaseDC(nullptr, screen);
-    Look([dpi](HWND dialog) {
-        const CSize size = SizeOf(dialog);
-        EXPECT_LE(size.cx, 800 * dpi / 96);
-        EXPECT_LE(size.cy, 560 * dpi / 96);
+    Look([](HWND dialog) {
+        EXPECT_LE(SizeOf(dialog).cx, kztest::SmallestScreen().cx);
+        EXPECT_LE(SizeOf(dialog).cy, kztest::SmallestScreen().cy);
     });
 }
 
 TEST_P(DialogLook, HasEachAccessKeyOnce)
 {
-    Look([](HWND dialog) {
-        std::set<wchar_t> keys;
-        for (const HWND child : ShownChildren(dialog)) {
-            if (HasStyle(child, SS_NOPREFIX) && kztest::ClassOf(child) == L"Static")
-                continue;
-            const std::wstring text = kztest::ClassOf(child) == L"Edit" ? L"" : kztest::TextOf(child);
-            const std::size_t mark = text.find(L'&');
-            if (mark == std::wstring::npos)
-                continue;
-            const auto key = static_cast<wchar_t>(std::towupper(text[mark + 1]));
-            EXPECT_TRUE(keys.insert(key).second) << testing::PrintToString(text);
-        }
-    });
+    Look([](HWND dialog) { kztest::ExpectAccessKeysOfTheirOwn(dialog); });
 }
 
 // Buttons are named by their text, everything else by the label in front of it, which ends with a colon.
 TEST_P(DialogLook, NamesWhateverTabReaches)
 {
     Look([](HWND dialog) {
-        HWND before = nullptr;
-        for (const HWND child : ShownChildren(dialog)) {
-            if (HasStyle(child, WS_TABSTOP)) {
-                const HWND name = kztest::ClassOf(child) == L"Button" ? child : before;
-                ASSERT_NE(name, nullptr);
-                const std::wstring text = kztest::TextOf(name);
-                EXPECT_FALSE(text.empty()) << "control " << ::GetDlgCtrlID(child);
-                EXPECT_TRUE(name == child || text.ends_with(L':')) << testing::PrintToString(text);
+        EXPECT_GT(kztest::ExpectNamesOfTheirOwn(dialog, {}), 1);
+        for (const HWND control : kztest::WorkableControls(dialog)) {
+            if (kztest::ClassOf(control) != L"Button") {
+                EXPECT_TRUE(kztest::PlatformName(control, {}).ends_with(L':')) << ::GetDlgCtrlID(control);
             }
-            before = child;
         }
+    });
+}
+
+// Its list gives way before anything scrolls; then what has the focus is seen, and the buttons are.
+TEST_P(DialogLook, GivesWayToALowScreen)
+{
+    const int little = ::MulDiv(12, kztest::ScreenDpi(), 96);
+    const kztest::WorkArea screen(nullptr, kztest::LargeScreenWidth, kztest::LargeScreenHeight);
+    const auto fit = [&](HWND dialog, LONG height) {
+        screen.Resize(kztest::LargeScreenWidth, height);
+        ::SendMessageW(dialog, WM_DISPLAYCHANGE, 32, 0);
+    };
+    Look([&](HWND dialog) {
+        if (HasStyle(dialog, WS_THICKFRAME)) {
+            const LONG before = SizeOf(dialog).cy;
+            fit(dialog, before - little);
+            EXPECT_EQ(SizeOf(dialog).cy, before - little);
+            EXPECT_FALSE(kztest::IsCut(dialog));
+            ::SetWindowPos(dialog, nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER);
+            kztest::ExpectNothingClippedOrOverlapping(dialog);
+        }
+        const LONG smallest = SizeOf(dialog).cy;
+        fit(dialog, smallest - little);
+        EXPECT_TRUE(kztest::IsCut(dialog));
+        for (const HWND control : kztest::WorkableControls(dialog)) {
+            ::SendMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+            EXPECT_EQ(kztest::FocusedWindow(dialog), control);
+            const CRect shown = kztest::ShownPart(dialog, control);
+            const CRect whole = kztest::PlaceIn(dialog, control);
+            EXPECT_TRUE(shown == whole || shown.Height() > 3 * little) << ::GetDlgCtrlID(control);
+        }
+        if (HasStyle(dialog, WS_THICKFRAME)) {
+            ::SetWindowPos(dialog, nullptr, 0, 0, 1000, 1000, SWP_NOMOVE | SWP_NOZORDER);
+            EXPECT_EQ(SizeOf(dialog).cy, smallest - little) << "it has one size while it scrolls";
+        }
+        fit(dialog, kztest::LargeScreenHeight);
+        EXPECT_FALSE(kztest::IsCut(dialog));
+        EXPECT_EQ(SizeOf(dialog).cy, smallest);
+        kztest::ExpectNothingClippedOrOverlapping(dialog);
     });
 }
 

@@ -1,0 +1,130 @@
+// The main window for those who see, hear or point otherwise: names, access keys, tool tips, small screens.
+#include "EditorWindowFixture.h"
+#include "FakeAccessibility.h"
+#include "ListCells.h"
+#include "ParameterNames.h"
+#include "PlatformNames.h"
+#include "ShownParts.h"
+#include "ToolTips.h"
+#include "WorkArea.h"
+
+namespace {
+
+constexpr PageName Pages[] = {PageName::Values, PageName::Variables, PageName::Options};
+
+class MainWindowAccess : public editor_tests::OpenMainWindow, public testing::WithParamInterface<KZLanguage> {
+protected:
+    MainWindowAccess() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
+    void SetUp() override
+    {
+        OpenMainWindow::SetUp();
+        kztest::DispatchPending();
+        m_window.SendMessage(WM_COMMAND, IDC_CHECK);
+    }
+    // While the service that takes the names back is there.
+    ~MainWindowAccess() override { m_window.DestroyWindow(); }
+
+    [[nodiscard]] std::wstring Name(int id) const { return kztest::PlatformName(Control(id), m_accessibility.names); }
+    void MoveMouse() const
+    {
+        ::PostMessageW(m_window.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(1, 1));
+        MSG message;
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
+            AfxPumpMessage();
+    }
+    void ExpectTips() const
+    {
+        const auto texts = kztest::TextsOf(kztest::TipsOf(m_window.m_hWnd));
+        EXPECT_EQ(texts.size(), 2U);
+        for (const int id : {IDC_FIND_CLEAR, IDC_FINDINGS_CLOSE})
+            EXPECT_EQ(texts.at(Control(id)), Name(id));
+    }
+
+    kztest::FakeAccessibility m_accessibility;
+};
+
+}  // namespace
+
+TEST_P(MainWindowAccess, NamesEachControlOfEachPageOnce)
+{
+    m_window.SendMessage(WM_COMMAND, IDC_MARK_ALL);
+    kztest::SetText(m_window.m_hWnd, IDC_FIND, L"e");
+    for (const PageName page : Pages) {
+        m_window.ShowPage(page);
+        ChooseDevice(0);
+        EXPECT_GT(kztest::ExpectNamesOfTheirOwn(m_window.m_hWnd, m_accessibility.names), 9);
+    }
+}
+
+TEST_P(MainWindowAccess, NamesItsPartsInTheLanguageThatIsSpoken)
+{
+    const bool isEnglish = GetParam() == KZLanguage::English;
+    EXPECT_EQ(Name(IDC_FIND), isEnglish ? L"Find:" : L"Buscar:");
+    EXPECT_EQ(Name(IDC_DEVICES), isEnglish ? L"Devices" : L"Equipos");
+    m_window.Speak(isEnglish ? KZLanguage::Spanish : KZLanguage::English);
+    EXPECT_EQ(Name(IDC_DEVICES), isEnglish ? L"Equipos" : L"Devices");
+    EXPECT_TRUE(Name(IDC_FINDINGS).starts_with(isEnglish ? L"Hallazgos (" : L"Findings (")) << "the label counts them";
+}
+
+TEST_P(MainWindowAccess, HasEachAccessKeyOnceTogetherWithWhatIsEmbedded)
+{
+    for (const PageName page : Pages) {
+        m_window.ShowPage(page);
+        EXPECT_GT(kztest::ExpectAccessKeysOfTheirOwn(m_window.m_hWnd).size(), page == PageName::Options ? 16U : 8U);
+    }
+}
+
+TEST_P(MainWindowAccess, TellsBySignsWhatTheirButtonsDo)
+{
+    EXPECT_FALSE(kztest::TipsOf(m_window.m_hWnd));
+    MoveMouse();
+    ExpectTips();
+    m_window.Speak(GetParam() == KZLanguage::English ? KZLanguage::Spanish : KZLanguage::English);
+    MoveMouse();
+    ExpectTips();
+}
+
+TEST_P(MainWindowAccess, ShowsTheWholeTextOfACutCell)
+{
+    const HWND list = Control(IDC_DEVICES);
+    constexpr int Name = 2;
+    ListView_SetColumnWidth(list, Name, 12);
+    CRect cell;
+    ListView_GetSubItemRect(list, 0, Name, LVIR_BOUNDS, &cell);
+    ::SendMessageW(list, WM_MOUSEMOVE, 0, MAKELPARAM(cell.left + 3, cell.top + 3));
+    const auto tips = kztest::TextsOfAllTips(m_window.m_hWnd);
+    EXPECT_EQ(std::count(tips.begin(), tips.end(), m_project.Devices().front().name.c_str()), 1);
+}
+
+TEST_P(MainWindowAccess, ShrinksToASmallerScreen)
+{
+    const CSize smallest = kztest::SmallestScreen();
+    m_window.MoveWindow(0, 0, smallest.cx + 100, smallest.cy + 100);
+    const kztest::WorkArea screen(nullptr, smallest.cx, smallest.cy);
+    m_window.SendMessage(WM_DISPLAYCHANGE, 32);
+    EXPECT_EQ(kztest::PlaceIn(nullptr, m_window.m_hWnd), CRect(0, 0, smallest.cx, smallest.cy));
+    EXPECT_FALSE(kztest::IsCut(m_window.m_hWnd));
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, MainWindowAccess, testing::Values(KZLanguage::English, KZLanguage::Spanish),
+                         kztest::ByLanguage);
+
+class StartPageAccess : public editor_tests::EditorWindows, public testing::WithParamInterface<KZLanguage> {
+protected:
+    StartPageAccess() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
+    ~StartPageAccess() override { m_window.DestroyWindow(); }
+
+    kztest::FakeAccessibility m_accessibility;
+    MainWindow m_window{m_modules, m_settings, nullptr};
+};
+
+TEST_P(StartPageAccess, HasNamesAndAccessKeysOfTheirOwn)
+{
+    ASSERT_TRUE(m_window.Create());
+    kztest::DispatchPending();
+    EXPECT_GE(kztest::ExpectNamesOfTheirOwn(m_window.m_hWnd, m_accessibility.names), 3);
+    EXPECT_GT(kztest::ExpectAccessKeysOfTheirOwn(m_window.m_hWnd).size(), 8U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, StartPageAccess, testing::Values(KZLanguage::English, KZLanguage::Spanish),
+                         kztest::ByLanguage);
