@@ -158,14 +158,14 @@ void NoteCommand(unsigned id) noexcept
 
 std::optional<FoundCrash> TakeNewCrash(const fs::path& folder)
 {
-    const std::optional<std::vector<KZFileEntry>> entries = KZListFolder(folder);
-    if (folder.empty() || !entries)
-        return std::nullopt;
+    KZFolderReader entries(folder);
     std::vector<std::wstring> names;
-    for (const KZFileEntry& entry : *entries) {
-        if (entry.kind == KZFileEntry::Kind::File && entry.name.extension() == L".txt")
-            names.push_back(entry.name.wstring());
+    while (const std::optional<KZFileEntry> entry = entries.Next()) {
+        if (entry->kind == KZFileEntry::Kind::File && entry->name.extension() == L".txt")
+            names.push_back(entry->name.wstring());
     }
+    if (folder.empty() || !entries.IsInOrder())
+        return std::nullopt;
     // The names begin with the time.
     std::sort(names.rbegin(), names.rend());
     std::error_code ignored;

@@ -113,24 +113,40 @@ KZFileEntry EntryOf(const struct stat& status)
 
 }  // namespace
 
-std::optional<std::vector<KZFileEntry>> KZListFolder(const std::filesystem::path& folder)
+struct KZFolderReader::Search {
+    DIR* folder = nullptr;
+
+    ~Search()
+    {
+        if (folder)
+            ::closedir(folder);
+    }
+};
+
+KZFolderReader::KZFolderReader(const std::filesystem::path& folder) : m_search(std::make_unique<Search>())
 {
-    struct CloseFolder {
-        void operator()(DIR* open) const noexcept { ::closedir(open); }
-    };
-    const std::unique_ptr<DIR, CloseFolder> open(::opendir(folder.c_str()));
-    if (!open)
+    m_search->folder = ::opendir(folder.c_str());
+    m_isInOrder = m_search->folder != nullptr;
+}
+
+KZFolderReader::~KZFolderReader() = default;
+
+std::optional<KZFileEntry> KZFolderReader::Next()
+{
+    if (!m_isInOrder)
         return std::nullopt;
-    std::vector<KZFileEntry> entries;
-    for (errno = 0; const dirent* found = ::readdir(open.get()); errno = 0) {
+    for (errno = 0; const dirent* found = ::readdir(m_search->folder); errno = 0) {
         const std::string_view name = found->d_name;
         struct stat status;
-        if (name == "." || name == ".." || ::fstatat(::dirfd(open.get()), found->d_name, &status, AT_SYMLINK_NOFOLLOW))
+        if (name == "." || name == ".." ||
+            ::fstatat(::dirfd(m_search->folder), found->d_name, &status, AT_SYMLINK_NOFOLLOW))
             continue;
-        entries.push_back(EntryOf(status));
-        entries.back().name = name;
+        KZFileEntry entry = EntryOf(status);
+        entry.name = name;
+        return entry;
     }
-    return errno == 0 ? std::optional(std::move(entries)) : std::nullopt;
+    m_isInOrder = errno == 0;
+    return std::nullopt;
 }
 
 std::optional<KZFileEntry> KZFindFile(const std::filesystem::path& path)

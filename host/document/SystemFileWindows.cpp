@@ -125,26 +125,41 @@ KZFileEntry EntryOf(const Data& data, DWORD reparseTag)
 
 }  // namespace
 
-std::optional<std::vector<KZFileEntry>> KZListFolder(const std::filesystem::path& folder)
+struct KZFolderReader::Search {
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    WIN32_FIND_DATAW found{};
+    bool isFound = true;  // and not given away yet
+
+    ~Search()
+    {
+        if (handle != INVALID_HANDLE_VALUE)
+            ::FindClose(handle);
+    }
+};
+
+KZFolderReader::KZFolderReader(const std::filesystem::path& folder) : m_search(std::make_unique<Search>())
 {
-    struct CloseSearch {
-        void operator()(HANDLE search) const noexcept { ::FindClose(search); }
-    };
-    WIN32_FIND_DATAW data;
-    const HANDLE search = ::FindFirstFileExW((folder / L"*").c_str(), FindExInfoBasic, &data, FindExSearchNameMatch,
-                                             nullptr, FIND_FIRST_EX_LARGE_FETCH);
-    if (search == INVALID_HANDLE_VALUE)
-        return std::nullopt;
-    const std::unique_ptr<void, CloseSearch> closing(search);
-    std::vector<KZFileEntry> entries;
-    do {
+    m_search->handle = ::FindFirstFileExW((folder / L"*").c_str(), FindExInfoBasic, &m_search->found,
+                                          FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+    m_isInOrder = m_search->handle != INVALID_HANDLE_VALUE;
+}
+
+KZFolderReader::~KZFolderReader() = default;
+
+std::optional<KZFileEntry> KZFolderReader::Next()
+{
+    while (m_isInOrder &&
+           (std::exchange(m_search->isFound, false) || ::FindNextFileW(m_search->handle, &m_search->found))) {
+        const WIN32_FIND_DATAW& data = m_search->found;
         const std::wstring_view name = data.cFileName;
         if (name == L"." || name == L"..")
             continue;
-        entries.push_back(EntryOf(data, data.dwReserved0));
-        entries.back().name = name;
-    } while (::FindNextFileW(search, &data));
-    return ::GetLastError() == ERROR_NO_MORE_FILES ? std::optional(std::move(entries)) : std::nullopt;
+        KZFileEntry entry = EntryOf(data, data.dwReserved0);
+        entry.name = name;
+        return entry;
+    }
+    m_isInOrder = m_isInOrder && ::GetLastError() == ERROR_NO_MORE_FILES;
+    return std::nullopt;
 }
 
 std::optional<KZFileEntry> KZFindFile(const std::filesystem::path& path)

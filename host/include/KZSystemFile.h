@@ -3,12 +3,12 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include "KZHostApi.h"
 
@@ -74,8 +74,26 @@ struct KZFileEntry {
     std::int64_t time = 0;   // last written, in 100 ns since 1970
 };
 
-// Returns what the folder holds, in no order, or nothing on failure. Throws std::bad_alloc.
-[[nodiscard]] KZ_API std::optional<std::vector<KZFileEntry>> KZListFolder(const std::filesystem::path& folder);
+// Reads what a folder holds, in no order, one entry after the other, so that somebody with little time can go on later.
+class KZ_API KZFolderReader {
+public:
+    // Throws std::bad_alloc.
+    explicit KZFolderReader(const std::filesystem::path& folder);
+    ~KZFolderReader();
+    KZFolderReader(const KZFolderReader&) = delete;
+    KZFolderReader& operator=(const KZFolderReader&) = delete;
+
+    // False when the folder could not be opened, or when the last Next has failed; KZLastFileError tells why.
+    [[nodiscard]] bool IsInOrder() const noexcept { return m_isInOrder; }
+    // The next entry; nothing behind the last one and on failure. Throws std::bad_alloc.
+    [[nodiscard]] std::optional<KZFileEntry> Next();
+
+private:
+    struct Search;
+    std::unique_ptr<Search> m_search;
+    bool m_isInOrder = true;
+};
+
 // Returns what stands at the path, or nothing on failure, of which KZFileFailure::Missing is one.
 [[nodiscard]] KZ_API std::optional<KZFileEntry> KZFindFile(const std::filesystem::path& path);
 

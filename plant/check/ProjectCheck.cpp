@@ -1,6 +1,5 @@
 #include "ProjectCheck.h"
 
-#include <set>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -68,7 +67,9 @@ Findings Checking::All()
         m_check.Check(device, m_findings);
     for (const zep::SetupList& setups : ListsOfSetups)
         CheckSetups(m_main, setups, m_devices, m_findings);
-    CheckStrays(m_documents, m_devices, m_findings);
+    for (const KZDeviceIdentity& device : m_devices)
+        TakeOutOwned(m_documents, device);
+    ReportStrays(m_documents, m_findings);
     return std::move(m_findings);
 }
 
@@ -120,13 +121,15 @@ void CheckSetups(const XmlDocument& main, const zep::SetupList& setups, const De
     }
 }
 
-void CheckStrays(const DocumentFiles& documents, const DeviceList& devices, Findings& findings)
+void TakeOutOwned(DocumentFiles& documents, const KZDeviceIdentity& device)
 {
-    std::set<std::string, NameLess> owned{Main};
-    for (const KZDeviceIdentity& device : devices)
-        owned.insert(DeviceDocumentName(device.driverId));
-    for (const auto& [name, file] : documents)
-        if (!owned.contains(name))
+    documents.erase(DeviceDocumentName(device.driverId));
+}
+
+void ReportStrays(const DocumentFiles& left, Findings& findings)
+{
+    for (const auto& [name, file] : left)
+        if (name != Main)
             findings.push_back({"", name, {IDS_PLANT_CHECK_STRAY_DOCUMENT, {}}});
 }
 

@@ -19,7 +19,9 @@ namespace plant {
 // Appends a finding for each setup of a list that is not the first of its driverId or whose driverId no device has.
 void CheckSetups(const XmlDocument& main, const zep::SetupList& setups, const DeviceList& devices, Findings& findings);
 
-// Appends a finding for each document, of which the name counts, that belongs to no device.
-void CheckStrays(const DocumentFiles& documents, const DeviceList& devices, Findings& findings);
+// Takes the device's document out of those of a project; what is left in the end belongs to no device.
+void TakeOutOwned(DocumentFiles& documents, const KZDeviceIdentity& device);
+// Appends a finding for each document that is left.
+void ReportStrays(const DocumentFiles& left, Findings& findings);
 
 }  // namespace plant

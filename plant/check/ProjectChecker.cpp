@@ -36,6 +36,8 @@ void ProjectChecker::Begin(std::deque<KZBasicString> devices)
     ForgetMissing();
     m_waiting = std::move(devices);
     m_part = Part::Units;
+    m_reader.reset();
+    m_owner = 0;
     m_begun = Left();
 }
 
@@ -49,8 +51,10 @@ bool ProjectChecker::Work(std::chrono::milliseconds slice)
 {
     const auto end = std::chrono::steady_clock::now() + slice;
     while (IsWorking()) {
+        // A list of setups is looked at in one go, which in a large project is a slice of its own.
+        const bool isWhole = m_waiting.empty() && m_part < Part::Files;
         CheckNext();
-        if (std::chrono::steady_clock::now() >= end)
+        if (isWhole || std::chrono::steady_clock::now() >= end)
             break;
     }
     m_isComplete = m_isComplete || !IsWorking();
@@ -79,18 +83,46 @@ void ProjectChecker::CheckDevice(const KZBasicString& driverId)
 
 void ProjectChecker::CheckPart()
 {
-    if (m_part == Part::Files) {
-        m_files = m_project.FilesShown();
-    } else if (m_part == Part::Strays) {
-        m_ofStrays.clear();
-        CheckStrays(m_files, m_project.Devices(), m_ofStrays);
-        m_files.clear();
-    } else {
-        const auto list = static_cast<std::size_t>(m_part);
-        m_ofSetups[list].clear();
-        CheckSetups(*KZMainCfg::Get(), ListsOfSetups[list], m_project.Devices(), m_ofSetups[list]);
+    bool isMore = false;
+    if (m_part == Part::Files)
+        isMore = ReadFile();
+    else if (m_part == Part::Strays)
+        isMore = LookForStray();
+    else
+        CheckList();
+    if (!isMore)
+        m_part = static_cast<Part>(static_cast<std::size_t>(m_part) + 1);
+}
+
+void ProjectChecker::CheckList()
+{
+    const auto list = static_cast<std::size_t>(m_part);
+    m_ofSetups[list].clear();
+    CheckSetups(*KZMainCfg::Get(), ListsOfSetups[list], m_project.Devices(), m_ofSetups[list]);
+}
+
+bool ProjectChecker::ReadFile()
+{
+    if (!m_reader)
+        m_reader.emplace(m_project.ReadFilesOnDisk());
+    if (m_reader->ReadNext())
+        return true;
+    m_files = m_reader->Take();
+    m_reader.reset();
+    m_project.AddPending(m_files);
+    return false;
+}
+
+bool ProjectChecker::LookForStray()
+{
+    if (m_owner < m_project.Devices().size()) {
+        TakeOutOwned(m_files, m_project.Devices()[m_owner++]);
+        return true;
     }
-    m_part = static_cast<Part>(static_cast<std::size_t>(m_part) + 1);
+    m_ofStrays.clear();
+    ReportStrays(m_files, m_ofStrays);
+    m_files.clear();
+    return false;
 }
 
 const XmlDocument::XmlNode* ProjectChecker::Read(const std::string& name)
@@ -108,6 +140,7 @@ const XmlDocument::XmlNode* ProjectChecker::Read(const std::string& name)
 void ProjectChecker::Cancel() noexcept
 {
     m_waiting.clear();
+    m_reader.reset();
     m_part = Part::Nothing;
 }
 

@@ -25,6 +25,8 @@ public:
     // shown until it is found anew or not.
     void Restart();
     void Restart(const ProjectChange& change);
+    // As long as a user does not notice that something else is done.
+    static constexpr std::chrono::milliseconds Slice{10};
     // Goes on for about so long. Returns whether there is more to do.
     bool Work(std::chrono::milliseconds slice);
     // Leaves off; the findings so far stay.
@@ -49,6 +51,10 @@ private:
     void CheckNext();
     void CheckDevice(const KZBasicString& driverId);
     void CheckPart();
+    void CheckList();
+    // One step each; return whether there is more of the part.
+    bool ReadFile();
+    bool LookForStray();
     void ForgetMissing();
     const XmlDocument::XmlNode* Read(const std::string& name);
     [[nodiscard]] std::size_t Left() const noexcept
@@ -61,10 +67,12 @@ private:
     std::map<KZBasicString, Findings> m_ofDevices;  // of those that have any
     std::array<Findings, ListsOfSetups.size()> m_ofSetups;
     Findings m_ofStrays;
-    DocumentFiles m_files;
 
     std::deque<KZBasicString> m_waiting;  // driverIds
     Part m_part = Part::Nothing;
+    std::optional<DocumentReader> m_reader;
+    DocumentFiles m_files;    // those that may be nobody's
+    std::size_t m_owner = 0;  // the device whose document is looked for among them
     std::size_t m_begun = 0;
     bool m_isComplete = false;
     XmlDocument m_document{L"device"};  // of the device that is looked at

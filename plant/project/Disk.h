@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "KZSystemFile.h"
@@ -31,6 +32,14 @@ public:
     virtual void Remove() noexcept = 0;
 };
 
+// What a folder holds, in no order.
+class FolderEntries {
+public:
+    virtual ~FolderEntries() = default;
+    // Nothing behind the last. Throws Refusal.
+    [[nodiscard]] virtual std::optional<KZFileEntry> Next() = 0;
+};
+
 // Every operation throws Refusal, naming the file, the reason and the remedy, when it fails, and then has done
 // nothing.
 class Disk {
@@ -41,8 +50,17 @@ public:
     [[nodiscard]] virtual std::optional<std::string> Read(const Path& file) = 0;
     // What stands at the path, or nothing.
     [[nodiscard]] virtual std::optional<KZFileEntry> Find(const Path& path) = 0;
-    // What a folder holds, in no order; empty when there is no such folder.
-    [[nodiscard]] virtual std::vector<KZFileEntry> List(const Path& folder) = 0;
+    // Begins to read a folder; null when there is no such folder.
+    [[nodiscard]] virtual std::unique_ptr<FolderEntries> Open(const Path& folder) = 0;
+    // All that a folder holds; empty when there is no such folder.
+    [[nodiscard]] std::vector<KZFileEntry> List(const Path& folder)
+    {
+        std::vector<KZFileEntry> entries;
+        const std::unique_ptr<FolderEntries> reading = Open(folder);
+        for (std::optional<KZFileEntry> entry; reading && (entry = reading->Next());)
+            entries.push_back(std::move(*entry));
+        return entries;
+    }
 
     // Writes a file that is not there yet, to the disk itself. When it fails, a part may be left.
     virtual void Write(const Path& file, std::string_view bytes) = 0;

@@ -20,33 +20,51 @@ std::string DocumentNameOf(std::string fileName)
     return fileName;
 }
 
-void Add(DocumentFiles& files, std::string name, const KZFileEntry& entry)
+}  // namespace
+
+void DocumentReader::Add(std::string name, const KZFileEntry& entry)
 {
     if (entry.kind != KZFileEntry::Kind::Folder && IsDocumentName(name))
-        files.emplace(std::move(name), entry);
+        m_files.emplace(std::move(name), entry);
 }
 
-}  // namespace
+void DocumentReader::Add(const KZFileEntry& entry)
+{
+    std::string name = NameOf(entry.name);
+    if (m_place == Place::Devices)
+        return Add(DeviceDocumentOfFile(DocumentNameOf(std::move(name))), entry);
+    if (!IsSameName(name, DeviceFolder))
+        return Add(DocumentNameOf(std::move(name)), entry);
+    if (entry.kind == KZFileEntry::Kind::Other)
+        throw Refusal(IDS_PLANT_NOT_A_FOLDER, {Shown(m_folder / entry.name)});
+    m_hasDevices = entry.kind == KZFileEntry::Kind::Folder;
+}
+
+bool DocumentReader::ReadNext()
+{
+    if (m_place == Place::Before) {
+        m_entries = m_disk.Open(m_folder);
+        m_place = Place::Project;
+    }
+    std::optional<KZFileEntry> entry = m_entries ? m_entries->Next() : std::nullopt;
+    if (!entry && m_place == Place::Project && m_hasDevices) {
+        m_entries = m_disk.Open(m_folder / DeviceFolder);
+        m_place = Place::Devices;
+        entry = m_entries ? m_entries->Next() : std::nullopt;
+    }
+    if (entry)
+        Add(*entry);
+    else
+        m_entries.reset();
+    return entry.has_value();
+}
 
 DocumentFiles DocumentFilesIn(Disk& disk, const Path& folder)
 {
-    DocumentFiles files;
-    bool hasDevices = false;
-    for (const KZFileEntry& entry : disk.List(folder)) {
-        std::string name = NameOf(entry.name);
-        if (IsSameName(name, DeviceFolder)) {
-            if (entry.kind == KZFileEntry::Kind::Other)
-                throw Refusal(IDS_PLANT_NOT_A_FOLDER, {Shown(folder / entry.name)});
-            hasDevices = entry.kind == KZFileEntry::Kind::Folder;
-        } else {
-            Add(files, DocumentNameOf(std::move(name)), entry);
-        }
+    DocumentReader reader(disk, folder);
+    while (reader.ReadNext()) {
     }
-    if (hasDevices) {
-        for (const KZFileEntry& entry : disk.List(folder / DeviceFolder))
-            Add(files, DeviceDocumentOfFile(DocumentNameOf(NameOf(entry.name))), entry);
-    }
-    return files;
+    return reader.Take();
 }
 
 }  // namespace plant

@@ -25,6 +25,10 @@ public:
     enum class Answer { Overwrite, TakeTheirs, Cancel };
     // Another program has changed these documents since they were read.
     virtual Answer AskAboutForeignChanges(const std::vector<std::string>& documents) = 0;
+    // Something unsaved is not in the recovery file yet, and to put it there takes long in a large project. Returns
+    // whether this user calls Project::ProtectIfDue before anything else can be done; otherwise it is put there at
+    // once.
+    virtual bool WillProtect() noexcept { return false; }
     // What is not saved yet could not be put into the recovery file: it would be lost with the process.
     virtual void TellUnprotected(const Message& why) noexcept = 0;
     // Another process is saving, so that this one has to wait; then, that it waits no longer.
@@ -72,11 +76,8 @@ public:
     // configuration document again.
     [[nodiscard]] const DriverIds& ChangedDevices() noexcept;
 
-    // When what is unsaved goes into the recovery file: with every change, or when the owner says so, because that
-    // takes long in a large project.
-    enum class Protection { AtOnce, WhenAsked };
-    void SetProtection(Protection when) noexcept { m_protection = when; }
-    // Whether something unsaved is not in the recovery file yet; and puts it there, or tells the user why not.
+    // Whether a user who said that he will protect it has not done so yet. Doing it puts what is unsaved into the
+    // recovery file, or tells the user why not.
     [[nodiscard]] bool IsProtectionDue() const noexcept { return m_isProtectionDue; }
     void ProtectIfDue() noexcept;
 
@@ -115,8 +116,10 @@ public:
     }
     // Every document that there is on disk. Throws Refusal.
     [[nodiscard]] DocumentFiles FilesOnDisk() const { return DocumentFilesIn(m_disk, m_folder); }
-    // The same as a save would leave it.
-    [[nodiscard]] DocumentFiles FilesShown() const;
+    // The same in steps.
+    [[nodiscard]] DocumentReader ReadFilesOnDisk() const { return {m_disk, m_folder}; }
+    // Makes what is on disk what a save would leave there.
+    void AddPending(DocumentFiles& files) const;
     // The device documents that are changed and not saved.
     [[nodiscard]] const Change& Pending() const noexcept { return m_pending; }
 
@@ -206,7 +209,6 @@ private:
     std::optional<bool> m_isReadOnly;
     SavedDevices m_savedDevices;
     std::optional<Doing> m_doing;
-    Protection m_protection = Protection::AtOnce;
     bool m_isProtectionDue = false;
 };
 

@@ -66,16 +66,14 @@ std::optional<std::string> Project::Peek(const std::string& name) const
     return pending != m_pending.end() ? pending->second : SavedContent(name);
 }
 
-DocumentFiles Project::FilesShown() const
+void Project::AddPending(DocumentFiles& files) const
 {
-    DocumentFiles files = FilesOnDisk();
     for (const auto& [name, bytes] : m_pending) {
         if (bytes)
             files.try_emplace(name);
         else
             files.erase(name);
     }
-    return files;
 }
 
 void Project::OnCommit(XmlDocument&) noexcept
@@ -85,6 +83,7 @@ void Project::OnCommit(XmlDocument&) noexcept
 
 void Project::Discard() noexcept
 {
+    m_isProtectionDue = false;
     m_recovery.Remove();
 }
 
@@ -105,9 +104,8 @@ void Project::Protect(Change waiting, const SeenDocuments& seen)
 
 void Project::ProtectOrTell() noexcept
 {
-    if (m_protection == Protection::WhenAsked && IsDirty())
-        m_isProtectionDue = true;
-    else
+    m_isProtectionDue = m_user && IsDirty() && m_user->WillProtect();
+    if (!m_isProtectionDue)
         ProtectNow();
 }
 

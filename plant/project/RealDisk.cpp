@@ -89,6 +89,31 @@ private:
     Path m_name;
 };
 
+class RealFolder : public FolderEntries {
+public:
+    explicit RealFolder(const Path& folder) : m_reader(folder), m_folder(folder)
+    {
+        if (m_reader.IsInOrder())
+            return;
+        const int error = KZLastFileError();
+        m_isMissing = KZFileFailureOf(error) == KZFileFailure::Missing;
+        if (!m_isMissing)
+            Refuse(m_folder, error);
+    }
+    [[nodiscard]] bool IsMissing() const noexcept { return m_isMissing; }
+    std::optional<KZFileEntry> Next() override
+    {
+        std::optional<KZFileEntry> entry = m_reader.Next();
+        Check(m_reader.IsInOrder(), m_folder);
+        return entry;
+    }
+
+private:
+    KZFolderReader m_reader;
+    Path m_folder;
+    bool m_isMissing = false;
+};
+
 class MachineDisk : public Disk {
 public:
     std::optional<std::string> Read(const Path& file) override
@@ -111,16 +136,10 @@ public:
         return entry;
     }
 
-    std::vector<KZFileEntry> List(const Path& folder) override
+    std::unique_ptr<FolderEntries> Open(const Path& folder) override
     {
-        std::optional<std::vector<KZFileEntry>> entries = KZListFolder(folder);
-        if (!entries) {
-            const int error = KZLastFileError();
-            if (KZFileFailureOf(error) != KZFileFailure::Missing)
-                Refuse(folder, error);
-            return {};
-        }
-        return std::move(*entries);
+        auto entries = std::make_unique<RealFolder>(folder);
+        return entries->IsMissing() ? nullptr : std::move(entries);
     }
 
     void Write(const Path& file, std::string_view bytes) override

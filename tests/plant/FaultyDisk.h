@@ -41,10 +41,10 @@ public:
         Check(path);
         return m_disk.Find(path);
     }
-    std::vector<KZFileEntry> List(const plant::Path& folder) override
+    std::unique_ptr<plant::FolderEntries> Open(const plant::Path& folder) override
     {
         Check(folder);
-        return m_disk.List(folder);
+        return m_disk.Open(folder);
     }
     void Write(const plant::Path& file, std::string_view bytes) override { Put(&plant::Disk::Write, file, bytes); }
     void WriteLoosely(const plant::Path& file, std::string_view bytes) override

@@ -23,7 +23,9 @@ public:
     unsigned told = 0;  // the text of the last thing told, 0 for nothing
     std::vector<bool> waits;
     std::function<void()> whileWaiting = [] {};
+    bool willProtect = false;
 
+    bool WillProtect() noexcept override { return willProtect; }
     Answer AskAboutForeignChanges(const std::vector<std::string>& documents) override
     {
         asked.push_back(documents);

@@ -291,7 +291,7 @@ TEST_F(UndoListTest, TakesBackAChangeThatThrows)
 
 TEST_F(UndoListTest, KeepsSoManySteps)
 {
-    m_project->SetProtection(Project::Protection::WhenAsked);
+    m_user.willProtect = true;
     for (std::size_t step = 0; step < UndoList::MostSteps + 10; ++step)
         DoNote(std::to_wstring(step).c_str());
     EXPECT_EQ(m_undo->Count(), UndoList::MostSteps);
@@ -302,7 +302,7 @@ TEST_F(UndoListTest, KeepsSoManySteps)
 
 TEST_F(UndoListTest, KeepsSoManyBytesButNeverFewerThanTheLeastSteps)
 {
-    m_project->SetProtection(Project::Protection::WhenAsked);
+    m_user.willProtect = true;
     constexpr std::size_t large = 2u << 20;
     for (char step = 'a'; step <= 'z'; ++step)
         DoDocument(DeviceText(std::string(large, step)));
@@ -374,10 +374,10 @@ TEST_F(UndoListTest, RefusesEveryChangeOfAReadOnlyProject)
     m_project.reset();
 }
 
-TEST_F(UndoListTest, ProtectsWhenItIsAsked)
+TEST_F(UndoListTest, LeavesItToTheUserToProtect)
 {
     EXPECT_FALSE(m_project->IsReadOnly());
-    m_project->SetProtection(Project::Protection::WhenAsked);
+    m_user.willProtect = true;
     DoNote(L"new");
     EXPECT_TRUE(m_project->IsProtectionDue());
     EXPECT_THAT(FindRecoveries(RealDisk(), m_folder.Path()).refused, IsEmpty());
@@ -388,6 +388,11 @@ TEST_F(UndoListTest, ProtectsWhenItIsAsked)
     m_undo->Undo();
     EXPECT_FALSE(m_project->IsProtectionDue());
     EXPECT_EQ(kztest::FilesIn(m_folder.Path()).size(), 4u) << "there is nothing to protect any more";
+    m_undo->Redo();
+    EXPECT_TRUE(m_project->IsProtectionDue());
+    m_project->Discard();
+    m_project->ProtectIfDue();
+    EXPECT_EQ(kztest::FilesIn(m_folder.Path()).size(), 4u) << "nobody wants it";
 }
 
 }  // namespace

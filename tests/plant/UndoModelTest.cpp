@@ -10,6 +10,7 @@
 #include "KZUtf8.h"
 #include "PlantOfFilters.h"
 #include "ProjectFiles.h"
+#include "ProjectFixture.h"
 #include "Random.h"
 #include "changes/DeviceEdit.h"
 #include "changes/FieldEdit.h"
@@ -35,7 +36,8 @@ protected:
             "<driverId>zep-3</driverId><variables>Feeder 3.AP</variables></selection></selections>\n");
         WriteInformation(m_folder, "zep-1", "<minCurrent>7</minCurrent>");
         Opened();
-        m_project->SetProtection(Project::Protection::WhenAsked);
+        m_user.willProtect = true;
+        m_project->SetUser(&m_user);
         m_undo.emplace(*m_project);
     }
     ~ChangedPlant() override
@@ -48,7 +50,9 @@ protected:
     [[nodiscard]] kztest::Files Shown() const
     {
         kztest::Files files{{"main.xml", KZMainCfg::Get()->Serialize()}};
-        for (const auto& [name, entry] : m_project->FilesShown())
+        DocumentFiles shown = m_project->FilesOnDisk();
+        m_project->AddPending(shown);
+        for (const auto& [name, entry] : shown)
             if (name != MainDocument)
                 files.emplace(name, *m_project->Peek(name));
         return files;
@@ -72,6 +76,7 @@ protected:
     }
 
     bool m_isChanged = false;
+    kztest::ScriptedUser m_user;
     std::optional<UndoList> m_undo;
 };
 
@@ -283,7 +288,7 @@ TEST_P(ScarceMemoryForChanges, LeavesTheProjectOldOrNew)
             m_undo.reset();
             m_project->Discard();
             Opened();
-            m_project->SetProtection(Project::Protection::WhenAsked);
+            m_project->SetUser(&m_user);
             m_undo.emplace(*m_project);
         }
         ASSERT_EQ(Shown(), before) << "allocation " << failing;
