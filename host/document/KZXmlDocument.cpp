@@ -90,7 +90,7 @@ std::string XmlDocument::Serialize() const
     const DocumentSource& source = m_state->source;
     if (!m_state->version.isChanged)
         return source.utf8;
-    const std::string text = ToUtf8(SourceWriter(source, m_state->edit.Replaced()).Write());
+    const std::string text = ToUtf8(SourceWriter(source, m_state->edit).Write());
     return source.HasByteOrderMark() ? "\xEF\xBB\xBF" + text : text;
 }
 

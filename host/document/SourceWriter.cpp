@@ -35,8 +35,8 @@ std::size_t PrefixLength(pugi::xml_node_type type) noexcept
 
 }  // namespace
 
-SourceWriter::SourceWriter(const DocumentSource& source, const ReplacedTexts& replaced)
-    : m_source(source), m_text(FromUtf8(source.Text())), m_replaced(replaced)
+SourceWriter::SourceWriter(const DocumentSource& source, const TreeEdit& edit)
+    : m_source(source), m_text(FromUtf8(source.Text())), m_edit(edit)
 {
     const std::size_t lineEnd = m_text.find(L'\n');
     m_windowsLineEnds = lineEnd != std::wstring::npos && lineEnd > 0 && m_text[lineEnd - 1] == L'\r';
@@ -50,30 +50,38 @@ std::wstring SourceWriter::Write()
     return std::move(m_out);
 }
 
+// Where nothing is new, only its end is of interest, and only where something new follows or the parent ends.
 std::size_t SourceWriter::WriteElement(pugi::xml_node element)
 {
     const StartTag tag = FindStartTag(static_cast<std::size_t>(element.offset_debug()));
     std::size_t end = tag.end;
+    pugi::xml_node unchanged;  // the child that was read before, when its end is not known yet
+    const auto behindIt = [&] {
+        return unchanged ? EndOf(unchanged.type(), static_cast<std::size_t>(unchanged.offset_debug())) : end;
+    };
     bool split = false;
     for (const pugi::xml_node child : element) {
-        const std::ptrdiff_t offset = child.offset_debug();
-        if (const auto old = m_replaced.find(child.internal_object()); old != m_replaced.end()) {
+        if (const auto old = m_edit.Replaced().find(child.internal_object()); old != m_edit.Replaced().end()) {
             end = WriteReplaced(child, old->second);
-        } else if (offset >= 0) {
-            end = child.type() == pugi::node_element ? WriteElement(child)
-                                                     : EndOf(child.type(), static_cast<std::size_t>(offset));
+            unchanged = {};
+        } else if (child.offset_debug() >= 0) {
+            const bool isTouched = child.type() == pugi::node_element && m_edit.IsTouched(child);
+            end = isTouched ? WriteElement(child) : end;
+            unchanged = isTouched ? pugi::xml_node() : child;
         } else if (child.type() == pugi::node_element || *child.value()) {
             if (tag.isWholeElement && !split) {
                 SplitTag(tag.end);
                 split = true;
             }
+            end = behindIt();
+            unchanged = {};
             CopyTo(end);
             WriteNew(child);
         }
     }
     if (split)
         m_out.append(L"</").append(element.name()).append(L">");
-    return tag.isWholeElement ? tag.end : EndBehind(L">", end);
+    return tag.isWholeElement ? tag.end : EndBehind(L">", behindIt());
 }
 
 std::size_t SourceWriter::WriteReplaced(pugi::xml_node node, const ReplacedText& old)

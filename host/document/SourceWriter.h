@@ -9,7 +9,8 @@
 
 class SourceWriter {
 public:
-    SourceWriter(const DocumentSource& source, const ReplacedTexts& replaced);
+    // Both must outlive this object.
+    SourceWriter(const DocumentSource& source, const TreeEdit& edit);
 
     // The document's text, without the byte order mark.
     [[nodiscard]] std::wstring Write();
@@ -35,7 +36,7 @@ private:
     const DocumentSource& m_source;
     const std::wstring m_text;  // in which the tree's nodes have their places
     bool m_windowsLineEnds = false;
-    const ReplacedTexts& m_replaced;
+    const TreeEdit& m_edit;
     std::wstring m_out;
     std::size_t m_copied = 0;
 };

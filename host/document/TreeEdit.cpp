@@ -99,11 +99,18 @@ bool IsElementName(std::wstring_view name)
 
 pugi::xml_node TreeEdit::Add(pugi::xml_node parent, pugi::xml_node_type type, pugi::xml_node before)
 {
+    Touch(parent);
     m_steps.emplace_back();
     const pugi::xml_node node = before ? parent.insert_child_before(type, before) : parent.append_child(type);
     m_steps.back() = {node, parent, node.previous_sibling(), true};
     MustSucceed(!node.empty());
     return node;
+}
+
+void TreeEdit::Touch(pugi::xml_node element)
+{
+    while (element && m_touched.insert(element.internal_object()).second)
+        element = element.parent();
 }
 
 pugi::xml_node TreeEdit::AddText(pugi::xml_node parent, pugi::xml_node before, std::wstring_view text)

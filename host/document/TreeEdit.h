@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 // Texts that took the place of others, and comments that mark where something was taken out, each with the places in
@@ -72,11 +73,15 @@ public:
     }
 
     [[nodiscard]] const ReplacedTexts& Replaced() const noexcept { return m_replaced; }
+    // Whether there was ever something new in an element that was read, or in one inside it. Without, all of it stands
+    // in the source.
+    [[nodiscard]] bool IsTouched(pugi::xml_node element) const { return m_touched.contains(element.internal_object()); }
 
 private:
     pugi::xml_node AddText(pugi::xml_node parent, pugi::xml_node before, std::wstring_view text);
     pugi::xml_node Replace(pugi::xml_node text, std::wstring_view newText);
     void TakeAway(pugi::xml_node node);
+    void Touch(pugi::xml_node element);
     void MakeAttic();
     const void* TakeBack(const TreeStep& step) noexcept;
     void PutBack(const TreeStep& step) noexcept;
@@ -102,4 +107,5 @@ private:
     std::size_t m_kept = 0;  // of the steps, while they are recorded
     bool m_isRecording = false;
     ReplacedTexts m_replaced;
+    std::unordered_set<const void*> m_touched;
 };
