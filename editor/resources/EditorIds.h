@@ -36,6 +36,7 @@
 #define IDC_PREVIOUS_FINDING 1162
 #define IDC_SHOW_FINDING 1163
 #define IDC_FINDINGS_CLOSE 1164
+#define IDC_CANCEL_CHECK 1165
 #define IDC_SHOW_VALUES 1170
 #define IDC_SHOW_VARIABLES 1172
 #define IDC_SHOW_OPTIONS 1173
@@ -230,6 +231,8 @@
 #define IDS_STATUS_CHECKING 2158  // %d: how much of the check is done
 #define IDS_STATUS_FINDINGS 2159
 #define IDS_STATUS_ONE_FINDING 2160
+#define IDS_ASK_SAVE_COUNTED 2161  // %s: the project, %d: changes, %d: devices
+#define IDS_CANCEL_CHECK 2162
 
 // What screen readers call controls that show no text, or a sign; the tool tips of the signs
 #define IDS_NAME_FIND_CLEAR 2180

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <sstream>
 
 #include "KZXmlDocument.h"
 #include "text/EditorText.h"
@@ -38,6 +39,27 @@ int Number(const XmlDocument::XmlNode& node, const wchar_t* name)
     return static_cast<int>(std::wcstol(node.Value(name, L"0"), nullptr, 10));
 }
 
+// A width that somebody could see and drag.
+constexpr int SmallestWidth = 4;
+constexpr int LargestWidth = 4000;
+
+std::vector<int> WidthsIn(const XmlDocument::XmlNode& root, const wchar_t* name)
+{
+    std::vector<int> widths;
+    std::wistringstream text(root.Value(name, L""));
+    for (int width = 0; text >> width;)
+        widths.push_back(std::clamp(width, SmallestWidth, LargestWidth));
+    return widths;
+}
+
+std::wstring WidthsText(const std::vector<int>& widths)
+{
+    std::wstring text;
+    for (const int width : widths)
+        text.append(text.empty() ? L"" : L" ").append(std::to_wstring(width));
+    return text;
+}
+
 std::optional<RECT> PlaceIn(const XmlDocument::XmlNode& root)
 {
     RECT place{};
@@ -54,6 +76,8 @@ EditorSettings SettingsIn(const XmlDocument::XmlNode& root)
     settings.isMaximized = Number(root, L"maximized") != 0;
     settings.listShare = Number(root, L"listShare");
     settings.findingsShare = Number(root, L"findingsShare");
+    settings.deviceColumns = WidthsIn(root, L"deviceColumns");
+    settings.findingColumns = WidthsIn(root, L"findingColumns");
     const std::wstring_view language = root.Value(L"language", L"");
     for (const LanguageName& known : LanguageNames)
         if (language == known.name)
@@ -76,6 +100,8 @@ void Write(const EditorSettings& settings, XmlDocument::XmlNode& root)
     root.SetValue(L"maximized", settings.isMaximized ? 1 : 0);
     root.SetValue(L"listShare", settings.listShare);
     root.SetValue(L"findingsShare", settings.findingsShare);
+    root.SetValue(L"deviceColumns", WidthsText(settings.deviceColumns).c_str());
+    root.SetValue(L"findingColumns", WidthsText(settings.findingColumns).c_str());
     for (const LanguageName& known : LanguageNames)
         if (settings.language == known.language)
             root.SetValue(L"language", known.name);
@@ -91,7 +117,8 @@ bool operator==(const EditorSettings& one, const EditorSettings& other) noexcept
     return one.recent == other.recent && one.lastProject == other.lastProject && one.language == other.language &&
            one.place.has_value() == other.place.has_value() &&
            (!one.place || ::EqualRect(&*one.place, &*other.place)) && one.isMaximized == other.isMaximized &&
-           one.listShare == other.listShare && one.findingsShare == other.findingsShare;
+           one.listShare == other.listShare && one.findingsShare == other.findingsShare &&
+           one.deviceColumns == other.deviceColumns && one.findingColumns == other.findingColumns;
 }
 
 void EditorSettings::Remember(const std::wstring& folder)

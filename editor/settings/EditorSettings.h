@@ -20,6 +20,9 @@ struct EditorSettings {
     bool isMaximized = false;
     int listShare = 0;      // of the window's width, in thousandths; 0: none
     int findingsShare = 0;  // of its height, likewise
+    // Widths of columns in dialog units; none: as they are drawn.
+    std::vector<int> deviceColumns;
+    std::vector<int> findingColumns;
 
     // Puts the project in front; of more than MostRecent the oldest goes.
     void Remember(const std::wstring& folder);

@@ -25,11 +25,33 @@ void ReportList::SetColumns(std::span<const ReportColumn> columns, int stretchin
     }
 }
 
+int ReportList::Pixels(int units) const
+{
+    CRect area(0, 0, units, 0);
+    ::MapDialogRect(GetParent()->m_hWnd, &area);
+    return area.Width();
+}
+
 int ReportList::OwnWidth(int column) const
 {
-    CRect units(0, 0, m_columns[static_cast<std::size_t>(column)].width, 0);
-    ::MapDialogRect(GetParent()->m_hWnd, &units);
-    return units.Width();
+    return Pixels(m_columns[static_cast<std::size_t>(column)].width);
+}
+
+std::vector<int> ReportList::Widths() const
+{
+    constexpr int Many = 1000;
+    std::vector<int> widths;
+    for (int column = 0; column < ColumnCount(); ++column)
+        widths.push_back(::MulDiv(GetColumnWidth(column), Many, Pixels(Many)));
+    return widths;
+}
+
+void ReportList::SetWidths(std::span<const int> widths)
+{
+    if (widths.size() != m_columns.size())
+        return;
+    for (int column = 0; column < ColumnCount(); ++column)
+        SetColumnWidth(column, Pixels(widths[static_cast<std::size_t>(column)]));
 }
 
 void ReportList::FitToTexts(int column)

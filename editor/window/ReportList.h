@@ -4,6 +4,7 @@
 #include <afxcmn.h>
 
 #include <span>
+#include <vector>
 
 #include "CutTextTips.h"
 
@@ -24,6 +25,10 @@ public:
     // the last one, than its texts.
     void FitColumns();
 
+    // The columns' widths as the user has made them, in dialog units; sets them, or none when there are others.
+    [[nodiscard]] std::vector<int> Widths() const;
+    void SetWidths(std::span<const int> widths);
+
 protected:
     // Makes a column as wide as its texts, but no narrower than its own width.
     virtual void FitToTexts(int column);
@@ -31,6 +36,8 @@ protected:
     [[nodiscard]] int ColumnCount() const noexcept { return static_cast<int>(m_columns.size()); }
 
 private:
+    [[nodiscard]] int Pixels(int units) const;
+
     std::span<const ReportColumn> m_columns;
     int m_nStretching = 0;
     CutTextTips m_tips;

@@ -14,7 +14,7 @@ constexpr struct {
     unsigned first, last;
 } Blocks[] = {
     {IDS_NO_HOST_STRING, IDS_CRASH_COPY},
-    {IDS_MENU_FILE, IDS_STATUS_ONE_FINDING},
+    {IDS_MENU_FILE, IDS_CANCEL_CHECK},
     {IDS_LIST_COPY, IDS_REVIEW_OTHER},
 };
 

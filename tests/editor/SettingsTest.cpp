@@ -25,6 +25,8 @@ TEST_F(Settings, AreWhatWasStored)
     file.settings.isMaximized = true;
     file.settings.listShare = 333;
     file.settings.findingsShare = 222;
+    file.settings.deviceColumns = {28, 40};
+    file.settings.findingColumns = {100};
     file.Store();
     EXPECT_EQ(Stored(), file.settings);
     EXPECT_EQ(Stored().lastProject, L"D:\\ñ");
@@ -47,7 +49,9 @@ TEST_F(Settings, KeepTheLastTenProjectsEachOnce)
 
 TEST_F(Settings, ThatAreBrokenAreReplaced)
 {
-    for (const char* broken : {"", "<settings>", "<other/>", "<settings><recent/><recent/><left>x</left></settings>"}) {
+    for (const char* broken :
+         {"", "<settings>", "<other/>",
+          "<settings><recent/><recent/><left>x</left><deviceColumns>x 7</deviceColumns></settings>"}) {
         m_folder.Write("below/settings.xml", broken);
         SettingsFile file(File());
         EXPECT_EQ(file.settings, EditorSettings()) << broken;
@@ -55,6 +59,12 @@ TEST_F(Settings, ThatAreBrokenAreReplaced)
         file.Store();
         EXPECT_EQ(Stored().listShare, 500) << broken;
     }
+}
+
+TEST_F(Settings, KeepColumnsThatCanBeSeenAndDragged)
+{
+    m_folder.Write("below/settings.xml", "<settings><deviceColumns>-7 50 99999999</deviceColumns></settings>");
+    EXPECT_THAT(Stored().deviceColumns, testing::ElementsAre(4, 50, 4000));
 }
 
 TEST_F(Settings, ThatCannotBeStoredHinderNobody)

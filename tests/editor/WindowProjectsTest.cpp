@@ -3,6 +3,7 @@
 
 #include "EditorWindowFixture.h"
 #include "ModalScript.h"
+#include "changes/FieldEdit.h"
 #include "project/ChosenVariables.h"
 #include "project/ProjectFolder.h"
 
@@ -33,6 +34,13 @@ protected:
     [[nodiscard]] plant::VariableList Chosen() const
     {
         return plant::ChosenVariables(*KZMainCfg::Get(), m_window.Project().Devices().front().driverId);
+    }
+    // How many files of unsaved changes there are.
+    [[nodiscard]] long Recoveries() const
+    {
+        const std::filesystem::directory_iterator files(m_copied.Path() / "plant");
+        return std::count_if(begin(files), end(files),
+                             [](const auto& file) { return file.path().extension() == L".kzrecovery"; });
     }
     [[nodiscard]] LRESULT ShownVariables() const { return ::SendMessageW(Control(IDC_CHOSEN), LB_GETCOUNT, 0, 0); }
 };
@@ -134,6 +142,36 @@ TEST_F(WindowProjects, AsksBeforeItLeavesUnsavedChanges)
     EXPECT_EQ(Rows(), 0);
     EXPECT_TRUE(m_window.Open(m_copied.Path() / "plant"));
     EXPECT_EQ(ShownVariables(), 5) << "nothing was saved";
+}
+
+TEST_F(WindowProjects, AsksHowMuchOfDevicesDocumentsIsToBeSavedBeforeItLeaves)
+{
+    const KZBasicString driverId = m_window.Project().Devices().front().driverId;
+    EXPECT_TRUE(m_window.Change({IDS_PLANT_STEP_OPTIONS, {L"TREN1"}}, {driverId}, [&] {
+        plant::FieldEdit edit(m_window.Project());
+        const std::vector<plant::Assignment> values{
+            {plant::FindField(*plant::FieldsOfType(L"ZEP"), "device.minCurrent"), "7"}};
+        edit.Add(0, values);
+        edit.Keep();
+    }));
+    std::wstring asked;
+    {
+        kztest::ModalScript script([&asked] { asked = kztest::AnswerMessageBox(IDCANCEL); });
+        m_window.SendMessage(WM_CLOSE);
+    }
+    EXPECT_EQ(asked, FormatEditorText(IDS_ASK_SAVE_COUNTED, L"plant", 1, 1));
+    EXPECT_TRUE(::IsWindow(m_window.m_hWnd));
+}
+
+TEST_F(WindowProjects, HasEachChangeInTheRecoveryFileWhenItsCommandEnds)
+{
+    Choose({L"TREN1.HZIN"});
+    EXPECT_EQ(Recoveries(), 1);
+    Run(IDC_UNDO);
+    EXPECT_EQ(Recoveries(), 0) << "nothing is unsaved";
+    Run(IDC_REDO);
+    EXPECT_EQ(Recoveries(), 1);
+    EXPECT_FALSE(m_window.Project().IsProtectionDue());
 }
 
 TEST_F(WindowProjects, SpeaksTheOtherLanguageAtOnce)

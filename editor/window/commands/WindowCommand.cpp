@@ -138,6 +138,7 @@ constexpr WindowCommand Commands[] = {
     {MenuName::None, IDC_FORGET_MARKED, 0, {0, VK_DELETE}, IDC_RECENT, Always, Run<&Window::ForgetMarkedRecent>},
     {MenuName::None, IDC_SHOW_FINDING, 0, {0, VK_RETURN}, IDC_FINDINGS, When<&Window::HasFindings>, Run<&Window::ShowMarkedFinding>},
     {MenuName::None, IDC_FINDINGS_CLOSE, 0, {}, 0, When<&Window::ShowsFindings>, Run<&Window::HideFindings>},
+    {MenuName::None, IDC_CANCEL_CHECK, 0, {}, 0, When<&Window::IsChecking>, Run<&Window::CancelCheck>},
     {MenuName::None, IDC_FIND_CLEAR, 0, {}, 0, When<&Window::IsFiltered>, Run<&Window::ClearFind>},
     {MenuName::None, IDC_FIND_DOWN, 0, {0, VK_DOWN}, IDC_FIND, Always, Run<&Window::GoToList>},
     {MenuName::None, IDC_FIND_ENTER, 0, {0, VK_RETURN}, IDC_FIND, Always, Run<&Window::GoToList>},

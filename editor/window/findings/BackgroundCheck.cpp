@@ -48,6 +48,14 @@ bool BackgroundCheck::Work(std::chrono::milliseconds slice)
     }
 }
 
+void BackgroundCheck::Cancel() noexcept
+{
+    m_checker.Cancel();
+    m_isAllDue = false;
+    m_isListDue = false;
+    m_due.clear();
+}
+
 std::optional<int> BackgroundCheck::Percent() const noexcept
 {
     return m_checker.IsWorking() ? std::optional(m_checker.Percent()) : std::nullopt;

@@ -22,6 +22,9 @@ public:
     // finding, and ends the check.
     bool Work(std::chrono::milliseconds slice);
 
+    // Leaves off until the next Restart or change; the findings so far stay.
+    void Cancel() noexcept;
+
     // How much is done of what was begun, 0 to 100; nothing while nothing is under way.
     [[nodiscard]] std::optional<int> Percent() const noexcept;
     // Whether all was looked at since the last change.

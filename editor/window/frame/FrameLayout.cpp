@@ -124,6 +124,16 @@ void FrameLayout::Arrange(CWnd& window) const
     }
     frame.Layout(Area(window));
 
+    CRect status;
+    window.GetDlgItem(IDC_STATUS_BAR)->GetWindowRect(&status);
+    window.ScreenToClient(&status);
+    KZHoritzontalLayout cancel(&window);
+    cancel.AddGap(1);
+    cancel.AddControl(IDC_CANCEL_CHECK, KZSizeNatural);
+    cancel.AddGap(KZLayout::Pixels2Size(::GetSystemMetrics(SM_CXVSCROLL)).cx);
+    status.top += 2;  // the bar's own border
+    cancel.Layout(status);
+
     CRect caption = InsideOfTabs(window);
     caption.bottom = caption.top + Units(window, {0, CaptionHeight}).bottom;
     window.GetDlgItem(IDC_PAGE_CAPTION)->MoveWindow(caption);

@@ -21,7 +21,7 @@ struct ControlText {
 
 constexpr ControlText Captions[] = {
     {IDC_FIND_LABEL, IDS_FIND_LABEL},  {IDC_FIND_CLEAR, IDS_FIND_CLEAR},         {IDC_SELECT, IDS_BUTTON_SELECT},
-    {IDC_OPTIONS, IDS_BUTTON_OPTIONS}, {IDC_FINDINGS_CLOSE, IDS_FINDINGS_CLOSE},
+    {IDC_OPTIONS, IDS_BUTTON_OPTIONS}, {IDC_FINDINGS_CLOSE, IDS_FINDINGS_CLOSE}, {IDC_CANCEL_CHECK, IDS_CANCEL_CHECK},
 };
 
 // What neither a label nor a text of its own names.
@@ -120,6 +120,8 @@ BOOL MainWindow::OnInitDialog()
         m_layout.SetFindingsShare(m_settings.settings.findingsShare);
     m_pageOptions.SetAround([this](const std::function<void()>& command) { RunEmbedded(command); });
     SetTexts();
+    m_lstDevices.SetWidths(m_settings.settings.deviceColumns);
+    m_lstFindings.SetWidths(m_settings.settings.findingColumns);
     m_access.Attach(m_hWnd, {.tabs = m_tab, .nameControls = [this](AccessibleNames& names) { NameControls(names); }});
     Attach();
     return FALSE;  // the focus is where it should be

@@ -90,6 +90,7 @@ public:
     void GoToPreviousFinding();
     void GoToFindings();
     void HideFindings();
+    void CancelCheck();
     void ShowMarkedFinding();
     [[nodiscard]] PageName ShownPage() const noexcept { return m_page; }
     [[nodiscard]] bool CanUndo() const { return m_open && m_open->undo.CanUndo(); }
@@ -103,6 +104,7 @@ public:
     [[nodiscard]] bool IsDirty() const;
     [[nodiscard]] bool IsFiltered() const;
     [[nodiscard]] bool HasFindings() const { return m_open && !m_lstFindings.Findings().empty(); }
+    [[nodiscard]] bool IsChecking() const noexcept { return m_open && m_open->check.Percent().has_value(); }
     [[nodiscard]] bool ShowsFindings() const noexcept { return m_layout.ShowsFindings(); }
 
 protected:
@@ -186,6 +188,7 @@ private:
     void ShowFindings();
     void ShowFindingsPane(bool isShown);
     void ShowFindingsState();
+    void ShowCancel(bool isWorking);
     [[nodiscard]] std::wstring CheckText() const;
     void Show(const plant::Finding& finding);
     void MarkDevice(std::size_t device);
@@ -229,6 +232,7 @@ private:
     bool m_bAllChanged = false;              // of what is to be shown
     std::vector<KZBasicString> m_changed;    // the devices of which it is
     ULONGLONG m_nFindingsShown = 0;          // when, in milliseconds
+    ULONGLONG m_nCheckBegun = 0;             // the same; 0 while nothing is checked
     bool m_bMarksSettling = false;           // a message is under way that shows what is marked
     bool m_bDamageTold = false;              // of what other editors have left
     bool m_bRecoveriesOffered = false;       // all of them

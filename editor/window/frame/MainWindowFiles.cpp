@@ -6,6 +6,7 @@
 
 #include "text/EditorText.h"
 #include "text/PlantMessage.h"
+#include "window/save/SaveQuestion.h"
 
 bool MainWindow::SaveOrSayWhy()
 {
@@ -34,7 +35,11 @@ bool MainWindow::MayClose()
     m_bUnwanted = false;
     if (!IsDirty())
         return true;
-    const std::wstring question = FormatEditorText(IDS_ASK_SAVE, m_open->project.Name().c_str());
+    const wchar_t* const name = m_open->project.Name().c_str();
+    const std::optional<plant::ReviewCount> count = CountToSave(m_open->project);
+    const std::wstring question = count ? FormatEditorText(IDS_ASK_SAVE_COUNTED, name, static_cast<int>(count->lines),
+                                                           static_cast<int>(count->devices))
+                                        : FormatEditorText(IDS_ASK_SAVE, name);
     switch (AfxMessageBox(question.c_str(), MB_YESNOCANCEL | MB_ICONQUESTION)) {
     case IDYES:
         return SaveOrSayWhy();

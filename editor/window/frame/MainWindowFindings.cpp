@@ -23,22 +23,50 @@ void MainWindow::ContinueCheckLater() noexcept
 // A dialog in front of the window may be in the middle of a change.
 void MainWindow::ContinueCheck()
 {
-    constexpr std::chrono::milliseconds Slice{30};
     constexpr ULONGLONG BetweenLooks = 500;
     if (!m_open || !IsWindowEnabled() || !m_open->check.IsDue())
         return;
     // Before the work, so that it goes on when this slice is cut short.
     ContinueCheckLater();
-    const bool isWorking = m_open->check.Work(Slice);
+    const bool isWorking = m_open->check.Work(plant::ProjectChecker::Slice);
+    ShowCancel(isWorking);
     if (!isWorking || ::GetTickCount64() - m_nFindingsShown >= BetweenLooks)
         ShowFindings();
     ShowStatus();
 }
 
+// What takes no longer than half a second nobody could cancel.
+void MainWindow::ShowCancel(bool isWorking)
+{
+    constexpr ULONGLONG Noticed = 500;
+    const ULONGLONG now = ::GetTickCount64();
+    if (!isWorking)
+        m_nCheckBegun = 0;
+    else if (m_nCheckBegun == 0)
+        m_nCheckBegun = now;
+    CWnd* const button = GetDlgItem(IDC_CANCEL_CHECK);
+    const bool isShown = isWorking && now - m_nCheckBegun >= Noticed;
+    if (isShown == (button->IsWindowVisible() != FALSE))
+        return;
+    EnableButton(IDC_CANCEL_CHECK, isShown);
+    button->ShowWindow(isShown ? SW_SHOWNA : SW_HIDE);
+}
+
+void MainWindow::CancelCheck()
+{
+    m_open->check.Cancel();
+    ShowCancel(false);
+    ShowFindings();
+    ShowStatus();
+}
+
 LRESULT MainWindow::OnEnable(WPARAM wParam, LPARAM)
 {
-    if (wParam)
+    if (wParam) {
         ContinueCheckLater();
+        if (!m_bChangesShown)
+            PostMessage(WM_KZ_CHANGES);
+    }
     return Default();
 }
 

@@ -150,6 +150,8 @@ void MainWindow::StorePlace()
     m_settings.settings.place = placement.rcNormalPosition;
     m_settings.settings.listShare = m_layout.ListShare();
     m_settings.settings.findingsShare = m_layout.FindingsShare();
+    m_settings.settings.deviceColumns = m_lstDevices.Widths();
+    m_settings.settings.findingColumns = m_lstFindings.Widths();
     m_settings.Store();
 }
 
@@ -206,8 +208,13 @@ void MainWindow::RunEmbedded(const std::function<void()>& command) noexcept
 
 void MainWindow::GoBack(bool isUndo)
 {
-    const bool isDone = isUndo ? m_open->undo.Undo() : m_open->undo.Redo();
-    ShowChanges();
+    bool isDone = false;
+    {
+        const ProjectQuestions::ProtectionAtEnd protection(m_questions, m_open->project);
+        isDone = isUndo ? m_open->undo.Undo() : m_open->undo.Redo();
+        ShowChanges();
+        ::RedrawWindow(m_hWnd, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
     if (!isDone)
         AfxMessageBox(EditorText(IDS_UNDO_IMPOSSIBLE).c_str(), MB_OK | MB_ICONINFORMATION);
 }
@@ -243,15 +250,15 @@ void MainWindow::OnProjectChanged(const plant::ProjectChange& change) noexcept
     } catch (const std::exception&) {
         m_bAllChanged = true;
     }
-    m_bChangesShown = false;
-    PostMessage(WM_KZ_CHANGES);
+    if (std::exchange(m_bChangesShown, false))
+        PostMessage(WM_KZ_CHANGES);
     ContinueCheckLater();
 }
 
 LRESULT MainWindow::OnChanges(WPARAM, LPARAM)
 {
     // A dialog in front of the window works on a driver; whoever opened it shows what changed.
-    if (IsWindowEnabled() && m_open)
+    if (IsWindowEnabled() && m_open && !m_bChangesShown)
         ShowChanges();
     return 0;
 }

@@ -20,6 +20,27 @@ public:
     // The project that is asked about, or null; not owned.
     void SetProject(const plant::Project* project) noexcept { m_project = project; }
 
+    // While it lives, a change waits for its end to get into the recovery file, so that it can be shown before.
+    class ProtectionAtEnd {
+    public:
+        ProtectionAtEnd(ProjectQuestions& questions, plant::Project& project) noexcept
+            : m_questions(questions), m_project(project)
+        {
+            m_questions.m_willProtect = true;
+        }
+        ~ProtectionAtEnd()
+        {
+            m_questions.m_willProtect = false;
+            m_project.ProtectIfDue();
+        }
+        ProtectionAtEnd(const ProtectionAtEnd&) = delete;
+        ProtectionAtEnd& operator=(const ProtectionAtEnd&) = delete;
+
+    private:
+        ProjectQuestions& m_questions;
+        plant::Project& m_project;
+    };
+    bool WillProtect() noexcept override { return m_willProtect; }
     Answer AskAboutForeignChanges(const std::vector<std::string>& documents) override;
     // The message may come out of the middle of a dialog's work, so the window is told later, and once for each reason.
     void TellUnprotected(const plant::Message& why) noexcept override;
@@ -41,6 +62,7 @@ private:
 
     const CWnd& m_window;
     const plant::Project* m_project = nullptr;
+    bool m_willProtect = false;
     std::wstring m_warning;
     std::optional<WaitCursor> m_waiting;
 };

@@ -15,16 +15,22 @@ bool AskToSave(const plant::ReviewCount& count)
     return AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION) == IDYES;
 }
 
-bool MaySave(plant::Project& project)
+std::optional<plant::ReviewCount> CountToSave(plant::Project& project)
 {
     const auto& changed = project.ChangedDevices();
     if (std::none_of(changed.begin(), changed.end(), [&](const KZBasicString& driverId) {
             return project.IsUnsaved(plant::DeviceDocumentName(driverId));
         }))
-        return true;
+        return std::nullopt;
     try {
-        return AskToSave(plant::CountOf(plant::Review(project)));
+        return plant::CountOf(plant::Review(project));
     } catch (const plant::Refusal&) {
-        return true;
+        return std::nullopt;
     }
+}
+
+bool MaySave(plant::Project& project)
+{
+    const std::optional<plant::ReviewCount> count = CountToSave(project);
+    return !count || AskToSave(*count);
 }
