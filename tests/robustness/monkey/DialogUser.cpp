@@ -20,6 +20,8 @@ constexpr const wchar_t* Texts[] = {L"",       L"0",        L"1",          L"5",
 constexpr WORD Keys[] = {VK_TAB,  VK_TAB, VK_SPACE,  VK_SPACE, VK_SPACE, VK_DOWN, VK_UP, VK_LEFT, VK_RIGHT,
                          VK_HOME, VK_END, VK_DELETE, VK_BACK,  VK_PRIOR, VK_NEXT, VK_F1, L'A'};
 
+constexpr WORD ListKeys[] = {VK_DOWN, VK_DOWN, VK_UP, VK_SPACE, VK_SPACE, VK_HOME, VK_END};
+
 constexpr LPARAM Pressed = 1;
 constexpr LPARAM Released = 0xC0000001;
 
@@ -118,6 +120,11 @@ HWND DialogUser::UseControl(HWND control)
         m_log.Add("choose from a list", id);
         ::PostMessageW(control, WM_SETFOCUS, 0, 0);
         Type(control, m_random.OneIn(2) ? VK_DOWN : VK_UP);
+    } else if (IsOfClass(control, WC_LISTVIEWW)) {
+        const WORD key = m_random.Pick(ListKeys);
+        m_log.Add("key in a list", id, key);
+        ::PostMessageW(control, WM_SETFOCUS, 0, 0);
+        Type(control, key);
     } else {
         m_log.Add("click beside the controls", id);
         ::PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, 1));
