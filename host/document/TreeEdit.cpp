@@ -107,10 +107,13 @@ pugi::xml_node TreeEdit::Add(pugi::xml_node parent, pugi::xml_node_type type, pu
     return node;
 }
 
+// The outermost first: when memory runs out, one that is known has only known ones around it.
 void TreeEdit::Touch(pugi::xml_node element)
 {
-    while (element && m_touched.insert(element.internal_object()).second)
-        element = element.parent();
+    if (!element || IsTouched(element))
+        return;
+    Touch(element.parent());
+    m_touched.insert(element.internal_object());
 }
 
 pugi::xml_node TreeEdit::AddText(pugi::xml_node parent, pugi::xml_node before, std::wstring_view text)
