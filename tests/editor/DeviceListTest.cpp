@@ -202,4 +202,25 @@ TEST_F(ManyDevices, AreCheckedInSlicesWithTheShareThatIsDone)
     EXPECT_EQ(Cell(Many - 1, 0), L"  ! ");
 }
 
+TEST_F(ManyDevices, CanBeLeftUncheckedOnceTheCheckIsNoticed)
+{
+    const HWND cancel = ::GetDlgItem(m_window->m_hWnd, IDC_CANCEL_CHECK);
+    EXPECT_FALSE(::IsWindowVisible(cancel));
+    m_window->SendMessage(WM_COMMAND, IDC_CHECK);
+    // It begins anew until it has lasted long enough, however quick the machine is.
+    ASSERT_TRUE(kztest::WaitUntil([&] {
+        kztest::DispatchPending();
+        if (m_window->IsChecking() && !::IsWindowVisible(cancel))
+            m_window->SendMessage(WM_COMMAND, IDC_CHECK);
+        return ::IsWindowVisible(cancel) != FALSE;
+    }));
+    EXPECT_TRUE(::IsWindowEnabled(cancel));
+    ::SendMessageW(cancel, BM_CLICK, 0, 0);
+    EXPECT_FALSE(m_window->IsChecking());
+    EXPECT_FALSE(::IsWindowVisible(cancel));
+    EXPECT_LT(ListView_GetItemCount(kztest::ControlIn(m_window->m_hWnd, IDC_FINDINGS)), Many);
+    kztest::DispatchPending();
+    EXPECT_FALSE(m_window->IsChecking()) << "nothing has changed";
+}
+
 }  // namespace

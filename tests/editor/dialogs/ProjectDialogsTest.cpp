@@ -71,6 +71,37 @@ TEST_F(ProjectFolderDialogTest, SaysWhatIsRefusedAndStays)
               IDCANCEL);
 }
 
+TEST_F(ProjectFolderDialogTest, TakesAFolderOutOfTheSystemsDialogOrLeavesWhatWasTyped)
+{
+    const kztest::TemporaryFolder folder;
+    std::filesystem::create_directory(folder.Path() / "chosen");
+    for (const FolderPurpose purpose : {FolderPurpose::Open, FolderPurpose::New, FolderPurpose::Copy}) {
+        ProjectFolderDialog dialog(nullptr, purpose, {}, Judge);
+        EXPECT_EQ(Run(dialog,
+                      [&](HWND window) {
+                          const std::wstring typed = (folder.Path() / "typed").wstring();
+                          const std::wstring chosen = (folder.Path() / "chosen").wstring();
+                          kztest::SetText(window, IDC_FOLDER_PATH, typed);
+                          kztest::PostClick(window, IDC_FOLDER_BROWSE);
+                          HWND browser = kztest::WaitForDialog({window});
+                          kztest::PostClick(browser, IDCANCEL);
+                          kztest::WaitUntilGone(browser);
+                          EXPECT_EQ(kztest::TextOf(window, IDC_FOLDER_PATH), typed);
+                          kztest::PostClick(window, IDC_FOLDER_BROWSE);
+                          browser = kztest::WaitForDialog({window});
+                          constexpr int folderName = 0x480;  // edt1 of the system's dialog
+                          ::SetWindowTextW(kztest::ControlIn(browser, folderName), chosen.c_str());
+                          kztest::PostClick(browser, IDOK);
+                          kztest::WaitUntilGone(browser);
+                          EXPECT_TRUE(
+                              kztest::WaitUntil([&] { return kztest::TextOf(window, IDC_FOLDER_PATH) == chosen; }));
+                          kztest::Click(window, IDOK);
+                      }),
+                  IDOK);
+        EXPECT_EQ(dialog.Folder(), folder.Path() / "chosen");
+    }
+}
+
 TEST_F(ProjectFolderDialogTest, TakesARecentProjectByTheKeyboard)
 {
     ProjectFolderDialog dialog(nullptr, FolderPurpose::Open, m_recent, Judge);

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "Endurance.h"
 #include "TestApp.h"
 
 namespace {
@@ -73,12 +74,14 @@ void EventLog::DescribeCurrent() noexcept
         std::fprintf(stderr, "%s\n", s_current->Describe().c_str());
 }
 
+// A long run has other work beside it, and may have to give way to it.
 void EventLog::Watch() noexcept
 {
     constexpr DWORD Interval = 100;  // milliseconds
+    const long hangMilliseconds = endurance::IsLong() ? 60'000 : 5'000;
     while (!m_ended) {
         ::Sleep(Interval);
-        if (Now() - m_since < HangMilliseconds)
+        if (Now() - m_since < hangMilliseconds)
             continue;
         char what[80];
         std::snprintf(what, sizeof what, "hang: an event has taken %ld ms", Now() - m_since);

@@ -32,7 +32,6 @@ public:
 
 private:
     static constexpr std::size_t Remembered = 40;
-    static constexpr long HangMilliseconds = 5000;
     struct Event {
         char what[80];
         int control;

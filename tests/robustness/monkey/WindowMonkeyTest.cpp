@@ -9,7 +9,7 @@ namespace {
 TEST(RandomUser, FindsTheMainWindowShowingWhatTheModelHas)
 {
     constexpr long allTheWay = 200;  // actions between two walks over all steps
-    const long events = endurance::Rounds(1'000, 500'000);
+    const long events = endurance::Rounds(600, 500'000);
     const std::uint64_t seed = endurance::Seed();
     EventLog log(seed);
     WindowUser user(seed, log);
