@@ -231,7 +231,7 @@
 #define IDS_STATUS_CHECKING 2158  // %d: how much of the check is done
 #define IDS_STATUS_FINDINGS 2159
 #define IDS_STATUS_ONE_FINDING 2160
-#define IDS_ASK_SAVE_COUNTED 2161  // %s: the project, %d: changes, %d: devices
+#define IDS_ASK_SAVE_COUNTED 2161  // %s %d %d: the project, the changes, the devices
 #define IDS_CANCEL_CHECK 2162
 
 // What screen readers call controls that show no text, or a sign; the tool tips of the signs
