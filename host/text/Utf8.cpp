@@ -49,6 +49,18 @@ Decoded DecodeOne(std::string_view bytes) noexcept
     return {character, length};
 }
 
+// Appends what is ASCII at the start, which is nearly all of a document, and returns how much that is. Character by
+// character, reading one takes several times as long.
+std::size_t AppendAscii(std::wstring& text, std::string_view bytes)
+{
+    const auto other =
+        std::find_if(bytes.begin(), bytes.end(), [](char unit) { return static_cast<unsigned char>(unit) >= 0x80; });
+    const auto length = static_cast<std::size_t>(other - bytes.begin());
+    text.resize(text.size() + length);
+    std::copy(bytes.begin(), other, text.end() - static_cast<std::ptrdiff_t>(length));
+    return length;
+}
+
 void AppendWide(std::wstring& text, char32_t character)
 {
     if constexpr (sizeof(wchar_t) == 2) {
@@ -101,6 +113,9 @@ std::size_t DecodeUtf8(std::string_view bytes, std::wstring& text)
     text.reserve(bytes.size());
     std::size_t done = 0;
     while (done < bytes.size()) {
+        done += AppendAscii(text, bytes.substr(done));
+        if (done == bytes.size())
+            break;
         const Decoded decoded = DecodeOne(bytes.substr(done));
         if (decoded.length == 0)
             break;
@@ -134,6 +149,9 @@ std::wstring FromUtf8(std::string_view bytes)
     std::wstring text;
     text.reserve(bytes.size());
     while (!bytes.empty()) {
+        bytes.remove_prefix(AppendAscii(text, bytes));
+        if (bytes.empty())
+            break;
         const Decoded decoded = DecodeOne(bytes);
         AppendWide(text, decoded.length ? decoded.character : Replacement);
         bytes.remove_prefix(std::max<std::size_t>(decoded.length, 1));
