@@ -10,7 +10,7 @@ message_title='=KZEditor'
 # "to N", the following controls of the row or block have the following numbers. Windows names the buttons of messages.
 IDOK=1 IDCANCEL=2 IDYES=6 IDNO=7 IDC_MESSAGE_TEXT=65535
 roads_ids=$(sed -nE 's/^#define ((KZ_)?IDC_[A-Z0-9_]+) +([0-9]+).*/\1=\3/p' \
-  "$root"/editor/resources/EditorIds.h "$root"/host/dialogs/*Ids.h "$root"/module/*/*Controls.h)
+  "$root"/editor/resources/EditorIds.h "$root"/editor/window/*/*Controls.h "$root"/host/dialogs/*Ids.h "$root"/module/*/*Controls.h)
 eval "$roads_ids"
 
 open_editor() {

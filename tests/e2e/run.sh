@@ -17,6 +17,7 @@ desktop_probe=$build/tools/WindowProbe.exe
 . "$root/tests/e2e/limits.sh"
 . "$root/tests/e2e/project.sh"
 . "$root/tests/e2e/window.sh"
+. "$root/tests/e2e/plant.sh"
 
 project=$desktop_folder/plant
 pictures=$build/e2e/$test.$language
