@@ -87,6 +87,10 @@ CutTextTips::Cell CutTextTips::CellAt(POINT point) const noexcept
         LVHITTESTINFO hit{};
         hit.pt = point;
         ::SendMessageW(m_list, LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+        // There the list has tips of its own.
+        const LRESULT style = ::SendMessageW(m_list, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
+        if (hit.iSubItem == 0 && (style & LVS_EX_INFOTIP) != 0)
+            return {};
         return {hit.iItem, hit.iSubItem};
     }
     const LRESULT row = ::SendMessageW(m_list, LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y));

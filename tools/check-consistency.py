@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Proves what no compiler checks: check-consistency.py CHECK [BUILD_FOLDER]
 
-  guidelines controls keep the distances of the platform's guidelines, captions have the access keys that they should
+  guidelines controls keep the distances of the platform's guidelines, captions their access keys, labels their colons,
+             numbers stand at the right
   includes   every file includes only what its folder may know; rules and records include no window header
   controls   every control id of the templates is used in code, every id that is defined is in a template or in code
   dialogs    every dialog template has a test that looks at its window

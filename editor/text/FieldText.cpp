@@ -74,14 +74,20 @@ std::wstring FieldCaption(const plant::Field& field)
     return caption;
 }
 
-std::wstring FindingPlace(const plant::Finding& finding)
+const plant::Field* FindingField(const plant::Finding& finding)
 {
     for (const DeviceType& type : DeviceTypes()) {
         const plant::FieldTable* const table = plant::FieldsOfType(type.name);
         if (const plant::Field* const field = table ? plant::FindField(*table, finding.place) : nullptr)
-            return FieldCaption(*field);
+            return field;
     }
-    return FromUtf8(finding.place);
+    return nullptr;
+}
+
+std::wstring FindingPlace(const plant::Finding& finding)
+{
+    const plant::Field* const field = FindingField(finding);
+    return field ? FieldCaption(*field) : FromUtf8(finding.place);
 }
 
 std::wstring FieldValueText(const plant::Field& field, const std::string& value)

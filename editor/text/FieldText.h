@@ -9,6 +9,9 @@
 // "Harmonic 5, Network, Warning"
 [[nodiscard]] std::wstring FieldCaption(const plant::Field& field);
 
+// The field that a finding is about; null when it is about something else.
+[[nodiscard]] const plant::Field* FindingField(const plant::Finding& finding);
+
 // Where a finding is, in words: the caption of a field, or the name of a document.
 [[nodiscard]] std::wstring FindingPlace(const plant::Finding& finding);
 

@@ -4,6 +4,21 @@
 
 #include "text/EditorText.h"
 
+BEGIN_MESSAGE_MAP(ReportList, CListCtrl)
+    ON_MESSAGE(WM_SYSCOLORCHANGE, &ReportList::OnColours)
+END_MESSAGE_MAP()
+
+// A list keeps the colours that it was made with.
+LRESULT ReportList::OnColours(WPARAM, LPARAM)
+{
+    const LRESULT result = Default();
+    const auto window = static_cast<LPARAM>(::GetSysColor(COLOR_WINDOW));
+    SendMessage(LVM_SETBKCOLOR, 0, window);
+    SendMessage(LVM_SETTEXTBKCOLOR, 0, window);
+    SendMessage(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(::GetSysColor(COLOR_WINDOWTEXT)));
+    return result;
+}
+
 void ReportList::SetColumns(std::span<const ReportColumn> columns, int stretching)
 {
     const bool isNew = m_columns.empty();
@@ -11,11 +26,15 @@ void ReportList::SetColumns(std::span<const ReportColumn> columns, int stretchin
     m_nStretching = stretching;
     SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
     m_tips.Attach(m_hWnd);
+    // The system aligns the first column to the left, but leaves alone what becomes the first one later.
+    const int before = isNew && columns.front().format != LVCFMT_LEFT ? 1 : 0;
+    if (before != 0)
+        InsertColumn(0, L"");
     for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
         const ReportColumn& drawn = columns[static_cast<std::size_t>(column)];
         std::wstring caption = EditorText(drawn.caption);
         if (isNew) {
-            InsertColumn(column, caption.c_str(), drawn.format, OwnWidth(column));
+            InsertColumn(before + column, caption.c_str(), drawn.format, OwnWidth(column));
             continue;
         }
         LVCOLUMNW changed{};
@@ -23,6 +42,8 @@ void ReportList::SetColumns(std::span<const ReportColumn> columns, int stretchin
         changed.pszText = caption.data();
         SendMessage(LVM_SETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&changed));
     }
+    if (before != 0)
+        SendMessage(LVM_DELETECOLUMN, 0);
 }
 
 int ReportList::Pixels(int units) const

@@ -30,6 +30,10 @@ public:
     void SetWidths(std::span<const int> widths);
 
 protected:
+    afx_msg LRESULT OnColours(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
+
     // Makes a column as wide as its texts, but no narrower than its own width.
     virtual void FitToTexts(int column);
     [[nodiscard]] int OwnWidth(int column) const;

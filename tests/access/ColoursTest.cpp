@@ -4,6 +4,7 @@
 #include "LimitsControls.h"
 #include "PictureMark.h"
 #include "SelectVarControls.h"
+#include "SystemColour.h"
 
 namespace {
 
@@ -12,24 +13,6 @@ struct TabbedCase {
     int tabs;
     UINT message;  // that tells of the change
     const char* name;
-};
-
-// The colour as this thread's dialogs see it. Windows' own notice goes to all windows; here it is sent by hand.
-class ButtonColour {
-public:
-    explicit ButtonColour(COLORREF colour) : m_before(::GetSysColor(COLOR_BTNFACE)) { Set(colour); }
-    ~ButtonColour() { Set(m_before); }
-    ButtonColour(const ButtonColour&) = delete;
-    ButtonColour& operator=(const ButtonColour&) = delete;
-
-private:
-    static void Set(COLORREF colour)
-    {
-        const int index = COLOR_BTNFACE;
-        ::SetSysColors(1, &index, &colour);
-    }
-
-    COLORREF m_before;
 };
 
 class Colours : public testing::TestWithParam<TabbedCase> {
@@ -55,13 +38,13 @@ TEST_P(Colours, OfTheTabsPicturesFollowTheSystems)
     std::vector<std::string> before;
     m_user.Use(GetParam().dialog, [&](HWND dialog) {
         before = Marks(dialog);
-        const ButtonColour dark(RGB(20, 0, 40));
+        const kztest::SystemColour dark(COLOR_BTNFACE, RGB(20, 0, 40));
         ::SendMessageW(dialog, GetParam().message, 0, 0);
         followed = Marks(dialog);
         EXPECT_NE(followed, before);
         EXPECT_EQ(::ImageList_GetImageCount(Pictures(dialog)), 3);
     });
-    const ButtonColour dark(RGB(20, 0, 40));
+    const kztest::SystemColour dark(COLOR_BTNFACE, RGB(20, 0, 40));
     m_user.Use(GetParam().dialog, [&](HWND dialog) { EXPECT_EQ(Marks(dialog), followed) << "as if opened now"; });
 }
 

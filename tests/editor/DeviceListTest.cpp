@@ -14,14 +14,20 @@ class WatchedWindow : public MainWindow {
 public:
     using MainWindow::MainWindow;
     std::set<int> asked;
+    std::wstring firstSigns;  // the last answer
 
 protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override
     {
         const auto* const header = reinterpret_cast<const NMHDR*>(lParam);
-        if (header->idFrom == IDC_DEVICES && header->code == LVN_GETDISPINFOW)
-            asked.insert(reinterpret_cast<const NMLVDISPINFOW*>(lParam)->item.iItem);
-        return MainWindow::OnNotify(wParam, lParam, result);
+        const BOOL isHandled = MainWindow::OnNotify(wParam, lParam, result);
+        if (header->idFrom == IDC_DEVICES && header->code == LVN_GETDISPINFOW) {
+            const LVITEMW& item = reinterpret_cast<const NMLVDISPINFOW*>(lParam)->item;
+            asked.insert(item.iItem);
+            if ((item.mask & LVIF_TEXT) != 0 && item.iItem == 0 && item.iSubItem == 0)
+                firstSigns = item.pszText;
+        }
+        return isHandled;
     }
 };
 
@@ -129,6 +135,14 @@ TEST_F(ManyDevices, AreLeftForNoneOnlyWhenNoneIsSelected)
     EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(m_window->m_hWnd, IDC_SELECT)));
 }
 
+TEST_F(ManyDevices, ShowSignsAndTellThemInWords)
+{
+    m_window->SendMessage(WM_COMMAND, IDC_CHECK);
+    ::RedrawWindow(List(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_EQ(m_window->firstSigns, L"> ! ");
+    EXPECT_EQ(Cell(0, 0), L"marked, with findings");
+}
+
 TEST_F(ManyDevices, AreFoundByTypingTheirNumber)
 {
     for (const wchar_t digit : {L'1', L'2', L'3', L'4'})
@@ -199,7 +213,7 @@ TEST_F(ManyDevices, AreCheckedInSlicesWithTheShareThatIsDone)
         kztest::DispatchPending();
         return status() == L"2000 findings";
     })) << "no device has its document";
-    EXPECT_EQ(Cell(Many - 1, 0), L"  ! ");
+    EXPECT_EQ(Cell(Many - 1, 0), L"with findings");
 }
 
 TEST_F(ManyDevices, CanBeLeftUncheckedOnceTheCheckIsNoticed)

@@ -5,6 +5,7 @@
 
 #include "Controls.h"
 #include "EditorWindowFixture.h"
+#include "HeldKeys.h"
 #include "ListCells.h"
 #include "ModalScript.h"
 #include "ProjectXml.h"
@@ -63,6 +64,12 @@ protected:
         const wchar_t* const counted = IsSpanish() ? L"hallazgo" : L"finding";
         ASSERT_TRUE(DispatchUntil([=, this] { return Status().find(counted) != std::wstring::npos; }));
     }
+    void PressAltEnter(int control)
+    {
+        const kztest::HeldKeys held({VK_MENU});
+        const MSG enter{Control(control), WM_SYSKEYDOWN, VK_RETURN, 1, 0, {}};
+        EXPECT_TRUE(m_window.TranslateKey(enter));
+    }
     // The window is in this thread, and so is its check.
     [[nodiscard]] static bool DispatchUntil(const std::function<bool()>& condition)
     {
@@ -107,12 +114,12 @@ TEST_P(FindingsPane, ListsSignsAndCountsWhatTheCheckFinds)
     EXPECT_EQ(CellOf(list, 0, 1), FieldCaption(m_field));
     EXPECT_NE(CellOf(list, 0, 2), L"");
     EXPECT_EQ(Status(), IsSpanish() ? L"1 hallazgo" : L"1 finding");
-    EXPECT_EQ(CellOf(Control(IDC_DEVICES), 0, 0), L">   ");
-    EXPECT_EQ(CellOf(Control(IDC_DEVICES), 1, 0), L"  ! ");
+    EXPECT_EQ(CellOf(Control(IDC_DEVICES), 0, 0), IsSpanish() ? L"marcado" : L"marked");
+    EXPECT_EQ(CellOf(Control(IDC_DEVICES), 1, 0), IsSpanish() ? L"con avisos" : L"with findings");
     MendMinCurrent();
     CheckAll();
     ASSERT_TRUE(DispatchUntil([this] { return Count() == 0; }));
-    EXPECT_EQ(CellOf(Control(IDC_DEVICES), 1, 0), L"    ");
+    EXPECT_EQ(CellOf(Control(IDC_DEVICES), 1, 0), L"");
     EXPECT_FALSE(IsOffered(IDC_NEXT_FINDING));
 }
 
@@ -154,6 +161,26 @@ TEST_P(FindingsPane, LeadsToTheValueOnItsPage)
     EXPECT_TRUE(m_window.TranslateKey(enter));
     EXPECT_EQ(Marked(IDC_DEVICES), 1);
     EXPECT_EQ(::GetFocus(), Control(IDC_VALUES));
+}
+
+TEST_P(FindingsPane, LeadsToTheSectionOfTheOptions)
+{
+    BreakMinCurrent();
+    CheckAll();
+    Run(IDC_SHOW_FINDINGS);
+    Run(IDC_NEXT_FINDING);
+    std::wstring title;
+    kztest::ModalScript script([&] {
+        const HWND dialog = kztest::WaitForDialog({m_window.m_hWnd});
+        title = kztest::TextOf(dialog);
+        kztest::PostClick(dialog, IDCANCEL);
+        kztest::WaitUntilGone(dialog);
+    });
+    PressAltEnter(IDC_FINDINGS);
+    EXPECT_TRUE(DispatchUntil([&] { return !title.empty() && m_window.IsWindowEnabled(); }));
+    EXPECT_TRUE(title.starts_with(IsSpanish() ? L"Configuración del equipo" : L"Device settings"));
+    EXPECT_EQ(Marked(IDC_DEVICES), 1);
+    EXPECT_EQ(m_window.ShownPage(), PageName::Options);
 }
 
 TEST_P(FindingsPane, IsWalkedByNextAndPrevious)

@@ -1,12 +1,17 @@
 // The main window for those who see, hear or point otherwise: names, access keys, tool tips, small screens.
+#include "ClipboardText.h"
 #include "EditorWindowFixture.h"
 #include "FakeAccessibility.h"
-#include "ListCells.h"
+#include "HeldKeys.h"
+#include "KZDlgOptions.h"
+#include "ModalScript.h"
 #include "ParameterNames.h"
 #include "PlatformNames.h"
 #include "ShownParts.h"
+#include "SystemColour.h"
 #include "ToolTips.h"
 #include "WorkArea.h"
+#include "changes/DeviceEdit.h"
 
 namespace {
 
@@ -94,6 +99,84 @@ TEST_P(MainWindowAccess, ShowsTheWholeTextOfACutCell)
     ::SendMessageW(list, WM_MOUSEMOVE, 0, MAKELPARAM(cell.left + 3, cell.top + 3));
     const auto tips = kztest::TextsOfAllTips(m_window.m_hWnd);
     EXPECT_EQ(std::count(tips.begin(), tips.end(), m_project.Devices().front().name.c_str()), 1);
+}
+
+TEST_P(MainWindowAccess, CopiesTheMarkedDevices)
+{
+    m_window.SendMessage(WM_COMMAND, IDC_MARK_ALL);
+    ListView_SetItemState(Control(IDC_DEVICES), 1, 0, LVIS_SELECTED);
+    {
+        const kztest::HeldKeys held({VK_CONTROL});
+        ::SendMessageW(Control(IDC_DEVICES), WM_KEYDOWN, 'C', 1);
+    }
+    const std::wstring copied = editor_tests::ClipboardText();
+    EXPECT_EQ(std::count(copied.begin(), copied.end(), L'\n'), static_cast<int>(m_project.Devices().size()) - 1);
+    EXPECT_NE(copied.find(m_project.Devices()[0].name.c_str()), std::wstring::npos);
+    EXPECT_EQ(copied.find(m_project.Devices()[1].name.c_str()), std::wstring::npos);
+    EXPECT_TRUE(copied.starts_with(GetParam() == KZLanguage::English ? L"marked\t1\t" : L"marcado\t1\t"));
+}
+
+TEST_P(MainWindowAccess, OpensTheOptionsByAltAndEnter)
+{
+    std::wstring title;
+    kztest::ModalScript script([&] {
+        const HWND hub = kztest::WaitForDialog({m_window.m_hWnd});
+        title = kztest::TextOf(hub);
+        kztest::PostClick(hub, IDCANCEL);
+    });
+    const kztest::HeldKeys held({VK_MENU});
+    const MSG enter{Control(IDC_DEVICES), WM_SYSKEYDOWN, VK_RETURN, 1, 0, {}};
+    EXPECT_TRUE(m_window.TranslateKey(enter));
+    EXPECT_NE(title.find(m_project.Devices()[0].name.c_str()), std::wstring::npos);
+}
+
+TEST_P(MainWindowAccess, ShowsNamesWithAnAmpersandInItsMenus)
+{
+    const std::vector<KZBasicString> driverIds{m_project.Devices()[0].driverId};
+    plant::DeviceNaming naming = plant::NamingOf(m_project.Devices()[0]);
+    naming.name = L"A&B";
+    EXPECT_TRUE(m_window.Change({IDS_PLANT_STEP_RENAME, {L"A&B"}}, driverIds,
+                                [&] { plant::RenameDevice(m_project, 0, naming); }));
+    EXPECT_TRUE(m_window.UndoCaption().ends_with(L"A&&B"));
+    m_window.Undo();
+    EXPECT_TRUE(m_window.RedoCaption().ends_with(L"A&&B"));
+}
+
+TEST_P(MainWindowAccess, FollowsNewColours)
+{
+    m_window.ShowPage(PageName::Options);
+    const HWND before = EmbeddedIn(Control(IDC_PANE));
+    ::SetFocus(::GetDlgItem(before, KZSectionButtonBase + KZSectionUnits));
+    const kztest::SystemColour dark(COLOR_WINDOW, RGB(20, 0, 40));
+    m_window.SendMessage(WM_SYSCOLORCHANGE);
+    for (const int list : {IDC_DEVICES, IDC_VALUES, IDC_FINDINGS})
+        EXPECT_EQ(ListView_GetBkColor(Control(list)), RGB(20, 0, 40)) << list;
+    ASSERT_TRUE(kztest::WaitUntil([&] {
+        kztest::DispatchPending();
+        return !::IsWindow(before);
+    }));
+    const HWND after = EmbeddedIn(Control(IDC_PANE));
+    EXPECT_EQ(::GetFocus(), ::GetDlgItem(after, KZSectionButtonBase + KZSectionUnits));
+    const auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
+        after, WM_CTLCOLORDLG, reinterpret_cast<WPARAM>(::GetDC(after)), reinterpret_cast<LPARAM>(after)));
+    LOGBRUSH background{};
+    ASSERT_NE(::GetObjectW(brush, sizeof background, &background), 0);
+    EXPECT_EQ(background.lbColor, RGB(20, 0, 40));
+}
+
+// The embedded dialog may be in the middle of a command.
+TEST_P(MainWindowAccess, MakesTheEmbeddedDialogAnewOnlyWhenNothingIsOpenInFront)
+{
+    m_window.ShowPage(PageName::Options);
+    const HWND before = EmbeddedIn(Control(IDC_PANE));
+    const auto turn = [this] { ::SendMessageW(Control(IDC_PANE), WM_TIMER, 1, 0); };
+    m_window.EnableWindow(FALSE);
+    m_window.SendMessage(WM_SYSCOLORCHANGE);
+    turn();
+    EXPECT_EQ(EmbeddedIn(Control(IDC_PANE)), before);
+    m_window.EnableWindow(TRUE);
+    turn();
+    EXPECT_FALSE(::IsWindow(before));
 }
 
 TEST_P(MainWindowAccess, ShrinksToASmallerScreen)

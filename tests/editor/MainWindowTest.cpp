@@ -17,13 +17,13 @@ TEST_F(MainWindowTest, ListsTheDevicesWithWhatIsToBeSaidOfThem)
     Open();
     const HWND list = Control(IDC_DEVICES);
     ASSERT_TRUE(WaitUntil([&] { return ::SendMessageW(list, LVM_GETITEMCOUNT, 0, 0) == 3; }));
-    EXPECT_EQ(ListCell(*m_editor, list, 0, 0), L">   ");
+    EXPECT_EQ(ListCell(*m_editor, list, 0, 0), L"marked");
     EXPECT_EQ(ListCell(*m_editor, list, 0, 1), L"1");
     EXPECT_EQ(ListCell(*m_editor, list, 0, 2), L"GRÚA.1");
     EXPECT_EQ(ListCell(*m_editor, list, 0, 3), L"Filtro de prueba, línea ñ");
     EXPECT_EQ(ListCell(*m_editor, list, 0, 4), L"0");
     EXPECT_FALSE(ListCell(*m_editor, list, 0, 5).empty());
-    EXPECT_EQ(ListCell(*m_editor, list, 2, 0), L"   #") << "it has no module";
+    EXPECT_EQ(ListCell(*m_editor, list, 2, 0), L"no module");
     EXPECT_EQ(ListCell(*m_editor, list, 2, 2), L"OTHER");
     EXPECT_EQ(ListCell(*m_editor, list, 2, 5), L"XYZ");
     ExpectTitle(CleanTitle);

@@ -4,6 +4,7 @@
 #include "EditorWindowFixture.h"
 #include "ModalScript.h"
 #include "ParameterNames.h"
+#include "PlatformNames.h"
 #include "crash/CrashDialog.h"
 #include "modules/DeviceType.h"
 #include "project/ChosenVariables.h"
@@ -105,6 +106,8 @@ TEST_P(CrashDialogLook, IsTidy)
     kztest::ModalScript script([] {
         const HWND dialog = kztest::WaitForDialog();
         EXPECT_NE(::GetDlgItem(dialog, IDC_CRASH_REPORT), nullptr);
+        EXPECT_EQ(kztest::ExpectNamesOfTheirOwn(dialog, {}), 3);
+        EXPECT_EQ(kztest::ExpectAccessKeysOfTheirOwn(dialog), L"C");
         kztest::ExpectNothingClippedOrOverlapping(dialog);
         ::PostMessageW(dialog, WM_CLOSE, 0, 0);
     });

@@ -83,18 +83,18 @@ TEST_F(WindowProjects, UndoesAndRedoesWhatWasChangedAndSaysWhat)
 TEST_F(WindowProjects, SignsTheChangedDeviceAndCountsIt)
 {
     const auto signs = [this] {
-        std::array<wchar_t, 16> text{};
+        std::array<wchar_t, 64> text{};
         ListView_GetItemText(Control(IDC_DEVICES), 0, 0, text.data(), static_cast<int>(text.size()));
         return std::wstring(text.data());
     };
-    EXPECT_EQ(signs(), L">   ");
+    EXPECT_EQ(signs(), L"marked");
     Choose({L"TREN1.HZIN"});
-    EXPECT_EQ(signs(), L">*  ");
+    EXPECT_EQ(signs(), L"marked, changed");
     std::array<wchar_t, 64> part{};
     ::SendMessageW(Control(IDC_STATUS_BAR), SB_GETTEXTW, 2, reinterpret_cast<LPARAM>(part.data()));
     EXPECT_STREQ(part.data(), L"1 device changed");
     Run(IDC_UNDO);
-    EXPECT_EQ(signs(), L">   ");
+    EXPECT_EQ(signs(), L"marked");
 }
 
 TEST_F(WindowProjects, OpensAnotherProjectInPlaceOfThisOne)

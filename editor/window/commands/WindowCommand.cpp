@@ -137,6 +137,8 @@ constexpr WindowCommand Commands[] = {
     {MenuName::None, IDC_OPEN_MARKED, 0, {0, VK_RETURN}, IDC_RECENT, Always, Run<&Window::OpenMarkedRecent>},
     {MenuName::None, IDC_FORGET_MARKED, 0, {0, VK_DELETE}, IDC_RECENT, Always, Run<&Window::ForgetMarkedRecent>},
     {MenuName::None, IDC_SHOW_FINDING, 0, {0, VK_RETURN}, IDC_FINDINGS, When<&Window::HasFindings>, Run<&Window::ShowMarkedFinding>},
+    {MenuName::None, IDC_FINDING_OPTIONS, 0, {FALT, VK_RETURN}, IDC_FINDINGS, When<&Window::HasFindings>, Run<&Window::OpenFindingOptions>},
+    {MenuName::None, IDC_DEVICE_OPTIONS, 0, {FALT, VK_RETURN}, 0, When<&Window::HasCallbacks>, Run<&Window::OpenOptions>},
     {MenuName::None, IDC_FINDINGS_CLOSE, 0, {}, 0, When<&Window::ShowsFindings>, Run<&Window::HideFindings>},
     {MenuName::None, IDC_CANCEL_CHECK, 0, {}, 0, When<&Window::IsChecking>, Run<&Window::CancelCheck>},
     {MenuName::None, IDC_FIND_CLEAR, 0, {}, 0, When<&Window::IsFiltered>, Run<&Window::ClearFind>},

@@ -65,6 +65,8 @@ void RowList::MarkOnly(int row)
     constexpr UINT Both = LVIS_SELECTED | LVIS_FOCUSED;
     SetItemState(-1, 0, LVIS_SELECTED);
     SetItemState(row, Both, Both);
+    // Where a range that is marked with Shift begins.
+    SendMessage(LVM_SETSELECTIONMARK, 0, row);
     EnsureVisible(row, FALSE);
 }
 

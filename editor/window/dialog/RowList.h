@@ -27,6 +27,8 @@ public:
 
     // Marks the row alone, gives it the focus and brings it into view.
     void MarkOnly(int row);
+    // Where several can be marked.
+    void MarkAll();
     // The row that is marked, the first of several; -1 for none.
     [[nodiscard]] int Marked() const { return GetNextItem(-1, LVNI_SELECTED); }
 
@@ -45,7 +47,6 @@ protected:
 
 private:
     void CopyMarked();
-    void MarkAll();
     void ToggleMarked();
 
     Text m_text;

@@ -22,7 +22,7 @@ constexpr EditorDialog::Caption Captions[] = {
 enum Column : int { ColumnNumber, ColumnName, ColumnFinding };
 
 constexpr ReportColumn Columns[] = {
-    {IDS_COLUMN_NUMBER, 30},
+    {IDS_COLUMN_NUMBER, 30, LVCFMT_RIGHT},
     {IDS_COLUMN_NAME, 80},
     {IDS_COLUMN_FINDING, 100},
 };

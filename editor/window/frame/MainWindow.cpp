@@ -294,7 +294,7 @@ LRESULT MainWindow::OnMarkVariable(WPARAM, LPARAM)
 void MainWindow::OnDeviceText(NMHDR* header, LRESULT* result)
 {
     *result = 0;
-    m_lstDevices.GiveText(reinterpret_cast<NMLVDISPINFOW*>(header)->item);
+    m_lstDevices.Answer(*header, *result);
 }
 
 void MainWindow::OnDeviceTip(NMHDR* header, LRESULT* result)
@@ -313,7 +313,7 @@ void MainWindow::OnFindDevice(NMHDR* header, LRESULT* result)
 void MainWindow::OnMarkDevice(NMHDR*, LRESULT* result)
 {
     *result = 0;
-    if (m_lstDevices.MarkedCount() == 1 && m_lstDevices.Marked() != m_places) {
+    if (m_lstDevices.MarkedCount() == 1 && m_lstDevices.MarkedPlaces() != m_places) {
         ShowMarked();
     } else if (!m_bMarksSettling) {
         m_bMarksSettling = true;
@@ -324,7 +324,7 @@ void MainWindow::OnMarkDevice(NMHDR*, LRESULT* result)
 LRESULT MainWindow::OnMarksSettled(WPARAM, LPARAM)
 {
     m_bMarksSettling = false;
-    if (m_lstDevices.Marked() != m_places)
+    if (m_lstDevices.MarkedPlaces() != m_places)
         ShowMarked();
     return 0;
 }

@@ -92,6 +92,7 @@ public:
     void HideFindings();
     void CancelCheck();
     void ShowMarkedFinding();
+    void OpenFindingOptions();
     [[nodiscard]] PageName ShownPage() const noexcept { return m_page; }
     [[nodiscard]] bool CanUndo() const { return m_open && m_open->undo.CanUndo(); }
     [[nodiscard]] bool CanRedo() const { return m_open && m_open->undo.CanRedo(); }
@@ -191,6 +192,7 @@ private:
     void ShowCancel(bool isWorking);
     [[nodiscard]] std::wstring CheckText() const;
     void Show(const plant::Finding& finding);
+    bool MarkDeviceOf(const plant::Finding& finding);
     void MarkDevice(std::size_t device);
 
     void ShowCommands();

@@ -142,7 +142,7 @@ void MainWindow::GoToList()
 {
     m_lstDevices.SetFocus();
     if (m_lstDevices.MarkedCount() == 0)
-        m_lstDevices.Select(0);
+        m_lstDevices.MarkOnly(0);
 }
 
 void MainWindow::GoToNextDevice()

@@ -61,7 +61,7 @@ void MainWindow::ShowProject()
     m_rows->Refresh({true, true, {}});
     m_lstDevices.Refresh(m_marked, m_open->project);
     if (m_lstDevices.MarkedCount() == 0)
-        m_lstDevices.Select(0);
+        m_lstDevices.MarkOnly(0);
     ShowMarked();
     if (focusGoes)
         m_lstDevices.SetFocus();

@@ -2,10 +2,21 @@
 // to its value.
 #include <algorithm>
 
+#include "KZDlgOptions.h"
 #include "KZUtf8.h"
 #include "MainWindow.h"
 #include "text/EditorText.h"
 #include "text/FieldText.h"
+
+namespace {
+
+KZOptionsSection OptionsSection(plant::FieldSection section)
+{
+    constexpr KZOptionsSection Sections[] = {KZSectionDevice, KZSectionUnits, KZSectionLimits};
+    return Sections[static_cast<std::size_t>(section)];
+}
+
+}  // namespace
 
 void MainWindow::Check()
 {
@@ -79,7 +90,7 @@ void MainWindow::ShowFindings()
     if (findings != m_lstFindings.Findings()) {
         if (m_rows->ShowFindings(findings)) {
             m_lstDevices.Refresh(m_marked, m_open->project);
-            if (m_lstDevices.Marked() != m_places)
+            if (m_lstDevices.MarkedPlaces() != m_places)
                 ShowMarked();
         }
         m_lstDevices.RefreshSigns();
@@ -160,15 +171,33 @@ void MainWindow::Show(const plant::Finding& finding)
 {
     if (!ShowsFindings())
         ShowFindingsPane(true);
+    if (!MarkDeviceOf(finding))
+        return;
+    ShowPage(PageName::Values);
+    m_pageValues.Mark(FindingPlace(finding));
+}
+
+void MainWindow::OpenFindingOptions()
+{
+    if (!m_lstFindings.Current())
+        return;
+    const plant::Finding finding = *m_lstFindings.Current();
+    if (!MarkDeviceOf(finding))
+        return;
+    ShowPage(PageName::Options);
+    if (const plant::Field* const field = FindingField(finding))
+        m_pageOptions.PressSection(OptionsSection(field->section));
+}
+
+bool MainWindow::MarkDeviceOf(const plant::Finding& finding)
+{
     const plant::DeviceList& devices = m_open->project.Devices();
     const std::wstring name = FromUtf8(finding.device);
     const auto found = std::find_if(devices.begin(), devices.end(),
                                     [&name](const KZDeviceIdentity& device) { return device.name.View() == name; });
-    if (found == devices.end())
-        return;
-    MarkDevice(static_cast<std::size_t>(found - devices.begin()));
-    ShowPage(PageName::Values);
-    m_pageValues.Mark(FindingPlace(finding));
+    if (found != devices.end())
+        MarkDevice(static_cast<std::size_t>(found - devices.begin()));
+    return found != devices.end();
 }
 
 // One that Find hides comes back into the list.
@@ -177,8 +206,8 @@ void MainWindow::MarkDevice(std::size_t device)
     const std::vector<std::size_t>& shown = m_rows->Shown();
     if (std::find(shown.begin(), shown.end(), device) == shown.end())
         m_edtFind.SetWindowText(L"");
-    m_lstDevices.Select(static_cast<int>(std::find(shown.begin(), shown.end(), device) - shown.begin()));
-    if (m_lstDevices.Marked() != m_places)
+    m_lstDevices.MarkOnly(static_cast<int>(std::find(shown.begin(), shown.end(), device) - shown.begin()));
+    if (m_lstDevices.MarkedPlaces() != m_places)
         ShowMarked();
 }
 

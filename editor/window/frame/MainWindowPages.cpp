@@ -13,7 +13,7 @@ constexpr UINT_PTR ValuesTimer = 1;
 
 void MainWindow::ShowMarked()
 {
-    m_places = m_lstDevices.Marked();
+    m_places = m_lstDevices.MarkedPlaces();
     m_marked.clear();
     for (const std::size_t place : m_places)
         m_marked.push_back(m_open->project.Devices()[place].driverId);

@@ -8,6 +8,18 @@
 #include "text/PlantMessage.h"
 #include "window/open/ProjectFolderDialog.h"
 
+namespace {
+
+// What a menu shows of it is the text itself, without an access key.
+std::wstring WithoutAccessKey(std::wstring text)
+{
+    for (std::size_t at = text.find(L'&'); at != std::wstring::npos; at = text.find(L'&', at + 2))
+        text.insert(at, 1, L'&');
+    return text;
+}
+
+}  // namespace
+
 // Shows the project that has just been opened, or the start page.
 void MainWindow::Attach()
 {
@@ -33,7 +45,7 @@ void MainWindow::Attach()
     m_paneStart.Show(RecentProjects());
     ShowMenu();
     ShowPanes();
-    m_lstDevices.Select(0);
+    m_lstDevices.MarkOnly(0);
     m_lstDevices.FitColumns();
     ShowMarked();
     GotoDlgCtrl(m_open ? static_cast<CWnd*>(&m_lstDevices) : m_paneStart.GetDlgItem(IDC_RECENT));
@@ -127,10 +139,8 @@ std::wstring MainWindow::RecentCaption(std::size_t index) const
 {
     if (index >= RecentProjects().size())
         return {};
-    std::wstring path = RecentProjects()[index];
-    for (std::size_t at = path.find(L'&'); at != std::wstring::npos; at = path.find(L'&', at + 2))
-        path.insert(at, 1, L'&');
-    return L"&" + std::to_wstring((index + 1) % EditorSettings::MostRecent) + L" " + path;
+    return L"&" + std::to_wstring((index + 1) % EditorSettings::MostRecent) + L" " +
+           WithoutAccessKey(RecentProjects()[index]);
 }
 
 void MainWindow::RestorePlace()
@@ -231,13 +241,15 @@ void MainWindow::Redo()
 
 std::wstring MainWindow::UndoCaption() const
 {
-    return CanUndo() ? FormatEditorText(IDS_COMMAND_UNDO_STEP, PlantMessage(*m_open->undo.UndoName()).c_str())
+    return CanUndo() ? FormatEditorText(IDS_COMMAND_UNDO_STEP,
+                                        WithoutAccessKey(PlantMessage(*m_open->undo.UndoName())).c_str())
                      : EditorText(IDS_COMMAND_UNDO);
 }
 
 std::wstring MainWindow::RedoCaption() const
 {
-    return CanRedo() ? FormatEditorText(IDS_COMMAND_REDO_STEP, PlantMessage(*m_open->undo.RedoName()).c_str())
+    return CanRedo() ? FormatEditorText(IDS_COMMAND_REDO_STEP,
+                                        WithoutAccessKey(PlantMessage(*m_open->undo.RedoName())).c_str())
                      : EditorText(IDS_COMMAND_REDO);
 }
 
@@ -275,7 +287,7 @@ void MainWindow::ShowChanges()
         m_rows->Refresh({false, false, changed});
         m_lstDevices.Refresh(m_marked, m_open->project);
         // A device that is no longer found is hidden, and its mark with it.
-        if (m_lstDevices.Marked() != m_places) {
+        if (m_lstDevices.MarkedPlaces() != m_places) {
             ShowMarked();
             return;
         }

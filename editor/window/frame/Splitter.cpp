@@ -39,7 +39,9 @@ LRESULT Splitter::OnPaint(WPARAM, LPARAM)
     GetClientRect(&client);
     const bool hasFocus = ::GetFocus() == m_hWnd;
     ::FillRect(dc, &client, ::GetSysColorBrush(hasFocus ? COLOR_HIGHLIGHT : COLOR_3DFACE));
-    if (!hasFocus)
+    if (hasFocus)
+        ::DrawFocusRect(dc, &client);
+    else
         ::DrawEdge(dc, &client, BDR_RAISEDINNER, m_moves == Moves::Sideways ? BF_LEFT | BF_RIGHT : BF_TOP | BF_BOTTOM);
     ::EndPaint(m_hWnd, &painting);
     return 0;

@@ -16,7 +16,7 @@ constexpr EditorDialog::Caption Captions[] = {
 constexpr int ColumnCause = 2;
 
 constexpr ReportColumn Columns[] = {
-    {IDS_COLUMN_NUMBER, 34},
+    {IDS_COLUMN_NUMBER, 34, LVCFMT_RIGHT},
     {IDS_HISTORY_COLUMN_TIME, 90},
     {IDS_HISTORY_COLUMN_CAUSE, 60},
     {IDS_HISTORY_COLUMN_DOCUMENTS, 60, LVCFMT_RIGHT},

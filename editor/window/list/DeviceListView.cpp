@@ -14,9 +14,29 @@ static_assert(std::size(Columns) == DeviceColumnCount);
 
 }  // namespace
 
+BEGIN_MESSAGE_MAP(DeviceListView, RowList)
+    ON_MESSAGE(WM_PAINT, &DeviceListView::OnPaint)
+    ON_MESSAGE(WM_CONTEXTMENU, &DeviceListView::OnContextMenu)
+END_MESSAGE_MAP()
+
+LRESULT DeviceListView::OnPaint(WPARAM, LPARAM)
+{
+    m_bPainting = true;
+    const LRESULT result = Default();
+    m_bPainting = false;
+    return result;
+}
+
+// It is the menu of the window around it.
+LRESULT DeviceListView::OnContextMenu(WPARAM, LPARAM)
+{
+    return Default();
+}
+
 void DeviceListView::SetUp()
 {
-    SetColumns(Columns, static_cast<int>(DeviceColumn::Description));
+    RowList::SetUp(Columns, static_cast<int>(DeviceColumn::Description),
+                   [this](int row, int column) { return Text(row, column); });
     SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_INFOTIP | LVS_EX_HEADERDRAGDROP);
     ShowSortArrow();
 }
@@ -74,43 +94,31 @@ void DeviceListView::ShowSortArrow()
     }
 }
 
+bool DeviceListView::IsMarked(int row) const
+{
+    return SendMessage(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0;
+}
+
 // Each sign has its place, so that they stand below each other.
 std::wstring DeviceListView::Signs(int row) const
 {
     const DeviceSigns signs = m_pRows->SignsOf(DeviceOf(row));
-    const bool isMarked = SendMessage(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0;
     std::wstring text;
-    text += isMarked ? L'>' : L' ';
+    text += IsMarked(row) ? L'>' : L' ';
     text += signs.isChanged ? L'*' : L' ';
     text += signs.hasFindings ? L'!' : L' ';
     text += signs.hasNoModule ? L'#' : L' ';
     return text;
 }
 
-std::wstring DeviceListView::Text(int row, int column) const
+std::wstring DeviceListView::SignWords(int row) const
 {
-    const auto kind = static_cast<DeviceColumn>(column);
-    return kind == DeviceColumn::Signs ? Signs(row) : m_pRows->Text(DeviceOf(row), kind);
-}
-
-void DeviceListView::GiveText(LVITEMW& item) const
-{
-    // A question about what was just read anew comes before the list knows of it.
-    const bool isThere = m_pRows && item.iItem < static_cast<int>(m_pRows->Shown().size());
-    if ((item.mask & LVIF_TEXT) != 0 && isThere)
-        ::lstrcpynW(item.pszText, Text(item.iItem, item.iSubItem).c_str(), item.cchTextMax);
-}
-
-void DeviceListView::GiveTip(NMLVGETINFOTIPW& tip) const
-{
-    if (!m_pRows || tip.iItem < 0 || tip.iItem >= static_cast<int>(m_pRows->Shown().size()))
-        return;
-    const DeviceSigns signs = m_pRows->SignsOf(DeviceOf(tip.iItem));
+    const DeviceSigns signs = m_pRows->SignsOf(DeviceOf(row));
     const struct {
         bool holds;
         unsigned text;
     } words[] = {
-        {SendMessage(LVM_GETITEMSTATE, static_cast<WPARAM>(tip.iItem), LVIS_SELECTED) != 0, IDS_SIGN_MARKED},
+        {IsMarked(row), IDS_SIGN_MARKED},
         {signs.isChanged, IDS_SIGN_CHANGED},
         {signs.hasFindings, IDS_SIGN_FINDINGS},
         {signs.hasNoModule, IDS_SIGN_NO_MODULE},
@@ -119,7 +127,23 @@ void DeviceListView::GiveTip(NMLVGETINFOTIPW& tip) const
     for (const auto& word : words)
         if (word.holds)
             text.append(text.empty() ? L"" : L", ").append(EditorText(word.text));
-    ::lstrcpynW(tip.pszText, text.c_str(), tip.cchTextMax);
+    return text;
+}
+
+std::wstring DeviceListView::Text(int row, int column) const
+{
+    // A question about what was just read anew comes before the list knows of it.
+    if (!m_pRows || row < 0 || row >= static_cast<int>(m_pRows->Shown().size()))
+        return {};
+    const auto kind = static_cast<DeviceColumn>(column);
+    if (kind == DeviceColumn::Signs)
+        return m_bPainting ? Signs(row) : SignWords(row);
+    return m_pRows->Text(DeviceOf(row), kind);
+}
+
+void DeviceListView::GiveTip(NMLVGETINFOTIPW& tip) const
+{
+    ::lstrcpynW(tip.pszText, Text(tip.iItem, static_cast<int>(DeviceColumn::Signs)).c_str(), tip.cchTextMax);
 }
 
 int DeviceListView::Find(const NMLVFINDITEMW& wanted) const
@@ -138,7 +162,7 @@ int DeviceListView::Find(const NMLVFINDITEMW& wanted) const
     return -1;
 }
 
-std::vector<std::size_t> DeviceListView::Marked() const
+std::vector<std::size_t> DeviceListView::MarkedPlaces() const
 {
     std::vector<std::size_t> marked;
     if (!m_pRows)
@@ -149,25 +173,11 @@ std::vector<std::size_t> DeviceListView::Marked() const
     return marked;
 }
 
-void DeviceListView::Select(int row)
-{
-    SetItemState(-1, 0, LVIS_SELECTED);
-    SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-    // Where a range that is marked with Shift begins.
-    SendMessage(LVM_SETSELECTIONMARK, 0, row);
-    EnsureVisible(row, FALSE);
-}
-
-void DeviceListView::MarkAll()
-{
-    SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
-}
-
 void DeviceListView::SelectNext(int step)
 {
     const int row = GetNextItem(-1, LVNI_FOCUSED) + step;
     if (row >= 0 && row < GetItemCount())
-        Select(row);
+        MarkOnly(row);
 }
 
 void DeviceListView::LeaveRow(WORD key)

@@ -2,11 +2,11 @@
 
 #include <commctrl.h>
 
-#include "KZDlgOptions.h"
 #include "text/EditorText.h"
 
 namespace {
 
+constexpr UINT_PTR ColoursTimer = 1;
 constexpr UINT MoveOnly = SWP_NOZORDER | SWP_NOACTIVATE;
 
 }  // namespace
@@ -16,6 +16,9 @@ BEGIN_MESSAGE_MAP(ChildPane, CDialog)
     ON_WM_DESTROY()
     ON_WM_SIZE()
     ON_MESSAGE(WM_KZ_OPTIONS_CHANGED, &ChildPane::OnOptionsChanged)
+    ON_MESSAGE(WM_SYSCOLORCHANGE, &ChildPane::OnColours)
+    ON_MESSAGE(WM_THEMECHANGED, &ChildPane::OnColours)
+    ON_MESSAGE(WM_TIMER, &ChildPane::OnTimer)
 END_MESSAGE_MAP()
 
 void ChildPane::DestroyChild::operator()(CDialog* dialog) const
@@ -34,6 +37,8 @@ bool ChildPane::CreateIn(CWnd& parent)
 
 bool ChildPane::Embed(KZDriver* driver, KZChildOptionsFactory factory)
 {
+    m_pDriver = driver;
+    m_factory = factory;
     m_pChild.reset();
     m_pChild.reset(factory ? factory(this, driver) : nullptr);
     if (!m_pChild) {
@@ -46,6 +51,28 @@ bool ChildPane::Embed(KZDriver* driver, KZChildOptionsFactory factory)
     Arrange();
     m_pChild->ShowWindow(SW_SHOWNA);
     return true;
+}
+
+LRESULT ChildPane::OnColours(WPARAM, LPARAM)
+{
+    if (m_pChild)
+        ::SetTimer(m_hWnd, ColoursTimer, 100, nullptr);
+    return Default();
+}
+
+// While a dialog is open in front, the embedded one may be in the middle of a command: the timer comes again.
+LRESULT ChildPane::OnTimer(WPARAM, LPARAM)
+{
+    if (!::IsWindowEnabled(::GetAncestor(m_hWnd, GA_ROOT)))
+        return 0;
+    ::KillTimer(m_hWnd, ColoursTimer);
+    if (!m_pChild)
+        return 0;
+    const HWND focus = ::GetFocus();
+    const int focused = ::IsChild(*m_pChild, focus) ? ::GetDlgCtrlID(focus) : 0;
+    if (Embed(m_pDriver, m_factory) && focused != 0)
+        m_pChild->GotoDlgCtrl(m_pChild->GetDlgItem(focused));
+    return 0;
 }
 
 // A section runs inside the command of its button.
@@ -66,6 +93,15 @@ void ChildPane::ShowText(const std::wstring& text)
     m_pChild.reset();
     SetDlgItemText(IDC_PANE_TEXT, text.c_str());
     GetDlgItem(IDC_PANE_TEXT)->ShowWindow(SW_SHOWNA);
+}
+
+void ChildPane::PressSection(KZOptionsSection section)
+{
+    CWnd* const button = m_pChild ? m_pChild->GetDlgItem(KZSectionButtonBase + section) : nullptr;
+    if (!button)
+        return;
+    button->SetFocus();
+    button->PostMessage(BM_CLICK);
 }
 
 void ChildPane::Arrange()

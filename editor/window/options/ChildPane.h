@@ -1,4 +1,5 @@
-// A pane that embeds the options dialog that a driver's factory makes, or says why there is none.
+// A pane that embeds the options dialog that a driver's factory makes, or says why there is none. It makes the dialog
+// anew when the system's colours have changed.
 #pragma once
 
 #include <afxwin.h>
@@ -7,6 +8,7 @@
 #include <memory>
 #include <string>
 
+#include "KZDlgOptions.h"
 #include "KZDriverServices.h"
 #include "resources/EditorIds.h"
 
@@ -26,6 +28,9 @@ public:
     // Replaces what the pane shows by a text.
     void ShowText(const std::wstring& text);
 
+    // Presses the button of a section, behind what runs now. Nothing happens while the pane shows a text.
+    void PressSection(KZOptionsSection section);
+
     [[nodiscard]] bool HasChild() const noexcept { return m_pChild != nullptr; }
 
 protected:
@@ -37,6 +42,8 @@ protected:
     afx_msg void OnDestroy();
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg LRESULT OnOptionsChanged(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnColours(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnTimer(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 
@@ -50,5 +57,7 @@ private:
                                            DWORD_PTR pane);
 
     Around m_around;
+    KZDriver* m_pDriver = nullptr;  // of the dialog that is embedded
+    KZChildOptionsFactory m_factory = nullptr;
     std::unique_ptr<CDialog, DestroyChild> m_pChild;
 };

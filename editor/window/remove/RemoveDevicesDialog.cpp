@@ -15,7 +15,7 @@ constexpr EditorDialog::Caption Captions[] = {
 constexpr int ColumnDescription = 2;
 
 constexpr ReportColumn Columns[] = {
-    {IDS_COLUMN_NUMBER, 30},
+    {IDS_COLUMN_NUMBER, 30, LVCFMT_RIGHT},
     {IDS_COLUMN_NAME, 80},
     {IDS_COLUMN_DESCRIPTION, 100},
     {IDS_COLUMN_VARIABLES, 50, LVCFMT_RIGHT},

@@ -1,5 +1,7 @@
 // Every dialog of the editor in each language and at each resolution: nothing cut, nothing over anything else, small
 // enough for a small screen, each access key once, and a name for everything that Tab reaches.
+#include <commctrl.h>
+
 #include "DialogFixture.h"
 #include "DialogLayout.h"
 #include "ParameterNames.h"
@@ -7,6 +9,8 @@
 #include "SampleDialogs.h"
 #include "ShownParts.h"
 #include "WorkArea.h"
+#include "resources/EditorIds.h"
+#include "text/EditorText.h"
 
 namespace {
 
@@ -72,6 +76,24 @@ TEST_P(DialogLook, NamesWhateverTabReaches)
         for (const HWND control : kztest::WorkableControls(dialog)) {
             if (kztest::ClassOf(control) != L"Button") {
                 EXPECT_TRUE(kztest::PlatformName(control, {}).ends_with(L':')) << ::GetDlgCtrlID(control);
+            }
+        }
+    });
+}
+
+TEST_P(DialogLook, AlignsNumbersToTheRight)
+{
+    Look([](HWND dialog) {
+        for (const HWND control : kztest::WorkableControls(dialog)) {
+            LVCOLUMNW column{};
+            column.mask = LVCF_FMT | LVCF_TEXT;
+            wchar_t caption[16] = L"";
+            column.pszText = caption;
+            column.cchTextMax = 16;
+            const bool isThere = kztest::ClassOf(control) == WC_LISTVIEWW &&
+                                 ::SendMessageW(control, LVM_GETCOLUMNW, 0, reinterpret_cast<LPARAM>(&column)) != 0;
+            if (isThere && caption == EditorText(IDS_COLUMN_NUMBER)) {
+                EXPECT_EQ(column.fmt & LVCFMT_JUSTIFYMASK, LVCFMT_RIGHT) << ::GetDlgCtrlID(control);
             }
         }
     });

@@ -1,0 +1,23 @@
+// Another system colour for as long as the object lives.
+#pragma once
+
+#include <windows.h>
+
+namespace kztest {
+
+// As this thread's windows see it. The system's own notice would go to all windows; tests send it by hand.
+class SystemColour {
+public:
+    SystemColour(int index, COLORREF colour) : m_index(index), m_before(::GetSysColor(index)) { Set(colour); }
+    ~SystemColour() { Set(m_before); }
+    SystemColour(const SystemColour&) = delete;
+    SystemColour& operator=(const SystemColour&) = delete;
+
+private:
+    void Set(COLORREF colour) const { ::SetSysColors(1, &m_index, &colour); }
+
+    int m_index;
+    COLORREF m_before;
+};
+
+}  // namespace kztest
