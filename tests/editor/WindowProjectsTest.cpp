@@ -36,7 +36,7 @@ protected:
         return plant::ChosenVariables(*KZMainCfg::Get(), m_window.Project().Devices().front().driverId);
     }
     // How many files of unsaved changes there are.
-    [[nodiscard]] long Recoveries() const
+    [[nodiscard]] std::ptrdiff_t Recoveries() const
     {
         const std::filesystem::directory_iterator files(m_copied.Path() / "plant");
         return std::count_if(begin(files), end(files),
