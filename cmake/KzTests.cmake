@@ -1,14 +1,15 @@
 # One call per test program:
 #
-#   kz_test(NAME source... [LIBS library...] [WHOLE] [DPI] [SPANISH] [TIMEOUT seconds])
+#   kz_test(NAME source... [LIBS library...] [WHOLE] [DISK] [DPI] [SPANISH] [TIMEOUT seconds])
 #
 # NAME.exe goes to build/<preset>/tests, away from the product. It gets the project's warnings, GoogleTest, GoogleMock, on
-# Windows the helpers of tests/support, and a main function unless one of its sources or libraries has its own. Each test
-# case is one ctest entry, listed when ctest starts: natively "native.Suite.Case", under Wine "wine.Suite.Case". TIMEOUT is
-# for one case, 60 s unless told. WHOLE, for programs without windows and for those of many short cases, makes the program one entry under Wine, where each start
-# takes a fifth of a second. DPI adds one entry for the whole program at 120 and one at 144 dots per inch, SPANISH one for the
-# whole program with a Spanish user locale (all three Windows only).
-include(GoogleTest)
+# Windows the helpers of tests/support, and a main function unless one of its sources or libraries has its own. Each suite
+# is one ctest entry, listed when ctest starts: natively "native.Suite", under Wine "wine.Suite". An entry per case would
+# start a thousand programs more, at a fifth of a second each. TIMEOUT is for one suite, 120 s unless told. WHOLE, for
+# programs without windows and for those of many short suites, makes the program one entry under Wine. DISK keeps the
+# tests' files out of KZ_TEST_FOLDER, for what a quick folder would leave no time to interrupt. DPI adds one entry for the
+# whole program at 120 and one at 144 dots per inch, SPANISH one for the whole program with a Spanish user locale (all
+# three Windows only).
 
 # The tests themselves are not worth optimising, which takes most of their compile time. The native ones, under sanitizers,
 # have random checks with many rounds; _FORTIFY_SOURCE in the hardened build asks for some optimisation.
@@ -42,10 +43,23 @@ function(kz_test_headers)
     <map> <optional> <string> <vector> $<$<BOOL:${WIN32}>:<afxwin.h$<ANGLE-R>>)
 endfunction()
 
+# kz_suites(PROGRAM property...): one ctest entry for each suite of a program, with these properties.
+function(kz_suites program)
+  set(listing ${CMAKE_CURRENT_BINARY_DIR}/${program}_suites)
+  file(GENERATE OUTPUT ${listing}.cmake CONTENT "set(KZ_PROGRAM [==[$<TARGET_FILE:${program}>]==])
+set(KZ_LAUNCHER [==[${CMAKE_CROSSCOMPILING_EMULATOR}]==])
+set(KZ_LISTING [==[${listing}.txt]==])
+set(KZ_PLATFORM ${KZ_TEST_PLATFORM})
+set(KZ_PROPERTIES [==[${ARGN}]==])
+include([==[${CMAKE_SOURCE_DIR}/cmake/ListSuites.cmake]==])
+")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${listing}.cmake)
+endfunction()
+
 function(kz_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "WHOLE;DPI;SPANISH" "TIMEOUT" "LIBS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "WHOLE;DISK;DPI;SPANISH" "TIMEOUT" "LIBS")
   if(NOT arg_TIMEOUT)
-    set(arg_TIMEOUT 60)
+    set(arg_TIMEOUT 120)
   endif()
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
   kz_common(${name})
@@ -67,13 +81,14 @@ function(kz_test name)
     math(EXPR limit "${arg_TIMEOUT} + 20")
     set(properties TIMEOUT ${limit} LABELS wine ENVIRONMENT KZ_TEST_TIMEOUT=${arg_TIMEOUT} RESOURCE_LOCK wine)
   endif()
+  if(arg_DISK)
+    list(APPEND properties ENVIRONMENT_MODIFICATION KZ_TEST_FOLDER=unset:)
+  endif()
   if(WIN32 AND arg_WHOLE)
     add_test(NAME wine.${name} COMMAND ${name})
     set_tests_properties(wine.${name} PROPERTIES ${properties} TIMEOUT 320 ENVIRONMENT KZ_TEST_TIMEOUT=300)
   else()
-    gtest_discover_tests(${name} TEST_PREFIX ${KZ_TEST_PLATFORM}. NO_PRETTY_VALUES DISCOVERY_MODE PRE_TEST
-      DISCOVERY_TIMEOUT 120
-      PROPERTIES ${properties})
+    kz_suites(${name} ${properties})
   endif()
 
   if(WIN32 AND arg_DPI)

@@ -4,7 +4,7 @@
 # The exit status is 1 when a figure exceeds its limit.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-programs=(names records saving open_dialogs clicks bound_controls library memory devices tables fields opening start)
+programs=(names records saving open_dialogs clicks bound_controls library memory devices tables fields changes opening start)
 begin='<!-- figures: ./dev bench --record -->'
 end='<!-- end of the figures -->'
 table=$root/build/bench/performance.md

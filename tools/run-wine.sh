@@ -13,6 +13,7 @@ if [ -n "${KZ_TEST_LOCALE:-}" ]; then wine_locale "$KZ_TEST_LOCALE"; fi
 bin=$(dirname "$(dirname "$program")")/bin
 WINEPATH=$(wine_path "$bin")
 export WINEPATH
+if [ -n "${KZ_TEST_FOLDER:-}" ]; then KZ_TEST_FOLDER=$(wine_path "$KZ_TEST_FOLDER"); fi
 wine_serve
 # The processes that Wine starts beside the program inherit its output and outlive it, so whoever reads that output through a
 # pipe would wait for them: a file lies between.

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr double DialogLimit = 1.35;
+constexpr double DialogLimit = 1.45;    // 0.10 of it for names, small screens and keys
 constexpr double HubLimit = 1.50;       // ten pictures and texts on next to no template
 constexpr unsigned HubTemplate = 1199;  // of the host
 

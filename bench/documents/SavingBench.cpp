@@ -74,7 +74,8 @@ void CompareLarge(Report& report, const fs::path& folder)
                              raw.Tree().save(bytes, L"", pugi::format_raw, pugi::encoding_utf8);
                              kzbench::Keep(bytes);
                          }));
-    report.Add({"save a changed document of " + size, "serialise, flush, rename", 1.50},
+    // Where the disk is quick, this is the serialising alone.
+    report.Add({"save a changed document of " + size, "serialise, flush, rename", 2.00},
                RunInTurn(
                    [&] {
                        if (!document.Save(folder / L"ours.xml"))

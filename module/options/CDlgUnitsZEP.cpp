@@ -135,11 +135,9 @@ void CDlgUnitsZEP::SetTexts()
 void CDlgUnitsZEP::NameControls(AccessibleNames& names) const
 {
     const auto name = [&](const UnitControls& unit, int label, std::span<const int> choices) {
+        const KZBasicString heading = JoinedName({ControlText(m_hWnd, unit.group), ControlText(m_hWnd, label)});
         for (const int choice : choices)
-            names.Set(
-                ::GetDlgItem(m_hWnd, choice),
-                JoinedName({ControlText(m_hWnd, unit.group), ControlText(m_hWnd, label), ControlText(m_hWnd, choice)})
-                    .c_str());
+            names.Set(::GetDlgItem(m_hWnd, choice), JoinedName({heading, ControlText(m_hWnd, choice)}).c_str());
     };
     for (const UnitControls& unit : Units) {
         name(unit, unit.unitLabel, unit.units);

@@ -44,6 +44,8 @@ protected:
     {
         const HWND box = Box();
         const std::string text = ToUtf8(MessageOf(box));
+        // A click is lost while the box is still being activated.
+        EXPECT_NE(FocusIn(box), nullptr);
         Press(box, button);
         EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
         return text;
@@ -74,7 +76,7 @@ protected:
     {
         Press(m_window, IDC_OPTIONS);
         EXPECT_NE(m_editor->WindowTitled(L"test options"), nullptr);
-        EXPECT_FALSE(HasBox());
+        EXPECT_FALSE(HasBox()) << ToUtf8(MessageOf(Box()));
         Answer(L"test options", IDCANCEL);
     }
 

@@ -83,8 +83,12 @@ protected:
     UserGuide()
     {
         m_program.AddRealModule();
-        for (const char* folder : {"program", "program/before"})
-            fs::copy(fs::path(KZ_EXAMPLES) / "plant", m_folder.Path() / folder, fs::copy_options::recursive);
+        for (const char* folder : {"program", "program/before"}) {
+            fs::create_directory(m_folder.Path() / folder);
+            // Entry by entry: libstdc++ for Windows copies no folder into one that is there on the same drive.
+            for (const fs::directory_entry& entry : fs::directory_iterator(fs::path(KZ_EXAMPLES) / "plant"))
+                fs::copy(entry, m_folder.Path() / folder / entry.path().filename(), fs::copy_options::recursive);
+        }
     }
 
     Lines Run(const std::string& command)

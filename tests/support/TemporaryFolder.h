@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -20,12 +21,15 @@ namespace kztest {
 
 class TemporaryFolder {
 public:
-    // Throws std::filesystem::filesystem_error when there is no place for it.
+    // Makes it where the environment variable KZ_TEST_FOLDER says, otherwise among the system's temporary files. Throws
+    // std::filesystem::filesystem_error when there is no place for it.
     TemporaryFolder()
     {
+        const char* const chosen = std::getenv("KZ_TEST_FOLDER");
+        const std::filesystem::path parent = chosen ? chosen : std::filesystem::temp_directory_path();
         std::random_device random;
         do
-            m_path = std::filesystem::temp_directory_path() / ("kz-" + std::to_string(random()));
+            m_path = parent / ("kz-" + std::to_string(random()));
         while (!std::filesystem::create_directory(m_path));
     }
     ~TemporaryFolder()

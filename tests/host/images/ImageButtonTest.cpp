@@ -145,11 +145,10 @@ int WidthShownOn(const CImageButton& button)
 
 TEST_F(ImageButton, ShowsAFileAsItIsWhenItIsFirstAskedForIt)
 {
-    const fs::path file = m_folder.Path() / L"changing.png";
     const auto take = [&](const wchar_t* name) {
-        fs::copy_file(ImageFile(name).c_str(), file, fs::copy_options::overwrite_existing);
+        return m_folder.Write(L"changing.png", kztest::BytesOf(ImageFile(name).c_str()));
     };
-    take(L"OK-16.png");
+    const fs::path file = take(L"OK-16.png");
     ASSERT_TRUE(Set(m_first, file.wstring()));
     take(L"ZEP-50.png");
     ASSERT_TRUE(Set(m_first, file.wstring()));

@@ -12,7 +12,7 @@ namespace {
 using namespace zep;
 using namespace limits_testing;
 
-TEST(LimitsStoreLoading, ReadsAndWritesAPointWhateverTheHostHasSet)
+TEST(LimitsStoreInAnotherLocale, ReadsAndWritesAPointWhateverTheHostHasSet)
 {
     const OtherLocale spain(OtherLocale::Spain);
     if (!spain.IsSet())
