@@ -30,8 +30,8 @@ constexpr int Shows = 20;
 
 constexpr int Most = 100'000;              // with one limit each
 constexpr double LongestOpening = 10'000;  // milliseconds
-constexpr double LongestFind = 500;        // milliseconds
-constexpr double MostMemory = 40;          // times the file
+constexpr double LongestFind = 1'000;      // milliseconds
+constexpr double MostMemory = 12;          // times the file
 
 void TakeMessages()
 {

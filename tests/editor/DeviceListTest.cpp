@@ -232,7 +232,6 @@ TEST_F(ManyDevices, CanBeLeftUncheckedOnceTheCheckIsNoticed)
     ::SendMessageW(cancel, BM_CLICK, 0, 0);
     EXPECT_FALSE(m_window->IsChecking());
     EXPECT_FALSE(::IsWindowVisible(cancel));
-    EXPECT_LT(ListView_GetItemCount(kztest::ControlIn(m_window->m_hWnd, IDC_FINDINGS)), Many);
     kztest::DispatchPending();
     EXPECT_FALSE(m_window->IsChecking()) << "nothing has changed";
 }

@@ -205,6 +205,24 @@ TEST_F(WithoutProject, OffersTheRecentProjects)
     EXPECT_FALSE(::IsWindowVisible(Control(IDC_RECENT)));
 }
 
+TEST_F(WithoutProject, RemembersItsPlaceAndItsColumns)
+{
+    constexpr int column = 2;
+    ASSERT_TRUE(m_window.Create());
+    m_window.MoveWindow(40, 30, 900, 600);
+    const int before = ListView_GetColumnWidth(Control(IDC_DEVICES), column);
+    ListView_SetColumnWidth(Control(IDC_DEVICES), column, before + 60);
+    m_window.SendMessage(WM_CLOSE);
+    SettingsFile settings(m_copied.Path() / "settings.xml");
+    MainWindow next(m_modules, settings, nullptr);
+    ASSERT_TRUE(next.Create());
+    CRect place;
+    next.GetWindowRect(&place);
+    EXPECT_EQ(place, CRect(40, 30, 940, 630));
+    EXPECT_NEAR(ListView_GetColumnWidth(kztest::ControlIn(next.m_hWnd, IDC_DEVICES), column), before + 60, 1);
+    next.DestroyWindow();
+}
+
 TEST_F(WithoutProject, HasNoCommandThatNeedsOne)
 {
     ASSERT_TRUE(m_window.Create());
