@@ -157,8 +157,10 @@ TEST_P(MainWindowAccess, FollowsNewColours)
     }));
     const HWND after = EmbeddedIn(Control(IDC_PANE));
     EXPECT_EQ(::GetFocus(), ::GetDlgItem(after, KZSectionButtonBase + KZSectionUnits));
-    const auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
-        after, WM_CTLCOLORDLG, reinterpret_cast<WPARAM>(::GetDC(after)), reinterpret_cast<LPARAM>(after)));
+    const HDC dc = ::GetDC(after);
+    const auto brush = reinterpret_cast<HBRUSH>(
+        ::SendMessageW(after, WM_CTLCOLORDLG, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(after)));
+    ::ReleaseDC(after, dc);
     LOGBRUSH background{};
     ASSERT_NE(::GetObjectW(brush, sizeof background, &background), 0);
     EXPECT_EQ(background.lbColor, RGB(20, 0, 40));
