@@ -68,7 +68,7 @@ void CutTextTips::OnMouseMove(POINT point)
     ::SendMessageW(m_tips, TTM_POP, 0, 0);
     const RECT place = cell.row < 0 ? RECT{} : PlaceOf(cell);
     std::wstring text = cell.row < 0 ? std::wstring() : TextOf(cell);
-    if (!IsCut(text, place))
+    if (cell.column != m_wholeColumn && !IsCut(text, place))
         text.clear();
     Tell(TTM_UPDATETIPTEXTW, place, std::move(text));
     Tell(TTM_NEWTOOLRECTW, place, {});
@@ -87,10 +87,6 @@ CutTextTips::Cell CutTextTips::CellAt(POINT point) const noexcept
         LVHITTESTINFO hit{};
         hit.pt = point;
         ::SendMessageW(m_list, LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
-        // There the list has tips of its own.
-        const LRESULT style = ::SendMessageW(m_list, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
-        if (hit.iSubItem == 0 && (style & LVS_EX_INFOTIP) != 0)
-            return {};
         return {hit.iItem, hit.iSubItem};
     }
     const LRESULT row = ::SendMessageW(m_list, LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y));

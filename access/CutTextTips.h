@@ -19,6 +19,9 @@ public:
     // is made at the first movement of the mouse.
     void Attach(HWND list);
 
+    // Tells the text of a column's cells even where it is not cut: the list paints less than it answers.
+    void TellWhole(int column) noexcept { m_wholeColumn = column; }
+
     // The tool tip window; null until the mouse has moved.
     [[nodiscard]] HWND Window() const noexcept { return m_tips; }
 
@@ -44,4 +47,5 @@ private:
     HWND m_tips = nullptr;
     WNDPROC m_previous = nullptr;
     Cell m_cell;
+    int m_wholeColumn = -1;
 };

@@ -36,6 +36,8 @@ protected:
 
     // Makes a column as wide as its texts, but no narrower than its own width.
     virtual void FitToTexts(int column);
+    // The tool tips tell the texts of this column, cut or not.
+    void TellWhole(int column) noexcept { m_tips.TellWhole(column); }
     [[nodiscard]] int OwnWidth(int column) const;
     [[nodiscard]] int ColumnCount() const noexcept { return static_cast<int>(m_columns.size()); }
 

@@ -89,16 +89,23 @@ TEST_P(MainWindowAccess, TellsBySignsWhatTheirButtonsDo)
     ExpectTips();
 }
 
-TEST_P(MainWindowAccess, ShowsTheWholeTextOfACutCell)
+TEST_P(MainWindowAccess, ShowsTheWholeTextOfACutCellAndSignsInWords)
 {
     const HWND list = Control(IDC_DEVICES);
-    constexpr int Name = 2;
-    ListView_SetColumnWidth(list, Name, 12);
-    CRect cell;
-    ListView_GetSubItemRect(list, 0, Name, LVIR_BOUNDS, &cell);
-    ::SendMessageW(list, WM_MOUSEMOVE, 0, MAKELPARAM(cell.left + 3, cell.top + 3));
-    const auto tips = kztest::TextsOfAllTips(m_window.m_hWnd);
-    EXPECT_EQ(std::count(tips.begin(), tips.end(), m_project.Devices().front().name.c_str()), 1);
+    ListView_SetColumnWidth(list, static_cast<int>(DeviceColumn::Signs), 200);
+    ListView_SetColumnWidth(list, static_cast<int>(DeviceColumn::Name), 12);
+    const struct {
+        DeviceColumn column;
+        std::wstring tip;
+    } cells[] = {{DeviceColumn::Signs, GetParam() == KZLanguage::English ? L"marked" : L"marcado"},
+                 {DeviceColumn::Name, m_project.Devices().front().name.c_str()}};
+    for (const auto& [column, tip] : cells) {
+        CRect cell;
+        ListView_GetSubItemRect(list, 0, static_cast<int>(column), LVIR_BOUNDS, &cell);
+        ::SendMessageW(list, WM_MOUSEMOVE, 0, MAKELPARAM(cell.left + 3, cell.top + 3));
+        const auto tips = kztest::TextsOfAllTips(m_window.m_hWnd);
+        EXPECT_EQ(std::count(tips.begin(), tips.end(), tip), 1) << testing::PrintToString(tip);
+    }
 }
 
 TEST_P(MainWindowAccess, CopiesTheMarkedDevices)

@@ -41,7 +41,6 @@ BEGIN_MESSAGE_MAP(MainWindow, CDialog)
     ON_COMMAND_RANGE(IDC_FIRST_COMMAND, IDC_LAST_COMMAND, &MainWindow::OnMenuCommand)
     ON_CONTROL(EN_CHANGE, IDC_FIND, &MainWindow::OnFindText)
     ON_NOTIFY(LVN_GETDISPINFO, IDC_DEVICES, &MainWindow::OnDeviceText)
-    ON_NOTIFY(LVN_GETINFOTIP, IDC_DEVICES, &MainWindow::OnDeviceTip)
     ON_NOTIFY(LVN_ODFINDITEM, IDC_DEVICES, &MainWindow::OnFindDevice)
     ON_NOTIFY(LVN_ITEMCHANGED, IDC_DEVICES, &MainWindow::OnMarkDevice)
     ON_NOTIFY(LVN_ODSTATECHANGED, IDC_DEVICES, &MainWindow::OnMarkDevice)
@@ -295,12 +294,6 @@ void MainWindow::OnDeviceText(NMHDR* header, LRESULT* result)
 {
     *result = 0;
     m_lstDevices.Answer(*header, *result);
-}
-
-void MainWindow::OnDeviceTip(NMHDR* header, LRESULT* result)
-{
-    *result = 0;
-    m_lstDevices.GiveTip(*reinterpret_cast<NMLVGETINFOTIPW*>(header));
 }
 
 void MainWindow::OnFindDevice(NMHDR* header, LRESULT* result)

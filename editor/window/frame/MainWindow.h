@@ -121,7 +121,6 @@ protected:
     afx_msg void OnMenuCommand(UINT id);
     afx_msg void OnFindText();
     afx_msg void OnDeviceText(NMHDR* header, LRESULT* result);
-    afx_msg void OnDeviceTip(NMHDR* header, LRESULT* result);
     afx_msg void OnFindDevice(NMHDR* header, LRESULT* result);
     afx_msg void OnMarkDevice(NMHDR* header, LRESULT* result);
     afx_msg void OnDeviceKey(NMHDR* header, LRESULT* result);

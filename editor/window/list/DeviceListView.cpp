@@ -37,7 +37,8 @@ void DeviceListView::SetUp()
 {
     RowList::SetUp(Columns, static_cast<int>(DeviceColumn::Description),
                    [this](int row, int column) { return Text(row, column); });
-    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_INFOTIP | LVS_EX_HEADERDRAGDROP);
+    SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_HEADERDRAGDROP);
+    TellWhole(static_cast<int>(DeviceColumn::Signs));
     ShowSortArrow();
 }
 
@@ -139,11 +140,6 @@ std::wstring DeviceListView::Text(int row, int column) const
     if (kind == DeviceColumn::Signs)
         return m_bPainting ? Signs(row) : SignWords(row);
     return m_pRows->Text(DeviceOf(row), kind);
-}
-
-void DeviceListView::GiveTip(NMLVGETINFOTIPW& tip) const
-{
-    ::lstrcpynW(tip.pszText, Text(tip.iItem, static_cast<int>(DeviceColumn::Signs)).c_str(), tip.cchTextMax);
 }
 
 int DeviceListView::Find(const NMLVFINDITEMW& wanted) const

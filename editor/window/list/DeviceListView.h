@@ -1,5 +1,6 @@
 // The project's devices in a report list: signs, number, name, description, chosen variables, model. The signs are for
-// the eye alone: who asks for their text, as a screen reader does, is told it in words, and so is who copies.
+// the eye alone: who asks for their text, as a screen reader does, is told it in words, and so is who copies or points
+// at them.
 #pragma once
 
 #include "DeviceRows.h"
@@ -20,8 +21,6 @@ public:
     // Sorts by a column whose head was clicked: downwards when it is sorted upwards already.
     void SortBy(int column);
 
-    // Answers LVN_GETINFOTIP.
-    void GiveTip(NMLVGETINFOTIPW& tip) const;
     // Answers LVN_ODFINDITEM, by which the list finds the number that somebody types. Returns -1 when there is none.
     [[nodiscard]] int Find(const NMLVFINDITEMW& wanted) const;
 
