@@ -17,6 +17,21 @@ namespace {
 
 constexpr PageName Pages[] = {PageName::Values, PageName::Variables, PageName::Options};
 
+// As the program's loop does, which lets dialogs see their keys first.
+void PumpAll()
+{
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
+        AfxPumpMessage();
+}
+
+void PressWithControl(HWND control, WPARAM key)
+{
+    const kztest::HeldKeys held({VK_CONTROL});
+    ::PostMessageW(control, WM_KEYDOWN, key, 1);
+    PumpAll();
+}
+
 class MainWindowAccess : public editor_tests::OpenMainWindow, public testing::WithParamInterface<KZLanguage> {
 protected:
     MainWindowAccess() { KZQuorvelantaSetup::Get()->SetLanguage(GetParam()); }
@@ -33,9 +48,7 @@ protected:
     void MoveMouse() const
     {
         ::PostMessageW(m_window.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(1, 1));
-        MSG message;
-        while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
-            AfxPumpMessage();
+        PumpAll();
     }
     void ExpectTips() const
     {
@@ -106,6 +119,17 @@ TEST_P(MainWindowAccess, ShowsTheWholeTextOfACutCellAndSignsInWords)
         const auto tips = kztest::TextsOfAllTips(m_window.m_hWnd);
         EXPECT_EQ(std::count(tips.begin(), tips.end(), tip), 1) << testing::PrintToString(tip);
     }
+}
+
+TEST_P(MainWindowAccess, ChangesThePageByControlAndThePageKeys)
+{
+    m_window.ShowPage(PageName::Values);
+    PressWithControl(Control(IDC_DEVICES), VK_NEXT);
+    EXPECT_EQ(m_window.ShownPage(), PageName::Variables);
+    PressWithControl(Control(IDC_CHOSEN), VK_NEXT);
+    EXPECT_EQ(m_window.ShownPage(), PageName::Options);
+    PressWithControl(Control(IDC_FIND), VK_PRIOR);
+    EXPECT_EQ(m_window.ShownPage(), PageName::Variables);
 }
 
 TEST_P(MainWindowAccess, CopiesTheMarkedDevices)
@@ -216,6 +240,14 @@ TEST_P(StartPageAccess, HasNamesAndAccessKeysOfTheirOwn)
     kztest::DispatchPending();
     EXPECT_GE(kztest::ExpectNamesOfTheirOwn(m_window.m_hWnd, m_accessibility.names), 3);
     EXPECT_GT(kztest::ExpectAccessKeysOfTheirOwn(m_window.m_hWnd).size(), 8U);
+}
+
+TEST_P(StartPageAccess, LeavesTheHiddenPagesAlone)
+{
+    ASSERT_TRUE(m_window.Create());
+    PressWithControl(kztest::ControlIn(m_window.m_hWnd, IDC_RECENT), VK_NEXT);
+    EXPECT_EQ(m_window.ShownPage(), PageName::Values);
+    EXPECT_FALSE(::IsWindowVisible(kztest::ControlIn(m_window.m_hWnd, IDC_CHOSEN)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, StartPageAccess, testing::Values(KZLanguage::English, KZLanguage::Spanish),
