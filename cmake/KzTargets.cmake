@@ -34,6 +34,24 @@ function(kz_common target)
   endif()
 endfunction()
 
+# kz_precompiled(NAME header...): a target for others to reuse, which compiles these headers once. They are most of what
+# the compiler reads. The second compiler reads them with every source, and so finds what a source forgets to include.
+function(kz_precompiled name)
+  file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/${name}.cpp CONTENT "")
+  add_library(${name} OBJECT ${CMAKE_BINARY_DIR}/${name}.cpp)
+  kz_common(${name})
+  target_precompile_headers(${name} PRIVATE ${ARGN})
+endfunction()
+
+# Those of sources without windows, and of those that show some.
+set(KZ_COMMON_HEADERS <algorithm> <array> <filesystem> <functional> <map> <memory> <optional> <span> <string>
+  <string_view> <vector>)
+kz_precompiled(kz_headers ${KZ_COMMON_HEADERS})
+if(WIN32)
+  kz_precompiled(kz_window_headers ${KZ_COMMON_HEADERS} <afxwin.h> <commctrl.h>)
+  target_link_libraries(kz_window_headers PRIVATE KZMfc)
+endif()
+
 # What a release build ships: without the time of the build, which objcopy and strip write too unless told -p, and with its symbols in
 # symbols/FILE.debug, known by the id in both.
 function(kz_shipped target)

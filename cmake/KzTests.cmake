@@ -32,15 +32,12 @@ else()
   set(KZ_TEST_PLATFORM native)
 endif()
 
-# What nearly every test includes is most of what the compiler reads; it reads it once, for all programs.
+# What nearly every test includes.
 function(kz_test_headers)
-  file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/tests/Headers.cpp CONTENT "")
-  add_library(kz_test_headers OBJECT ${CMAKE_BINARY_DIR}/tests/Headers.cpp)
-  kz_common(kz_test_headers)
+  kz_precompiled(kz_test_headers <gmock/gmock.h> <gtest/gtest.h> <algorithm> <filesystem> <functional> <map> <optional>
+    <string> <vector> $<$<BOOL:${WIN32}>:<afxwin.h$<ANGLE-R>>)
   target_compile_options(kz_test_headers PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${KZ_TEST_OPTIMIZATION}>")
   target_link_libraries(kz_test_headers PRIVATE $<TARGET_NAME_IF_EXISTS:KZMfc> gmock gtest)
-  target_precompile_headers(kz_test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h> <algorithm> <filesystem> <functional>
-    <map> <optional> <string> <vector> $<$<BOOL:${WIN32}>:<afxwin.h$<ANGLE-R>>)
 endfunction()
 
 # kz_suites(PROGRAM property...): one ctest entry for each suite of a program, with these properties.

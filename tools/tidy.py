@@ -38,10 +38,20 @@ def read_files(build):
     return found
 
 
+def commands(build):
+    """The build's commands, for clang: without g++'s precompiled headers. They are kept where clang-tidy looks for them."""
+    text = (build / "compile_commands.json").read_text(encoding="utf-8")
+    text = re.sub(r" -Winvalid-pch -include \S+", "", text)
+    kept = STAMPS / build.name / "compile_commands.json"
+    kept.parent.mkdir(parents=True, exist_ok=True)
+    kept.write_text(text, encoding="utf-8")
+    return json.loads(text)
+
+
 def jobs(build, sources):
     """{source: (build, source, stamp, its new content)} of each of the product's sources that this build compiles."""
     files, found = read_files(build), {}
-    for entry in json.loads((build / "compile_commands.json").read_text(encoding="utf-8")):
+    for entry in commands(build):
         name = os.path.relpath(entry["file"], ROOT)
         if not name.startswith(PRODUCT) or not name.endswith(".cpp") or name in found or (sources and name not in sources):
             continue
@@ -59,7 +69,7 @@ def look(job):
     build, source, stamp, state = job
     if stamp.is_file() and stamp.read_text(encoding="ascii") == state:
         return True
-    done = subprocess.run([TIDY, "-p", build, "--quiet", ROOT / source], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+    done = subprocess.run([TIDY, "-p", STAMPS / build.name, "--quiet", ROOT / source], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
     if done.returncode == 0 and not done.stdout:
         stamp.parent.mkdir(parents=True, exist_ok=True)
         stamp.write_text(state, encoding="ascii")

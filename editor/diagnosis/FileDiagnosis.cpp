@@ -59,7 +59,7 @@ void DiagnoseModules(Diagnosis& diagnosis, const ModuleLoader& modules)
     for (const ModuleRow& row : ModuleRows(modules)) {
         const std::wstring state = FromUtf8(row.stateWord);
         const std::wstring value = row.version.empty() ? state : row.version + L" " + state;
-        const std::wstring fault = row.status.IsReady() ? L"" : row.status.reason + L" " + row.status.remedy;
+        const std::wstring fault = row.status.IsReady() ? std::wstring() : row.status.reason + L" " + row.status.remedy;
         diagnosis.push_back({"module", row.file, value, fault});
     }
 }

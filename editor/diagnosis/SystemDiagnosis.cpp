@@ -111,7 +111,7 @@ void DiagnoseFont(Diagnosis& diagnosis, HDC context, const wchar_t* name)
     ::SelectObject(context, before);
     ::DeleteObject(font);
     const std::wstring fault =
-        missing.empty() ? L"" : FormatEditorText(IDS_DIAGNOSIS_FONT, face.c_str(), missing.c_str());
+        missing.empty() ? std::wstring() : FormatEditorText(IDS_DIAGNOSIS_FONT, face.c_str(), missing.c_str());
     diagnosis.push_back({"font", name, face, fault});
 }
 

@@ -21,7 +21,7 @@ std::wstring PatternOf(std::wstring name)
 
 std::wstring FreeNumber(const plant::Project& project)
 {
-    return plant::NamesFromPattern(project, L"#", L"", 1, L"").front().number;
+    return plant::NamesFromPattern(project, L"#", {}, 1, {}).front().number;
 }
 
 }  // namespace
@@ -61,7 +61,7 @@ void DuplicateDevice(MainWindow& window)
     const std::size_t from = window.MarkedPlaces().front();
     const plant::DeviceNaming original = plant::NamingOf(project.Devices()[from]);
     DuplicateDeviceDialog dialog(
-        &window, {L"1", PatternOf(original.name), L"", original.description},
+        &window, {.pattern = PatternOf(original.name), .description = original.description},
         [&](const DuplicateEntries& entries, std::size_t count) {
             return plant::NamesFromPattern(project, entries.pattern, entries.firstNumber, count, entries.description);
         },

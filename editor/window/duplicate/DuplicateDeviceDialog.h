@@ -10,9 +10,9 @@
 // What is typed; the number and the count are digits.
 struct DuplicateEntries {
     std::wstring count = L"1";
-    std::wstring pattern;
-    std::wstring firstNumber;
-    std::wstring description;
+    std::wstring pattern{};
+    std::wstring firstNumber{};
+    std::wstring description{};
 };
 
 class DuplicateDeviceDialog : public EditorDialog {
