@@ -105,7 +105,7 @@ std::vector<KZBasicString> DuplicateDevice(Project& project, std::size_t from, s
         const KZBasicString driverId = free.Take(naming.name);
         AppendDevice({driverId, naming, source.typeName, groups});
         CopySetups(source.driverId, driverId);
-        StoreChosenVariables(main, driverId, RenamedVariables(variables, source.name, naming.name));
+        SetChosenVariables(main, driverId, RenamedVariables(variables, source.name, naming.name));
         documents.emplace(DeviceDocumentName(driverId), bytes);
         driverIds.push_back(driverId);
     }
@@ -127,7 +127,7 @@ void RenameDevice(Project& project, std::size_t device, const DeviceNaming& nami
     if (present.description != KZBasicString(naming.description))
         element.SetValue(L"description", naming.description.c_str());
     const VariableList variables = ChosenVariables(main, present.driverId);
-    StoreChosenVariables(main, present.driverId, RenamedVariables(variables, present.name, naming.name));
+    SetChosenVariables(main, present.driverId, RenamedVariables(variables, present.name, naming.name));
     project.ReadDevicesAnew();
     project.KeepUnsaved({}, true);
 }

@@ -170,8 +170,8 @@ void TakingBack::TakeNaming(const ReviewLine& line)
     if (line.what == What::Name && std::any_of(devices.begin(), devices.end(), isTaken))
         throw Refusal(IDS_PLANT_CANNOT_COME_BACK, {saved.name.c_str()});
     if (line.what == What::Name)
-        StoreChosenVariables(m_main, line.driverId,
-                             RenamedVariables(ChosenVariables(m_main, line.driverId), device->name, saved.name));
+        SetChosenVariables(m_main, line.driverId,
+                           RenamedVariables(ChosenVariables(m_main, line.driverId), device->name, saved.name));
     const wchar_t* const name = line.what == What::Name     ? L"name"
                                 : line.what == What::Number ? L"number"
                                                             : L"description";

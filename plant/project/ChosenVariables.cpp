@@ -35,10 +35,10 @@ void ForEachChoice(const XmlDocument& document,
         tell(selection->Value(zep::DriverIdName, L""), selection->Value(L"variables", L""));
 }
 
-void StoreChosenVariables(XmlDocument& document, const KZBasicString& driverId, const VariableList& variables)
+bool SetChosenVariables(XmlDocument& document, const KZBasicString& driverId, const VariableList& variables)
 {
     if (ChosenVariables(document, driverId) == variables)
-        return;
+        return false;
     XmlDocument::XmlNode* selection = zep::FindSetup(document, Selections, driverId);
     if (!selection)
         selection = &zep::AppendSetup(document, Selections, driverId);
@@ -48,7 +48,13 @@ void StoreChosenVariables(XmlDocument& document, const KZBasicString& driverId, 
         text += variable.View();
     }
     selection->SetValue(L"variables", text.c_str());
-    document.SetDirty(true);
+    return true;
+}
+
+void StoreChosenVariables(XmlDocument& document, const KZBasicString& driverId, const VariableList& variables)
+{
+    if (SetChosenVariables(document, driverId, variables))
+        document.SetDirty(true);
 }
 
 VariableList MergeChoices(const VariableList& earlier, const VariableList& added)

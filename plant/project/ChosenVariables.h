@@ -25,7 +25,10 @@ using VariableList = std::list<KZBasicString>;
 void ForEachChoice(const XmlDocument& document,
                    const std::function<void(const KZBasicString& driverId, std::wstring_view lines)>& tell);
 
-// Replaces the driver's chosen variables and marks the document dirty. Nothing happens when they are the same.
+// Replaces the driver's chosen variables, as a part of a change that marks the document dirty at its end: that puts the
+// whole document into the recovery file. Returns whether they were others.
+bool SetChosenVariables(XmlDocument& document, const KZBasicString& driverId, const VariableList& variables);
+// The same as a change of its own, which marks the document dirty. Nothing happens when they are the same.
 void StoreChosenVariables(XmlDocument& document, const KZBasicString& driverId, const VariableList& variables);
 
 // A select-variables dialog hands back the new choices only; the earlier ones stay chosen too. No name comes twice.

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "FaultyDisk.h"
 #include "InformationRecord.h"
 #include "KZStringIds.h"
 #include "KZUtf8.h"
@@ -263,6 +264,28 @@ TEST_F(DeviceEditTest, RemovesDevicesWithAllThatIsTheirs)
     m_project->Restore(1, false);
     EXPECT_TRUE(std::filesystem::exists(m_folder.Path() / "devices/zep-1.xml"));
     EXPECT_EQ(Main(), before);
+}
+
+// The whole document goes into the recovery file each time.
+TEST_F(DeviceEditTest, ProtectsAsOftenForManyDuplicatesAsForOne)
+{
+    kztest::FaultyDisk disk(RealDisk());
+    m_undo.reset();
+    m_project.reset();
+    m_project.emplace(m_folder.Path(), disk);
+    int number = 10;
+    const auto operationsFor = [&](std::size_t count) {
+        std::vector<DeviceNaming> names;
+        for (std::size_t name = 0; name < count; ++name)
+            names.push_back({L"D" + std::to_wstring(number++), L"", L""});
+        disk.FailAt(0);
+        DuplicateDevice(*m_project, 0, names);
+        return disk.Count();
+    };
+    operationsFor(1);  // makes the recovery file
+    const long one = operationsFor(1);
+    EXPECT_EQ(operationsFor(20), one);
+    m_project->Discard();
 }
 
 }  // namespace
