@@ -107,7 +107,7 @@ bool UndoList::Do(Message name, std::span<const KZBasicString> driverIds, const 
 void UndoList::Make(const Step& step, Change& pending, const std::function<void()>& change)
 {
     KZMainCfg::Get()->StartRecording();
-    m_project.m_doing.emplace();
+    m_project.m_doing = Project::Doing{};
     try {
         change();
     } catch (...) {

@@ -30,6 +30,12 @@ protected:
         m_window = editor.WindowTitled(CleanTitle);
         if (!m_window)
             throw std::runtime_error("the main window does not appear");
+        // Behind what the window posts to itself at its start: a test that changes files would meet its first look at
+        // them halfway.
+        const HWND find = Control(IDC_FIND);
+        ::PostMessageW(find, EM_SETMODIFY, TRUE, 0);
+        if (!WaitUntil([&] { return ::SendMessageW(find, EM_GETMODIFY, 0, 0) != 0; }))
+            throw std::runtime_error("the main window does not answer");
     }
 
     [[nodiscard]] HWND Control(int id) const { return kztest::ControlIn(m_window, id); }
