@@ -6,11 +6,13 @@
 
 template <class Class>
 class Enlisted {
+public:
+    Enlisted(const Enlisted&) = delete;
+    Enlisted& operator=(const Enlisted&) = delete;
+
 protected:
     Enlisted() noexcept = default;
     ~Enlisted() { Leave(); }
-    Enlisted(const Enlisted&) = delete;
-    Enlisted& operator=(const Enlisted&) = delete;
 
     void Enlist() noexcept
     {
