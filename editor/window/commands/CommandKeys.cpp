@@ -42,7 +42,7 @@ std::wstring CodeText(WORD code)
             return EditorText(key.text);
     if (code >= VK_F1 && code <= VK_F12)
         return L"F" + std::to_wstring(code - VK_F1 + 1);
-    return std::wstring(1, static_cast<wchar_t>(code));
+    return {static_cast<wchar_t>(code)};
 }
 
 }  // namespace

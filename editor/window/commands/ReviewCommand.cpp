@@ -54,6 +54,7 @@ void ReviewChanges(MainWindow& window)
         return;
     }
     std::vector<ChangeRow> rows;
+    rows.reserve(lines.size());
     for (const plant::ReviewLine& line : lines)
         rows.push_back({FromUtf8(line.device), WhatText(line), ValueText(line, line.before),
                         ValueText(line, line.after), line.what != What::Other});
