@@ -248,7 +248,8 @@ void MainWindow::OnSize(UINT type, int cx, int cy)
 
 void MainWindow::OnGetMinMaxInfo(MINMAXINFO* information)
 {
-    CRect smallest(CPoint(), FrameLayout::Smallest(*this));
+    const CSize client = FrameLayout::Smallest(*this);
+    CRect smallest(0, 0, client.cx, client.cy);
     ::AdjustWindowRectEx(&smallest, GetStyle(), TRUE, 0);
     information->ptMinTrackSize = {smallest.Width(), smallest.Height()};
     // Windows cuts a new window to the screen, and its controls with it; one that sticks out can at least be moved.

@@ -78,7 +78,7 @@ LRESULT MainWindow::OnContextMenu(WPARAM wParam, LPARAM lParam)
         return Default();
     CPoint place(lParam);
     // By the keyboard: below the row that has the focus.
-    if (place.x == -1 && place.y == -1) {
+    if (lParam == -1) {
         CRect row(LVIR_LABEL, 0, 0, 0);
         m_lstDevices.SendMessage(LVM_GETITEMRECT, static_cast<WPARAM>(m_lstDevices.GetNextItem(-1, LVNI_FOCUSED)),
                                  reinterpret_cast<LPARAM>(static_cast<LPRECT>(row)));

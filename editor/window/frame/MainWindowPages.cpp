@@ -174,5 +174,10 @@ void MainWindow::GoToPane(int step)
             now = pane;
     if (::IsChild(PageWindow(), focus))
         now = 3;
-    GotoDlgCtrl(panes[static_cast<std::size_t>((now + count + step) % count)]);
+    now += step;
+    if (now < 0)
+        now = count - 1;
+    else if (now == count)
+        now = 0;
+    GotoDlgCtrl(panes[static_cast<std::size_t>(now)]);
 }

@@ -12,6 +12,7 @@
 #include "KZDriverDeviceZEP.h"
 #include "KZQuorvelantaSetup.h"
 #include "ParameterNames.h"
+#include "SystemColour.h"
 #include "TestDialog.h"
 #include "TestHub.h"
 
@@ -168,26 +169,11 @@ TEST_F(ChildHub, HasTheBackgroundThatItWasGiven)
     EXPECT_EQ(BackgroundOf(*m_hub, WM_CTLCOLORSTATIC, m_hub->GetDlgItem(1210)->m_hWnd), RGB(250, 240, 230));
 }
 
-// Sets a colour of the system, which tells all windows, and sets it back.
-class SystemColour {
-public:
-    SystemColour(int index, COLORREF colour) : m_index(index), m_before(::GetSysColor(index)) { Set(colour); }
-    ~SystemColour() { Set(m_before); }
-    SystemColour(const SystemColour&) = delete;
-    SystemColour& operator=(const SystemColour&) = delete;
-
-private:
-    void Set(COLORREF colour) const { ::SetSysColors(1, &m_index, &colour); }
-
-    int m_index;
-    COLORREF m_before;
-};
-
 TEST_F(ChildHub, FollowsTheSystemsWindowColour)
 {
     m_hub->SetBackgroundColor(::GetSysColor(COLOR_WINDOW));
     ASSERT_TRUE(m_hub->Create(m_parent->Window()));
-    const SystemColour window(COLOR_WINDOW, RGB(10, 20, 30));
+    const kztest::SystemColour window(COLOR_WINDOW, RGB(10, 20, 30));
     m_hub->SendMessage(WM_SYSCOLORCHANGE);
     EXPECT_EQ(BackgroundOf(*m_hub, WM_CTLCOLORDLG, m_hub->m_hWnd), RGB(10, 20, 30));
 }
@@ -196,7 +182,7 @@ TEST_F(ChildHub, KeepsAColourOfItsOwn)
 {
     m_hub->SetBackgroundColor(RGB(250, 240, 230));
     ASSERT_TRUE(m_hub->Create(m_parent->Window()));
-    const SystemColour window(COLOR_WINDOW, RGB(10, 20, 30));
+    const kztest::SystemColour window(COLOR_WINDOW, RGB(10, 20, 30));
     m_hub->SendMessage(WM_SYSCOLORCHANGE);
     EXPECT_EQ(BackgroundOf(*m_hub, WM_CTLCOLORDLG, m_hub->m_hWnd), RGB(250, 240, 230));
 }
