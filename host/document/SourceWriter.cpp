@@ -151,7 +151,7 @@ std::size_t SourceWriter::EndOfElement(std::size_t offset) const noexcept
         const std::size_t mark = std::min(m_text.find(L'<', tag.end), m_text.size());
         const std::wstring_view rest = std::wstring_view(m_text).substr(mark);
         if (rest.starts_with(L"<!--")) {
-            tag.end = EndBehind(L"-->", mark);
+            tag.end = EndBehind(L"-->", mark + 4);  // a comment may begin with ">"
         } else if (rest.starts_with(L"<![CDATA[")) {
             tag.end = EndBehind(L"]]>", mark);
         } else if (rest.starts_with(L"<?")) {

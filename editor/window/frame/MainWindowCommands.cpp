@@ -76,7 +76,7 @@ LRESULT MainWindow::OnContextMenu(WPARAM wParam, LPARAM lParam)
 {
     if (reinterpret_cast<HWND>(wParam) != m_lstDevices.m_hWnd)
         return Default();
-    CPoint place(lParam);
+    CPoint place(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
     // By the keyboard: below the row that has the focus.
     if (lParam == -1) {
         CRect row(LVIR_LABEL, 0, 0, 0);

@@ -55,6 +55,7 @@ INSTANTIATE_TEST_SUITE_P(
         Text{"CommentsAround", "<?xml version='1.0'?>\n<!-- before -->\n<r>\n\t<v>old</v>\n\t<!-- in - the middle? "
                                "yes -->\n</r>\n<!-- after "
                                "-->\n\n"},
+        Text{"ACommentThatBeginsLikeAnEnd", "<r><v>old</v><c><!--></c>--><d/></c></r>"},
         Text{"ProcessingInstructions", "<?pi some data?><r><?inner more?><v>old</v><?empty?></r><?last?>"},
         Text{"BlanksInTags", "<r   a = \"1\"\n     b='say \"hi\"' c=\"it's &lt; &#10;\"  ><v x=\"1\">old</v  ></r >"},
         Text{"EmptyElements", "<r><e/><e /><e></e><e a='1'/><e a=\"1\"\n/><v>old</v><e>\n</e></r>"},
