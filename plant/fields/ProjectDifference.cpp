@@ -67,7 +67,8 @@ std::vector<FieldDifference> Differences(const ReadProject& here, const ReadProj
                 differences.push_back(
                     {name, Kind::Type, nullptr, ToUtf8(device.typeName.View()), ToUtf8(other.typeName.View())});
         } else if (HasTable(device)) {
-            Compare(differences, name, readHere.Read(device), readThere.Read(other));
+            const DeviceRecords& valuesHere = readHere.Read(device);
+            Compare(differences, name, valuesHere, readThere.Read(other, &readHere));
         }
     }
     for (const KZDeviceIdentity& device : there.devices) {

@@ -42,14 +42,20 @@ void StoredProject::ReadMain(XmlDocument& main) const
     ParseDocument(main, *bytes, file);
 }
 
+std::optional<std::string> StoredProject::ReadDevice(const std::string& name) const
+{
+    std::optional<std::string> bytes = m_disk.Read(FileOf(m_folder, name));
+    if (bytes && bytes->empty())
+        bytes.reset();
+    return bytes;
+}
+
 bool StoredProject::ReadDevice(const std::string& name, XmlDocument& document) const
 {
-    const Path file = FileOf(m_folder, name);
-    const std::optional<std::string> bytes = m_disk.Read(file);
-    if (!bytes || bytes->empty())
-        return false;
-    ParseDocument(document, *bytes, file);
-    return true;
+    const std::optional<std::string> bytes = ReadDevice(name);
+    if (bytes)
+        ParseDocument(document, *bytes, FileOf(m_folder, name));
+    return bytes.has_value();
 }
 
 }  // namespace plant

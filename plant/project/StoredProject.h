@@ -1,6 +1,7 @@
 // The documents of a project as its files hold them, for somebody who only reads, also beside a project that is open.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "Disk.h"
@@ -30,8 +31,12 @@ public:
     // Reads the main configuration document. Throws Refusal when it is missing or broken.
     void ReadMain(XmlDocument& main) const;
 
+    // A device's document, which may be broken; none when it is missing or empty. Throws Refusal when it cannot be
+    // read.
+    [[nodiscard]] std::optional<std::string> ReadDevice(const std::string& name) const;
+
     // Reads a device's document into one with the root element "device". False when it is missing or empty: the
-    // document is then as it was. Throws Refusal when it is broken.
+    // document is then as it was. Throws Refusal when it is broken or cannot be read.
     bool ReadDevice(const std::string& name, XmlDocument& document) const;
 
 private:

@@ -71,6 +71,17 @@ TEST_F(ProjectDifference, OfAProjectFromItselfIsNone)
     EXPECT_THAT(Compare(), IsEmpty());
 }
 
+TEST_F(ProjectDifference, IsFoundInTheMainDocumentWhereTheDevicesDocumentsAreTheSame)
+{
+    WriteDevicesOf(m_other, {{"zep-1", "Feeder 1"}, {"zep-3", "Feeder 3"}},
+                   "<unitSetups><unitSetup><driverId>zep-1</driverId><unit><name>RP</name><decimals>2</decimals>"
+                   "<factor>0</factor></unit></unitSetup></unitSetups>");
+    for (const kztest::TemporaryFolder* folder : {&m_folder, &m_other})
+        WriteInformation(*folder, "zep-1", "<mode>2</mode><minCurrent>7</minCurrent>");
+    WriteInformation(m_folder, "zep-3", "<mode>2</mode>");
+    EXPECT_THAT(Compare(), ElementsAre("Feeder 1: units.RP.decimals 1|2", "Feeder 3: device.mode reactive|none"));
+}
+
 TEST_F(ProjectDifference, IsRefusedForABrokenDocument)
 {
     WriteDevicesOf(m_other, {{"zep-1", "Feeder 1"}});
