@@ -5,12 +5,13 @@
 #include "KZMainCfg.h"
 #include "changes/UndoList.h"
 #include "project/DocumentName.h"
+#include "project/StoredProject.h"
 
-Documents WindowModel::OnDisk() const
+Documents DocumentsIn(const plant::Path& folder)
 {
     Documents documents;
-    for (const auto& [name, file] : m_project.FilesOnDisk())
-        documents.emplace(name, m_project.SavedContent(name).value_or("gone"));
+    for (const auto& [name, file] : plant::StoredProject(folder).Documents())
+        documents.emplace(name, plant::RealDisk().Read(plant::FileOf(folder, name)).value_or("gone"));
     return documents;
 }
 

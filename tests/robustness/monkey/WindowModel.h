@@ -9,6 +9,9 @@
 // Every document that a save would leave on disk, byte for byte.
 using Documents = std::map<std::string, std::string>;
 
+// The documents of the project in a folder.
+[[nodiscard]] Documents DocumentsIn(const plant::Path& folder);
+
 class WindowModel {
 public:
     explicit WindowModel(plant::Project& project) : m_project(project) { ReadAnew(); }
@@ -16,7 +19,7 @@ public:
     // The documents as the project has them.
     [[nodiscard]] Documents Shown() const;
     // The documents as its files hold them.
-    [[nodiscard]] Documents OnDisk() const;
+    [[nodiscard]] Documents OnDisk() const { return DocumentsIn(m_project.Folder()); }
 
     // A command has ended that may change something. Returns whether it has.
     bool Changed();

@@ -20,9 +20,10 @@ TEST(RandomUser, FindsTheMainWindowShowingWhatTheModelHas)
     const WindowUser::Counts& done = user.Done();
     // A user who never brings a change to its end would prove little.
     EXPECT_GT(done.changes, 0);
-    std::printf("%ld events, %ld changes, %ld saves, %ld restores; the slowest took %ld ms; seed %llu\n", log.Count(),
-                done.changes, done.saves, done.restores, log.SlowestMilliseconds(),
-                static_cast<unsigned long long>(seed));
+    std::printf("%ld events, %ld changes, %ld saves, %ld restores, %ld openings, %ld copies; the slowest took %ld ms; "
+                "seed %llu\n",
+                log.Count(), done.changes, done.saves, done.restores, done.openings, done.copies,
+                log.SlowestMilliseconds(), static_cast<unsigned long long>(seed));
 }
 
 }  // namespace

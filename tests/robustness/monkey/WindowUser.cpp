@@ -12,6 +12,7 @@
 #include "fields/FieldQuery.h"
 #include "project/ChosenVariables.h"
 #include "window/commands/CommandKeys.h"
+#include "window/open/ProjectFolderControls.h"
 
 namespace {
 
@@ -115,6 +116,9 @@ void WindowUser::RunWithDialogs(int command)
     StepLoop loop([&] {
         const HWND top = TopDialogOfThread();
         if (top && top != m_window->m_hWnd) {
+            // The system's dialog behind it would make folders anywhere.
+            if (const HWND browse = ::GetDlgItem(top, IDC_FOLDER_BROWSE))
+                ::EnableWindow(browse, FALSE);
             if (IsMessageBox(top))
                 m_dialogUser.Answer(top);
             else if (left-- > 0)
@@ -203,20 +207,6 @@ void WindowUser::Review()
     Changed();
 }
 
-void WindowUser::Restore()
-{
-    const auto last = [this] {
-        const std::vector<plant::HistoryEntry> entries = m_window->Project().Entries();
-        return entries.empty() ? 0 : entries.back().number;
-    };
-    const int before = last();
-    RunWithDialogs(IDC_HISTORY);
-    if (last() == before)
-        return;
-    m_model->ReadAnew();
-    ++m_counts.restores;
-}
-
 void WindowUser::Undo()
 {
     Run(IDC_UNDO);
@@ -227,17 +217,6 @@ void WindowUser::Redo()
 {
     Run(IDC_REDO);
     m_model->Redone();
-}
-
-// Where the user is asked he may say no.
-void WindowUser::Save()
-{
-    const bool wasUnsaved = m_window->IsDirty();
-    RunWithDialogs(IDC_SAVE);
-    if (!wasUnsaved || m_window->IsDirty())
-        return;
-    m_model->Saved();
-    ++m_counts.saves;
 }
 
 void WindowUser::Find()
@@ -308,6 +287,8 @@ void WindowUser::Resize()
 
 std::string WindowUser::Difference()
 {
+    if (!m_fault.empty())
+        return m_fault;
     if (std::string difference = m_model->Difference(); !difference.empty())
         return difference;
     if (m_window->CanUndo() != m_model->CanUndo() || m_window->CanRedo() != m_model->CanRedo())
@@ -333,7 +314,7 @@ std::string WindowUser::Difference()
                : "other devices are marked";
 }
 
-const std::array<WindowUser::Action, 24> WindowUser::Actions = {{
+const std::array<WindowUser::Action, 26> WindowUser::Actions = {{
     {"choose", &WindowUser::Choose},
     {"choose", &WindowUser::Choose},
     {"set a value", &WindowUser::SetValue},
@@ -347,6 +328,8 @@ const std::array<WindowUser::Action, 24> WindowUser::Actions = {{
     {"undo", &WindowUser::Undo},
     {"redo", &WindowUser::Redo},
     {"save", &WindowUser::Save},
+    {"save a copy", &WindowUser::SaveCopy},
+    {"open", &WindowUser::OpenAnother},
     {"find", &WindowUser::Find},
     {"mark", &WindowUser::Mark},
     {"mark", &WindowUser::Mark},
