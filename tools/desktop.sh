@@ -84,13 +84,20 @@ editor_end() {
 window() { probe wait "$1"; }
 window_gone() { probe gone "$1"; }
 until_control() { probe until "$@"; }
+until_menu() { probe menu; }
 
-# click TITLE ID [ITEM]: with the mouse, on a control or on its tab or row ITEM
-click() {
-  local point
+# click TITLE ID [ITEM]: with the mouse, on a control or on its tab or row ITEM; click_for_menu with the right button
+click() { click_with 1 "$@"; }
+click_for_menu() {
+  click_with 3 "$@"
+  until_menu
+}
+click_with() {
+  local button=$1 point
+  shift
   point=$(probe point "$@") || desktop_die "nothing to click: $*"
   # shellcheck disable=SC2086 # two words, x and y
-  xdotool mousemove --sync $point click 1
+  xdotool mousemove --sync $point click "$button"
 }
 key() { xdotool key --clearmodifiers "$@"; }
 type_text() { xdotool type --clearmodifiers "$1"; }

@@ -20,7 +20,7 @@ private:
         std::size_t end;      // behind its ">"
         bool isWholeElement;  // <name/>
     };
-    [[nodiscard]] StartTag FindStartTag(std::size_t offset) const noexcept;
+    [[nodiscard]] StartTag FindStartTag(std::size_t at) const noexcept;
     [[nodiscard]] std::size_t EndOfElement(std::size_t offset) const noexcept;
     [[nodiscard]] std::size_t EndBehind(const wchar_t* mark, std::size_t from) const noexcept;
     [[nodiscard]] std::size_t EndOf(pugi::xml_node_type type, std::size_t offset) const noexcept;

@@ -235,11 +235,12 @@ TreeSteps TreeEdit::StopRecording() noexcept
 
 void TreeEdit::Reverse(const TreeSteps& steps) noexcept
 {
-    for (auto step = steps.rbegin(); step != steps.rend(); ++step)
-        if (step->isAdded)
-            m_attic.append_move(step->node);
+    std::for_each(steps.rbegin(), steps.rend(), [this](const TreeStep& step) {
+        if (step.isAdded)
+            m_attic.append_move(step.node);
         else
-            PutBack(*step);
+            PutBack(step);
+    });
 }
 
 void TreeEdit::Repeat(const TreeSteps& steps) noexcept

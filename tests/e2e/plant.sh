@@ -1,6 +1,6 @@
 # shellcheck shell=bash disable=SC2086,SC2154
 # Building up a plant and looking after it: devices, what was changed, findings, history. Where the items of a menu are cannot
-# be asked of another program, so the menus are opened by their access keys here too.
+# be asked of another program, so menus of the bar are opened, and items of all taken, by their access keys here too.
 
 new_plant=$desktop_folder/new/plant
 
@@ -48,9 +48,8 @@ test_build_a_plant_by_mouse() {
   snapshot duplicate
   click '' $IDOK
   devices 3
-  click "$main_title" $IDC_DEVICES 1
-  until_control "$main_title" $IDC_PAGE_CAPTION TEXT=HORNO2
-  key alt+e n
+  click_for_menu "$main_title" $IDC_DEVICES 1
+  key n
   until_control '' $IDC_RENAME_NAME shown
   fill $IDC_RENAME_NAME CALDERA
   snapshot rename
@@ -96,7 +95,9 @@ test_build_a_plant_by_keyboard() {
   to_list
   key ctrl+Down
   until_control "$main_title" $IDC_PAGE_CAPTION TEXT=HORNO2
-  key F2
+  key shift+F10
+  until_menu
+  key n
   until_control '' $IDC_RENAME_NAME shown
   enter $IDC_RENAME_NAME CALDERA
   key Return

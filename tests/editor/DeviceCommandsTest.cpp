@@ -1,6 +1,7 @@
 // Adding, duplicating, renaming and removing devices from the main window on, and reviewing what is unsaved.
 #include "Controls.h"
 #include "EditorWindowFixture.h"
+#include "HeldKeys.h"
 #include "ListCells.h"
 #include "ModalScript.h"
 #include "project/ChosenVariables.h"
@@ -39,6 +40,30 @@ protected:
     [[nodiscard]] std::size_t VariablesOf(std::size_t place) const
     {
         return plant::ChosenVariables(*KZMainCfg::Get(), m_project.Devices()[place].driverId).size();
+    }
+
+    // What the menu that is open offers now, waited for.
+    [[nodiscard]] static std::vector<int> OfferedByTheMenu()
+    {
+        HWND menu = nullptr;
+        if (!kztest::WaitUntil([&] { return ::IsWindowVisible(menu = ::FindWindowW(L"#32768", nullptr)) != FALSE; }))
+            throw std::runtime_error("no menu opens");
+        const auto items = reinterpret_cast<HMENU>(::SendMessageW(menu, MN_GETHMENU, 0, 0));
+        std::vector<int> ids;
+        for (int item = 0; item < ::GetMenuItemCount(items); ++item)
+            if ((::GetMenuState(items, static_cast<UINT>(item), MF_BYPOSITION) & (MF_GRAYED | MF_SEPARATOR)) == 0)
+                ids.push_back(static_cast<int>(::GetMenuItemID(items, item)));
+        return ids;
+    }
+    // A key that is an item's access key.
+    void TypeIntoTheMenu(wchar_t key) const { ::PostMessageW(m_window.m_hWnd, WM_CHAR, static_cast<WPARAM>(key), 1); }
+    void ClickRight(int row) const
+    {
+        RECT place{};
+        ListView_GetItemRect(Control(IDC_DEVICES), row, &place, LVIR_LABEL);
+        const LPARAM point = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+        ::PostMessageW(Control(IDC_DEVICES), WM_RBUTTONUP, 0, point);
+        ::SendMessageW(Control(IDC_DEVICES), WM_RBUTTONDOWN, MK_RBUTTON, point);
     }
 
     // Undoes and redoes what a command has done, which is what the names say.
@@ -112,6 +137,45 @@ TEST_F(DeviceCommandsTest, RenameChangesTheMarkedDevice)
     });
     EXPECT_EQ(Names().front(), L"TREN99");
     ExpectUndoable(m_before);
+}
+
+TEST_F(DeviceCommandsTest, ARightClickOpensTheMenuOfTheDeviceUnderTheMouse)
+{
+    ChooseDevice(0);
+    ListView_SetItemState(Control(IDC_DEVICES), 1, LVIS_SELECTED, LVIS_SELECTED);
+    {
+        kztest::ModalScript script([this] {
+            EXPECT_EQ(OfferedByTheMenu(),
+                      (std::vector<int>{IDC_SELECT, IDC_OPTIONS, IDC_ADD_DEVICE, IDC_DUPLICATE_DEVICE,
+                                        IDC_RENAME_DEVICE, IDC_REMOVE_DEVICE}));
+            TypeIntoTheMenu(L'n');
+            const HWND dialog = kztest::WaitForDialog({m_window.m_hWnd});
+            EXPECT_EQ(kztest::TextOf(dialog, IDC_RENAME_NAME), m_before[2]);
+            kztest::PostClick(dialog, IDCANCEL);
+            kztest::WaitUntilGone(dialog);
+        });
+        ClickRight(2);
+    }
+    EXPECT_EQ(Names(), m_before);
+}
+
+TEST_F(DeviceCommandsTest, ShiftF10OpensTheMenuOfTheMarkedDevices)
+{
+    ChooseDevice(0);
+    ListView_SetItemState(Control(IDC_DEVICES), 1, LVIS_SELECTED, LVIS_SELECTED);
+    {
+        kztest::ModalScript script([this] {
+            EXPECT_EQ(OfferedByTheMenu(), (std::vector<int>{IDC_ADD_DEVICE, IDC_REMOVE_DEVICE}));
+            TypeIntoTheMenu(L'v');
+            const HWND dialog = kztest::WaitForDialog({m_window.m_hWnd});
+            EXPECT_EQ(ListView_GetItemCount(::GetDlgItem(dialog, IDC_REMOVE_DEVICES)), 2);
+            kztest::PostClick(dialog, IDCANCEL);
+            kztest::WaitUntilGone(dialog);
+        });
+        const kztest::HeldKeys shift({VK_SHIFT});
+        ::SendMessageW(Control(IDC_DEVICES), WM_SYSKEYDOWN, VK_F10, 0);
+    }
+    EXPECT_EQ(Names(), m_before);
 }
 
 TEST_F(DeviceCommandsTest, RenameWithoutAChangeLeavesNothingToUndo)

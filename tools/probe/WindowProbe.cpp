@@ -7,6 +7,7 @@
 //   WindowProbe point TITLE ID [ITEM]    the middle of a control, or of its tab or row ITEM, in screen coordinates
 //   WindowProbe text TITLE ID            the control's text
 //   WindowProbe focus                    the id of the control that has the focus
+//   WindowProbe menu                     until a context menu is open
 //   WindowProbe until TITLE ID STATE     until the control is shown, checked, unchecked, enabled, disabled or
 //                                        focused; holds ITEMS=n rows (list view, list box); has TEXT=… in its text;
 //                                        or has VALUE=… as its whole text
@@ -213,6 +214,8 @@ int Run(const std::vector<std::wstring>& arguments)
     }
     if (verb == L"focus")
         return PrintFocus();
+    if (verb == L"menu")
+        return WaitFor([] { return ::IsWindowVisible(::FindWindowW(L"#32768", nullptr)) != FALSE; });
     const std::wstring& title = arguments.at(1);
     if (verb == L"wait")
         return WaitFor([&] { return FindTopLevel(title, true) != nullptr; });

@@ -6,6 +6,7 @@
 
 #include "Conditions.h"
 #include "Controls.h"
+#include "HeldKeys.h"
 #include "KZMainCfg.h"
 #include "StepLoop.h"
 #include "changes/FieldEdit.h"
@@ -26,27 +27,6 @@ constexpr int ByKey[] = {
     IDC_NEXT_PANE,       IDC_NEXT_PANE,    IDC_PREVIOUS_PANE, IDC_NEXT_DEVICE,      IDC_NEXT_DEVICE,
     IDC_PREVIOUS_DEVICE, IDC_NEXT_PAGE,    IDC_PREVIOUS_PAGE, IDC_MARK_ALL,         IDC_FIND_CLEAR,
     IDC_GO_FIND,         IDC_FIND_DOWN,    IDC_FIND_ENTER,    IDC_FINDINGS_CLOSE,   IDC_CANCEL_CHECK,
-};
-
-// Holds Ctrl, Shift and Alt as a key wants them.
-class HeldKeys {
-public:
-    explicit HeldKeys(const KeyStroke& key)
-    {
-        std::array<BYTE, 256> keys{};
-        constexpr BYTE down = 0x80;
-        keys[VK_CONTROL] = (key.held & FCONTROL) != 0 ? down : BYTE{0};
-        keys[VK_SHIFT] = (key.held & FSHIFT) != 0 ? down : BYTE{0};
-        keys[VK_MENU] = (key.held & FALT) != 0 ? down : BYTE{0};
-        ::SetKeyboardState(keys.data());
-    }
-    ~HeldKeys()
-    {
-        std::array<BYTE, 256> none{};
-        ::SetKeyboardState(none.data());
-    }
-    HeldKeys(const HeldKeys&) = delete;
-    HeldKeys& operator=(const HeldKeys&) = delete;
 };
 
 }  // namespace
@@ -258,7 +238,8 @@ void WindowUser::Sort()
 void WindowUser::Press()
 {
     const WindowCommand& command = *FindWindowCommand(m_random.Pick(ByKey));
-    const HeldKeys held(command.key);
+    const auto keyFor = [&command](int held, int key) { return (command.key.held & held) != 0 ? key : 0; };
+    const kztest::HeldKeys held({keyFor(FCONTROL, VK_CONTROL), keyFor(FSHIFT, VK_SHIFT), keyFor(FALT, VK_MENU)});
     MSG key{};
     key.hwnd = ::GetFocus();
     key.message = WM_KEYDOWN;
