@@ -4,13 +4,13 @@
 
 #include "KZMainCfg.h"
 #include "changes/UndoList.h"
+#include "project/DocumentFiles.h"
 #include "project/DocumentName.h"
-#include "project/StoredProject.h"
 
 Documents DocumentsIn(const plant::Path& folder)
 {
     Documents documents;
-    for (const auto& [name, file] : plant::StoredProject(folder).Documents())
+    for (const auto& [name, file] : plant::DocumentFilesIn(plant::RealDisk(), folder))
         documents.emplace(name, plant::RealDisk().Read(plant::FileOf(folder, name)).value_or("gone"));
     return documents;
 }
