@@ -86,6 +86,9 @@ window_gone() { probe gone "$1"; }
 until_control() { probe until "$@"; }
 until_menu() { probe menu; }
 
+# mouse_at X Y [XDOTOOL_COMMAND...]: for a mouse that is there already to move, xdotool would wait 15 s
+mouse_at() { xdotool mousemove 0 0 mousemove --sync "$@"; }
+
 # click TITLE ID [ITEM]: with the mouse, on a control or on its tab or row ITEM; click_for_menu with the right button
 click() { click_with 1 "$@"; }
 click_for_menu() {
@@ -97,7 +100,7 @@ click_with() {
   shift
   point=$(probe point "$@") || desktop_die "nothing to click: $*"
   # shellcheck disable=SC2086 # two words, x and y
-  xdotool mousemove --sync $point click "$button"
+  mouse_at $point click "$button"
 }
 key() { xdotool key --clearmodifiers "$@"; }
 type_text() { xdotool type --clearmodifiers "$1"; }
@@ -105,7 +108,7 @@ type_text() { xdotool type --clearmodifiers "$1"; }
 # picture FILE: waits until two pictures in a row are equal, so that nothing is caught half drawn. The mouse moves aside first:
 # what lies under it looks different.
 picture() {
-  xdotool mousemove --sync 1279 1023
+  mouse_at 1279 1023
   import -window root "$1"
   for _ in $(seq 50); do
     mv "$1" "$1.before"

@@ -124,7 +124,7 @@ click_close_box() {
   local x y width title
   while read -r x y width _ _ title; do
     if [[ $title == *"$1"* ]]; then
-      xdotool mousemove --sync $((x + width - 12)) $((y + 13)) click 1
+      mouse_at $((x + width - 12)) $((y + 13)) click 1
       return
     fi
   done < <(probe windows)

@@ -25,10 +25,18 @@ dialog=" - $device"
 
 # One row per step: the function that takes it, which also names the picture, and what the picture shows.
 steps=(
+  "start             The editor without a project"
+  "open              A project is opened by its folder"
   "plant             The editor with the devices of the plant and the values of the marked one"
   "found             Find: the filters that have every word, in whatever text of theirs"
   "several           All filters marked: what differs between them"
   "findings          F7 checks the project, F8 leads to the value that is wrong"
+  "added             A filter is added"
+  "duplicated        Three more are made like one, named by a pattern"
+  "renamed           One of them is called otherwise"
+  "removed           Another one is taken out again"
+  "review            All that is not saved, to be taken back"
+  "modules           The modules that serve the filters, and the state they are in"
   "selection         Select variables: what was chosen earlier is checked and disabled"
   "single_boxes      General page: frequency and a current, box by box"
   "whole_row         Power page: one button takes the whole row of the load side"
@@ -43,6 +51,7 @@ steps=(
   "refused           A limit beyond the range is refused"
   "harmonic_limits   Limits of the harmonics of the net side"
   "saved             Back in the main window; everything is saved"
+  "history           The saves of the project, to go back to"
   "unsaved           An editor that was ended before it saved: the next one offers the changes"
   "noticed           Another program has changed the project meanwhile"
   "foreign           Saving over that change asks"
@@ -52,13 +61,25 @@ steps=(
 
 # The steps that the documents show, each with the picture's name there; it is the window that takes input.
 declare -A documented=(
+  [start]=start [added]=add-device [duplicated]=duplicate-device [review]=review [modules]=modules [history]=history
   [plant]=editor [found]=find [several]=several [findings]=findings [undo]=undo [hub]=options [settings]=device-settings [confirmation]=question [units]=units [limits]=limits-powers
   [refused]=refused [harmonic_limits]=limits-harmonics [single_boxes]=selection-general [whole_row]=selection-power
   [by_keyboard]=selection-harmonics [unsaved]=unsaved [noticed]=changed-elsewhere [foreign]=save-over
 )
 
+step_start() {
+  editor
+  until_control '' $IDC_OPEN shown
+  click '' $IDC_RECENT
+}
+step_open() {
+  click '' $IDC_OPEN
+  until_control '' $IDC_FOLDER_PATH shown
+  fill $IDC_FOLDER_PATH "$(wine_path "$project")"
+}
 step_plant() {
-  open_editor "$project"
+  click '' $IDOK
+  until_control "$main_title" $IDC_DEVICES ITEMS=6
   choose_device 0 $device
 }
 step_found() {
@@ -81,9 +102,55 @@ step_findings() {
   key F8
   until_control "$main_title" $IDC_PAGE_CAPTION 'TEXT=LAB ENSAYOS'
 }
-step_selection() {
+step_added() {
   click "$main_title" $IDC_FINDINGS_CLOSE
   until_control "$main_title" $IDC_DEVICES focused
+  key Insert
+  until_control '' $IDC_ADD_NAME shown
+  fill $IDC_ADD_NAME HORNO
+  fill $IDC_ADD_RATIO 1000
+}
+step_duplicated() {
+  click '' $IDOK
+  until_control "$main_title" $IDC_DEVICES ITEMS=7
+  choose_device 0 $device
+  key ctrl+shift+d
+  until_control '' $IDC_DUPLICATE_COUNT shown
+  fill $IDC_DUPLICATE_COUNT 3
+  until_control '' $IDC_DUPLICATE_DEVICES ITEMS=3
+}
+step_renamed() {
+  click '' $IDOK
+  until_control "$main_title" $IDC_DEVICES ITEMS=10
+  click_for_menu "$main_title" $IDC_DEVICES 7
+  key n
+  until_control '' $IDC_RENAME_NAME shown
+  fill $IDC_RENAME_NAME CALDERA
+}
+step_removed() {
+  click '' $IDOK
+  until_control "$main_title" $IDC_PAGE_CAPTION TEXT=CALDERA
+  click "$main_title" $IDC_DEVICES 8
+  key Delete
+  until_control '' $IDC_REMOVE_DEVICES ITEMS=1
+}
+step_review() {
+  click '' $IDOK
+  until_control "$main_title" $IDC_DEVICES ITEMS=9
+  key ctrl+r
+  until_control '' $IDC_REVIEW_ALL shown
+  click '' $IDC_REVIEW_ALL
+}
+step_modules() {
+  click '' $IDOK
+  until_control "$main_title" $IDC_DEVICES ITEMS=6
+  until_saved
+  key alt+h m
+  until_control '' $IDC_MODULES_LIST ITEMS=1
+}
+step_selection() {
+  key Escape
+  window "$main_title"
   choose_device 0 $device
   open_selection $device
 }
@@ -158,6 +225,10 @@ step_saved() {
   close_dialog "$dialog" $IDOK
   save_project
 }
+step_history() {
+  key alt+f h
+  until_control '' $IDC_HISTORY_SAVES ITEMS=2
+}
 remove_first_variable() {
   show_variables
   click "$main_title" $IDC_CHOSEN
@@ -165,6 +236,8 @@ remove_first_variable() {
   key Home Delete
 }
 step_unsaved() {
+  key Escape
+  window "$main_title"
   remove_first_variable
   until_control "$main_title" $IDC_CHOSEN ITEMS=10
   kill_editor

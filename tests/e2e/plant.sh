@@ -213,3 +213,79 @@ test_look_after_a_plant_by_keyboard() {
   until_control "$main_title" $IDC_SELECT 'TEXT=Select'
   close_editor
 }
+
+copy=$desktop_folder/copy
+
+# The editor without a project: one is opened, copied with what is unsaved, left for the copy and come back to.
+test_move_between_projects_by_mouse() {
+  editor --language "$language"
+  until_control '' $IDC_OPEN shown
+  snapshot start
+  click '' $IDC_OPEN
+  until_control '' $IDC_FOLDER_PATH shown
+  fill $IDC_FOLDER_PATH "$(wine_path "$project")"
+  click '' $IDOK
+  devices 6
+  show_variables
+  click "$main_title" $IDC_CHOSEN
+  until_control "$main_title" $IDC_CHOSEN focused
+  key Home
+  click "$main_title" $IDC_REMOVE
+  until_unsaved
+  key alt+f c
+  until_control '' $IDC_FOLDER_PATH shown
+  fill $IDC_FOLDER_PATH "$(wine_path "$copy")"
+  click '' $IDOK
+  until_unsaved
+  key alt+f o
+  until_control '' $IDC_FOLDER_RECENT ITEMS=1
+  fill $IDC_FOLDER_PATH "$(wine_path "$copy")"
+  snapshot open
+  click '' $IDOK
+  answer $IDNO
+  window '=KZEditor – copy'
+  key alt+f r 2
+  until_saved
+  devices 6
+  click_close_box "$main_title"
+  editor_ended
+  unchanged main.xml
+  equal 'the variables in the copy' "$(project=$copy chosen zep-01 | wc -l)" $(($(chosen zep-01 | wc -l) - 1))
+}
+
+test_move_between_projects_by_keyboard() {
+  editor --language "$language"
+  until_control '' $IDC_OPEN shown
+  key ctrl+o
+  until_control '' $IDC_FOLDER_PATH focused
+  type_text "$(wine_path "$project")"
+  key Return
+  devices 6
+  key ctrl+3
+  until_control "$main_title" $IDC_CHOSEN shown
+  key F6 F6
+  until_control "$main_title" $IDC_CHOSEN focused
+  key Home Delete
+  until_unsaved
+  key alt+a c
+  until_control '' $IDC_FOLDER_PATH focused
+  type_text "$(wine_path "$copy")"
+  key Return
+  until_unsaved
+  key ctrl+o
+  until_control '' $IDC_FOLDER_PATH focused
+  type_text "$(wine_path "$copy")"
+  key Return
+  tab_to "$message_title" $IDNO
+  key space
+  window '=KZEditor – copy'
+  key ctrl+o
+  until_control '' $IDC_FOLDER_RECENT ITEMS=2
+  walk_to '' $IDC_FOLDER_RECENT Tab
+  key Down Return
+  until_saved
+  devices 6
+  close_editor
+  unchanged main.xml
+  equal 'the variables in the copy' "$(project=$copy chosen zep-01 | wc -l)" $(($(chosen zep-01 | wc -l) - 1))
+}
