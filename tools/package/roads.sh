@@ -24,7 +24,8 @@ uninstall='Software\Microsoft\Windows\CurrentVersion\Uninstall\KZEditor'
 folder='Software\Classes\Directory\shell\KZEditor'
 
 fail() { echo "roads.sh: $*" >&2; exit 1; }
-run() { "${wine_pin[@]}" wine "$@" < /dev/null > /dev/null 2>&1; }
+# A program that hangs ends with 124, and its road fails.
+run() { timeout --kill-after=5 300 "${wine_pin[@]}" wine "$@" < /dev/null > /dev/null 2>&1; }
 # status COMMAND...: its exit status
 status() { local result=0; "$@" || result=$?; echo "$result"; }
 # value KEY NAME: what the registry holds
