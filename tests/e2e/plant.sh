@@ -3,6 +3,7 @@
 # be asked of another program, so menus of the bar are opened, and items of all taken, by their access keys here too.
 
 new_plant=$desktop_folder/new/plant
+copy=$desktop_folder/copy
 
 # names: of the new plant's devices, one per line
 names() {
@@ -214,8 +215,6 @@ test_look_after_a_plant_by_keyboard() {
   close_editor
 }
 
-copy=$desktop_folder/copy
-
 # The editor without a project: one is opened, copied with what is unsaved, left for the copy and come back to.
 test_move_between_projects_by_mouse() {
   editor --language "$language"
@@ -281,7 +280,7 @@ test_move_between_projects_by_keyboard() {
   window '=KZEditor – copy'
   key ctrl+o
   until_control '' $IDC_FOLDER_RECENT ITEMS=2
-  walk_to '' $IDC_FOLDER_RECENT Tab
+  tab_to '' $IDC_FOLDER_RECENT
   key Down Return
   until_saved
   devices 6

@@ -76,7 +76,7 @@ LRESULT MainWindow::OnContextMenu(WPARAM wParam, LPARAM lParam)
 {
     if (reinterpret_cast<HWND>(wParam) != m_lstDevices.m_hWnd)
         return Default();
-    // The click that asks for the menu has marked its row just now.
+    // What was marked just now may not have been shown yet.
     OnMarksSettled(0, 0);
     CPoint place(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
     // By the keyboard: below the row that has the focus.

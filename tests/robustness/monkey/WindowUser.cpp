@@ -238,6 +238,7 @@ void WindowUser::Sort()
 void WindowUser::Press()
 {
     const WindowCommand& command = *FindWindowCommand(m_random.Pick(ByKey));
+    // 0 is no key.
     const auto keyFor = [&command](int held, int key) { return (command.key.held & held) != 0 ? key : 0; };
     const kztest::HeldKeys held({keyFor(FCONTROL, VK_CONTROL), keyFor(FSHIFT, VK_SHIFT), keyFor(FALT, VK_MENU)});
     MSG key{};
