@@ -85,6 +85,9 @@ LRESULT CALLBACK ChildPane::ChildProcedure(HWND window, UINT message, WPARAM wPa
         reinterpret_cast<const ChildPane*>(pane)->m_around(handle);
     else
         handle();
+    // What is left in front of a window outlives it in memory.
+    if (message == WM_NCDESTROY)
+        ::RemoveWindowSubclass(window, ChildProcedure, 0);
     return result;
 }
 
