@@ -62,6 +62,7 @@ std::vector<int> ReportList::Widths() const
 {
     constexpr int Many = 1000;
     std::vector<int> widths;
+    widths.reserve(m_columns.size());
     for (int column = 0; column < ColumnCount(); ++column)
         widths.push_back(::MulDiv(GetColumnWidth(column), Many, Pixels(Many)));
     return widths;
