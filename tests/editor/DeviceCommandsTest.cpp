@@ -4,6 +4,7 @@
 #include "HeldKeys.h"
 #include "ListCells.h"
 #include "ModalScript.h"
+#include "OpenMenu.h"
 #include "project/ChosenVariables.h"
 #include "resources/DialogTextIds.h"
 #include "window/add/AddDeviceControls.h"
@@ -42,21 +43,7 @@ protected:
         return plant::ChosenVariables(*KZMainCfg::Get(), m_project.Devices()[place].driverId).size();
     }
 
-    // What the menu that is open offers now, waited for.
-    [[nodiscard]] static std::vector<int> OfferedByTheMenu()
-    {
-        HWND menu = nullptr;
-        if (!kztest::WaitUntil([&] { return ::IsWindowVisible(menu = ::FindWindowW(L"#32768", nullptr)) != FALSE; }))
-            throw std::runtime_error("no menu opens");
-        const auto items = reinterpret_cast<HMENU>(::SendMessageW(menu, MN_GETHMENU, 0, 0));
-        std::vector<int> ids;
-        for (int item = 0; item < ::GetMenuItemCount(items); ++item)
-            if ((::GetMenuState(items, static_cast<UINT>(item), MF_BYPOSITION) & (MF_GRAYED | MF_SEPARATOR)) == 0)
-                ids.push_back(static_cast<int>(::GetMenuItemID(items, item)));
-        return ids;
-    }
-    // A key that is an item's access key.
-    void TypeIntoTheMenu(wchar_t key) const { ::PostMessageW(m_window.m_hWnd, WM_CHAR, static_cast<WPARAM>(key), 1); }
+    void TypeIntoTheMenu(wchar_t key) const { editor_tests::TypeIntoTheMenu(m_window.m_hWnd, key); }
     void ClickRight(int row) const
     {
         RECT place{};
@@ -145,7 +132,7 @@ TEST_F(DeviceCommandsTest, ARightClickOpensTheMenuOfTheDeviceUnderTheMouse)
     ListView_SetItemState(Control(IDC_DEVICES), 1, LVIS_SELECTED, LVIS_SELECTED);
     {
         kztest::ModalScript script([this] {
-            EXPECT_EQ(OfferedByTheMenu(),
+            EXPECT_EQ(editor_tests::OfferedByTheMenu(),
                       (std::vector<int>{IDC_SELECT, IDC_OPTIONS, IDC_ADD_DEVICE, IDC_DUPLICATE_DEVICE,
                                         IDC_RENAME_DEVICE, IDC_REMOVE_DEVICE}));
             TypeIntoTheMenu(L'n');
@@ -165,7 +152,7 @@ TEST_F(DeviceCommandsTest, ShiftF10OpensTheMenuOfTheMarkedDevices)
     ListView_SetItemState(Control(IDC_DEVICES), 1, LVIS_SELECTED, LVIS_SELECTED);
     {
         kztest::ModalScript script([this] {
-            EXPECT_EQ(OfferedByTheMenu(), (std::vector<int>{IDC_ADD_DEVICE, IDC_REMOVE_DEVICE}));
+            EXPECT_EQ(editor_tests::OfferedByTheMenu(), (std::vector<int>{IDC_ADD_DEVICE, IDC_REMOVE_DEVICE}));
             TypeIntoTheMenu(L'v');
             const HWND dialog = kztest::WaitForDialog({m_window.m_hWnd});
             EXPECT_EQ(ListView_GetItemCount(::GetDlgItem(dialog, IDC_REMOVE_DEVICES)), 2);

@@ -12,6 +12,7 @@
 #include "ToolTips.h"
 #include "WorkArea.h"
 #include "changes/DeviceEdit.h"
+#include "project/ChosenVariables.h"
 
 namespace {
 
@@ -145,6 +146,23 @@ TEST_P(MainWindowAccess, CopiesTheMarkedDevices)
     EXPECT_NE(copied.find(m_project.Devices()[0].name.c_str()), std::wstring::npos);
     EXPECT_EQ(copied.find(m_project.Devices()[1].name.c_str()), std::wstring::npos);
     EXPECT_TRUE(copied.starts_with(GetParam() == KZLanguage::English ? L"marked\t1\t" : L"marcado\t1\t"));
+}
+
+TEST_P(MainWindowAccess, CopiesTheMarkedVariables)
+{
+    m_window.ShowPage(PageName::Variables);
+    const plant::VariableList chosen = plant::ChosenVariables(*KZMainCfg::Get(), m_project.Devices().front().driverId);
+    {
+        const kztest::HeldKeys held({VK_CONTROL});
+        ::SendMessageW(Control(IDC_CHOSEN), WM_KEYDOWN, 'A', 1);
+        ::SendMessageW(Control(IDC_CHOSEN), WM_KEYDOWN, 'C', 1);
+    }
+    std::wstring names;
+    for (const KZBasicString& name : chosen)
+        names.append(name.View()).append(L"\r\n");
+    EXPECT_FALSE(names.empty());
+    EXPECT_EQ(editor_tests::ClipboardText(), names);
+    EXPECT_TRUE(::IsWindowEnabled(Control(IDC_REMOVE)));
 }
 
 TEST_P(MainWindowAccess, OpensTheOptionsByAltAndEnter)

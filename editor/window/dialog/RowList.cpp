@@ -3,20 +3,6 @@
 #include <algorithm>
 
 #include "Clipboard.h"
-#include "resources/DialogTextIds.h"
-#include "text/EditorText.h"
-
-namespace {
-
-constexpr UINT CommandCopy = 1;
-constexpr UINT CommandMarkAll = 2;
-
-bool IsDown(int key)
-{
-    return ::GetKeyState(key) < 0;
-}
-
-}  // namespace
 
 BEGIN_MESSAGE_MAP(RowList, ReportList)
     ON_MESSAGE(WM_KEYDOWN, &RowList::OnKeyDown)
@@ -89,11 +75,9 @@ bool RowList::Answer(const NMHDR& header, LRESULT& result)
 
 LRESULT RowList::OnKeyDown(WPARAM key, LPARAM)
 {
-    const bool hasControl = IsDown(VK_CONTROL) && !IsDown(VK_SHIFT) && !IsDown(VK_MENU);
-    if (hasControl && key == 'C')
-        CopyMarked();
-    else if (hasControl && key == 'A')
-        MarkAll();
+    const ListCommand command = CommandOfListKey(key);
+    if (command != ListCommand::None)
+        Do(command);
     else if (key == VK_SPACE && m_check)
         ToggleMarked();
     else
@@ -129,33 +113,21 @@ void RowList::ToggleMarked()
 
 LRESULT RowList::OnContextMenu(WPARAM, LPARAM place)
 {
-    CPoint at(static_cast<short>(LOWORD(place)), static_cast<short>(HIWORD(place)));
-    if (place == -1) {  // by the keyboard
-        at = CPoint(0, 0);
-        ClientToScreen(&at);
-    }
-    const bool canCopy = Marked() >= 0;
-    CMenu menu;
-    menu.Attach(::CreatePopupMenu());
-    ::AppendMenuW(menu, canCopy ? MF_STRING : MF_GRAYED, CommandCopy, EditorText(IDS_LIST_COPY).c_str());
-    if ((GetStyle() & LVS_SINGLESEL) == 0)
-        ::AppendMenuW(menu, MF_STRING, CommandMarkAll, EditorText(IDS_LIST_MARK_ALL).c_str());
-    switch (::TrackPopupMenu(menu, TPM_RETURNCMD, at.x, at.y, 0, m_hWnd, nullptr)) {
-    case CommandCopy:
-        CopyMarked();
-        break;
-    case CommandMarkAll:
-        MarkAll();
-        break;
-    default:
-        break;
-    }
+    Do(AskListCommand(*this, place, {Marked() >= 0, MarksMany()}));
     return 0;
+}
+
+void RowList::Do(ListCommand command)
+{
+    if (command == ListCommand::Copy)
+        CopyMarked();
+    else if (command == ListCommand::MarkAll)
+        MarkAll();
 }
 
 void RowList::MarkAll()
 {
-    if ((GetStyle() & LVS_SINGLESEL) == 0)
+    if (MarksMany())
         SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "ListCommands.h"
 #include "window/ReportList.h"
 
 class RowList : public ReportList {
@@ -46,6 +47,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    [[nodiscard]] bool MarksMany() const { return (GetStyle() & LVS_SINGLESEL) == 0; }
+    void Do(ListCommand command);
     void CopyMarked();
     void ToggleMarked();
 

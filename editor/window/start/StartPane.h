@@ -1,12 +1,10 @@
 // What the main window shows while no project is open: buttons for making and opening one, and the recent ones.
 #pragma once
 
-#include <afxwin.h>
-
-#include <string>
 #include <vector>
 
 #include "CutTextTips.h"
+#include "window/dialog/TextListBox.h"
 
 class StartPane : public CDialog {
 public:
@@ -31,6 +29,6 @@ protected:
 private:
     void Arrange();
 
-    CListBox m_lstRecent;
+    TextListBox m_lstRecent;
     CutTextTips m_tips;
 };

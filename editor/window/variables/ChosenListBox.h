@@ -1,12 +1,11 @@
 // The list box of the selected device's chosen variables, in which the user can mark several.
 #pragma once
 
-#include <afxwin.h>
-
 #include "CutTextTips.h"
 #include "project/ChosenVariables.h"
+#include "window/dialog/TextListBox.h"
 
-class ChosenListBox : public CListBox {
+class ChosenListBox : public TextListBox {
 public:
     void Show(const plant::VariableList& variables);
 
