@@ -9,7 +9,7 @@ from collections import Counter
 
 FOLDERS = ("module", "host", "access", "mfc", "plant", "editor")
 # Per cent of lines and branches.
-GOALS = {"module": {"line": 100, "branch": 98}}
+GOALS = {"module": {"line": 100, "branch": 98.5}}
 
 
 def counts(files):
