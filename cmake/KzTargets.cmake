@@ -52,13 +52,14 @@ if(WIN32)
   target_link_libraries(kz_window_headers PRIVATE KZMfc)
 endif()
 
-# What a release build ships: without the time of the build, which objcopy and strip write too unless told -p, and with its symbols in
-# symbols/FILE.debug, known by the id in both.
+# What ships has an id, which reports of crashes name. A release build makes it without the time of the build, which objcopy and strip
+# write too unless told -p, and with its symbols in symbols/FILE.debug, known by the id in both.
 function(kz_shipped target)
+  target_link_options(${target} PRIVATE -Wl,--build-id)
   if(NOT CMAKE_BUILD_TYPE STREQUAL Release)
     return()
   endif()
-  target_link_options(${target} PRIVATE -Wl,--no-insert-timestamp -Wl,--build-id)
+  target_link_options(${target} PRIVATE -Wl,--no-insert-timestamp)
   set(symbols ${CMAKE_BINARY_DIR}/symbols)
   add_custom_command(TARGET ${target} POST_BUILD VERBATIM
     COMMAND ${CMAKE_COMMAND} -E make_directory ${symbols}

@@ -15,7 +15,7 @@ double ParseNumber(const wchar_t* text)
     const bool isOutsideAscii = static_cast<unsigned char>(separator.front()) > 0x7F;
     std::string copy;
     for (; *text; ++text) {
-        if (*text > L'\0' && *text <= L'\x7F')
+        if (static_cast<unsigned>(*text) <= 0x7F)
             copy += static_cast<char>(*text);
         else if (isOutsideAscii)
             copy += separator;  // no other character outside ASCII can stand in a number

@@ -28,7 +28,7 @@ void TabContainer::SetImages(CImageList& images, std::initializer_list<const wch
 {
     m_images = &images;
     m_imageFiles = fileNames;
-    CreateTabImages(images, m_imageFiles);
+    m_imageCount = CreateTabImages(images, m_imageFiles);
     m_tab.SetImageList(&images);
 }
 
@@ -37,7 +37,8 @@ void TabContainer::LoadImages() noexcept
 {
     try {
         CImageList fresh;
-        CreateTabImages(fresh, m_imageFiles);
+        if (CreateTabImages(fresh, m_imageFiles) < m_imageCount)
+            return;
         m_tab.SendMessage(TCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(fresh.GetSafeHandle()));
         m_images->DeleteImageList();
         m_images->Attach(fresh.Detach());
@@ -62,9 +63,8 @@ void TabContainer::ShowSelected()
 {
     TabPage* const previous = m_current;
     const bool hadFocus = previous && ::IsChild(previous->m_hWnd, ::GetFocus());
-    const int tab = m_tab.GetCurSel();
-    const bool hasPage = tab >= 0 && static_cast<std::size_t>(tab) < m_pages.size();
-    m_current = hasPage ? m_pages[static_cast<std::size_t>(tab)].page : nullptr;
+    const auto tab = static_cast<std::size_t>(m_tab.GetCurSel());  // none is beyond all
+    m_current = tab < m_pages.size() ? m_pages[tab].page : nullptr;
     if (m_current) {
         m_current->Show();
         m_current->BringWindowToTop();

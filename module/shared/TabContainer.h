@@ -67,6 +67,7 @@ private:
     std::vector<Tab> m_pages;  // in tab order
     CImageList* m_images = nullptr;
     std::vector<const wchar_t*> m_imageFiles;
+    int m_imageCount = 0;  // of those that were found
     bool m_layingOut = false;
     DialogAccess m_access;
 };

@@ -13,10 +13,11 @@ bool CreateLike(CImageList& list, CBitmap& bitmap)
 
 }  // namespace
 
-void CreateTabImages(CImageList& list, const std::vector<const wchar_t*>& fileNames)
+int CreateTabImages(CImageList& list, const std::vector<const wchar_t*>& fileNames)
 {
     const KZBasicString folder = KZQuorvelantaSetup::Get()->getImageFilePath();
     int place = 0;
+    int found = 0;
     for (const wchar_t* fileName : fileNames) {
         ++place;
         CBitmap bitmap;
@@ -24,8 +25,10 @@ void CreateTabImages(CImageList& list, const std::vector<const wchar_t*>& fileNa
         if (!CImageButton::GetBitmap(folder + fileName, bitmap, &transparent))
             continue;
         if (!list.GetSafeHandle() && !CreateLike(list, bitmap))
-            return;
+            return found;
         ::ImageList_SetImageCount(list.GetSafeHandle(), static_cast<UINT>(place - 1));
-        list.Add(&bitmap, transparent);
+        if (list.Add(&bitmap, transparent) >= 0)
+            ++found;
     }
+    return found;
 }

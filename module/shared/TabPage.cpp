@@ -27,8 +27,6 @@ void TabPage::Show()
     ShowWindow(SW_SHOW);
 }
 
-void TabPage::NameControls(AccessibleNames&, const KZBasicString&) {}
-
 bool TabPage::Walk(HWND, WPARAM)
 {
     return false;
@@ -45,7 +43,7 @@ void TabPage::LayoutNow()
 {
     CRect client;
     GetClientRect(&client);
-    if (client.Width() == m_laidOut.cx && client.Height() == m_laidOut.cy)
+    if (client.Size() == m_laidOut)
         return;
     m_laidOut = client.Size();
     LayoutPlan plan(*this);

@@ -24,7 +24,7 @@ public:
 
     // Names the controls that neither their text nor a label names.
     //   title   the text of the page's tab
-    virtual void NameControls(AccessibleNames& names, const KZBasicString& title);
+    virtual void NameControls(AccessibleNames& names, const KZBasicString& title) = 0;
     // Moves the focus from a control of the page where an arrow key leads. Returns whether the page has used the key.
     virtual bool Walk(HWND control, WPARAM key);
 

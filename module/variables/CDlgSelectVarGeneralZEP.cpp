@@ -12,6 +12,5 @@ CDlgSelectVarGeneralZEP::CDlgSelectVarGeneralZEP(KZDriverDeviceZEP* device, cons
 void CDlgSelectVarGeneralZEP::OnSize(UINT type, int cx, int cy)
 {
     SelectVarPage::OnSize(type, cx, cy);
-    if (GetSafeHwnd())
-        LayoutControls();
+    LayoutControls();
 }

@@ -9,6 +9,5 @@ CDlgSelectVarPowerZEP::CDlgSelectVarPowerZEP(KZDriverDeviceZEP* device) : Select
 void CDlgSelectVarPowerZEP::OnSize(UINT type, int cx, int cy)
 {
     SelectVarPage::OnSize(type, cx, cy);
-    if (GetSafeHwnd())
-        LayoutControls();
+    LayoutControls();
 }

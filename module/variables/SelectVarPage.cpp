@@ -234,8 +234,7 @@ bool SelectVarPage::Toggle(const SelectionCommand& command)
 
 LRESULT SelectVarPage::SendToContainer(UINT message, std::size_t count) const
 {
-    const CWnd* container = GetParent();
-    return container ? ::SendMessageW(container->m_hWnd, message, count, 0) : 0;
+    return ::SendMessageW(::GetParent(m_hWnd), message, count, 0);
 }
 
 // The picture is the same whatever the state of the rows, and it is named without the image folder: the button looks a

@@ -57,8 +57,7 @@ private:
     static CSize SizeOf(const CWnd& page, int id)
     {
         CRect rect(0, 0, 0, 0);
-        if (const CWnd* control = page.GetDlgItem(id))
-            control->GetWindowRect(&rect);
+        ::GetWindowRect(::GetDlgItem(page.m_hWnd, id), &rect);
         return rect.Size();
     }
 

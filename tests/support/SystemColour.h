@@ -5,7 +5,7 @@
 
 namespace kztest {
 
-// As this thread's windows see it. The system's own notice would go to all windows; tests send it by hand.
+// The system tells all top-level windows of it.
 class SystemColour {
 public:
     SystemColour(int index, COLORREF colour) : m_index(index), m_before(::GetSysColor(index)) { Set(colour); }

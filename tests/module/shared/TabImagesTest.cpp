@@ -29,7 +29,7 @@ private:
 
 TEST_F(TabImages, AreAsLargeAsTheFirstPicture)
 {
-    CreateTabImages(m_list, {L"there.png", L"there.png"});
+    EXPECT_EQ(CreateTabImages(m_list, {L"there.png", L"there.png"}), 2);
     int width = 0;
     int height = 0;
     ASSERT_TRUE(::ImageList_GetIconSize(m_list.GetSafeHandle(), &width, &height));
@@ -40,13 +40,13 @@ TEST_F(TabImages, AreAsLargeAsTheFirstPicture)
 
 TEST_F(TabImages, KeepThePlaceOfAPictureThatIsMissing)
 {
-    CreateTabImages(m_list, {L"missing.png", L"missing.png", L"there.png"});
+    EXPECT_EQ(CreateTabImages(m_list, {L"missing.png", L"missing.png", L"there.png"}), 1);
     EXPECT_EQ(m_list.GetImageCount(), 3);
 }
 
 TEST_F(TabImages, AreNoListWhenAllPicturesAreMissing)
 {
-    CreateTabImages(m_list, {L"missing.png", L"missing.png"});
+    EXPECT_EQ(CreateTabImages(m_list, {L"missing.png", L"missing.png"}), 0);
     EXPECT_EQ(m_list.GetSafeHandle(), nullptr);
 }
 

@@ -32,6 +32,7 @@ protected:
         return TRUE;
     }
     void PlanLayout(LayoutPlan&) override {}
+    void NameControls(AccessibleNames&, const KZBasicString&) override {}
 };
 
 class TabPages : public testing::Test {

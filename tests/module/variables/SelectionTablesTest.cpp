@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "SelectVarControls.h"
+#include "SelectionGrid.h"
+
 namespace zep {
 namespace {
 
@@ -134,6 +137,13 @@ TEST(SelectionCommands, AllButtonCoversEveryPhaseAndTheOthersOneEach)
     EXPECT_EQ(CommandOf(Power, 6714), (SelectionCommand{std::nullopt, Side::Net, 0}));
     EXPECT_EQ(CommandOf(Power, 6716), (SelectionCommand{std::nullopt, Side::Net, 2}));
     EXPECT_EQ(CommandOf(Power, 6770), (SelectionCommand{std::nullopt, Side::Load, 2}));
+}
+
+TEST(SelectionGrids, HaveNoPlaceForWhatIsNoControlOfTheirs)
+{
+    for (const SelectionTable* table : {&General, &Power, &Harmonic})
+        for (const int id : {0, 1, IDC_SELECTVAR_TAB})
+            EXPECT_FALSE(PlaceInGrid(*table, id)) << id;
 }
 
 TEST(SelectionCommands, FindTheRowOfEachButtonAndBox)
