@@ -227,6 +227,7 @@ protected:
 TEST_F(RandomChanges, AreUndoneAndRedoneToTheSameBytes)
 {
     const long steps = endurance::Rounds(600, 100'000);
+    const long stepsPerWalk = std::max(200L, steps / 100);  // each goes a thousand steps back and forth
     m_states.push_back(Shown());
     for (long step = 0; step < steps; ++step) {
         SCOPED_TRACE("step " + std::to_string(step));
@@ -242,7 +243,7 @@ TEST_F(RandomChanges, AreUndoneAndRedoneToTheSameBytes)
         if (step % 10 == 0) {
             ASSERT_NO_FATAL_FAILURE(CheckUnsaved());
         }
-        if (step % 200 == 199) {
+        if (step % stepsPerWalk == stepsPerWalk - 1) {
             ASSERT_NO_FATAL_FAILURE(WalkAllTheWay());
         }
     }
