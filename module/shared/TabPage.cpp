@@ -43,7 +43,7 @@ void TabPage::LayoutNow()
 {
     CRect client;
     GetClientRect(&client);
-    if (client.Size() == m_laidOut)
+    if (client.Width() == m_laidOut.cx && client.Height() == m_laidOut.cy)
         return;
     m_laidOut = client.Size();
     LayoutPlan plan(*this);
