@@ -43,9 +43,10 @@ void TabPage::LayoutNow()
 {
     CRect client;
     GetClientRect(&client);
-    if (client.Width() == m_laidOut.cx && client.Height() == m_laidOut.cy)
+    const SIZE size = client.Size();
+    if (m_laidOut == size)
         return;
-    m_laidOut = client.Size();
+    m_laidOut = size;
     LayoutPlan plan(*this);
     PlanLayout(plan);
     plan.Apply();
