@@ -30,6 +30,7 @@ forget_the_past "$native"
 forget_the_past "$windows"
 
 run_tests "$native" native
+# Other resolutions and users take the same lines.
 run_tests "$windows" wine -LE 'dpi|locale'
 run_tests "$windows" e2e
 
