@@ -26,7 +26,7 @@ ListCommand CommandOfListKey(WPARAM key)
 
 ListCommand AskListCommand(const CWnd& list, LPARAM place, const ListOffer& offer)
 {
-    CPoint at(place);
+    CPoint at(static_cast<short>(LOWORD(place)), static_cast<short>(HIWORD(place)));
     if (place == -1) {  // by the keyboard
         at = CPoint(0, 0);
         list.ClientToScreen(&at);

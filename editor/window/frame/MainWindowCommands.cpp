@@ -78,7 +78,7 @@ LRESULT MainWindow::OnContextMenu(WPARAM wParam, LPARAM lParam)
         return Default();
     // What was marked just now may not have been shown yet.
     OnMarksSettled(0, 0);
-    CPoint place(lParam);
+    CPoint place(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
     // By the keyboard: below the row that has the focus.
     if (lParam == -1) {
         CRect row(LVIR_LABEL, 0, 0, 0);
